@@ -1,0 +1,30 @@
+# SPDX-License-Identifier: MPL-2.0
+# Compiler options as targets: nothing here is global, a target takes what it links.
+include_guard(GLOBAL)
+
+option(VOCALYNE_AVERTISSEMENTS_EN_ERREURS "Treat warnings as errors" OFF)
+option(VOCALYNE_ASSAINISSEURS "Build with the address and undefined-behaviour sanitizers" OFF)
+
+# What every target of ours is compiled and linked with; not installed.
+add_library(vocalyne_options INTERFACE)
+target_compile_features(vocalyne_options INTERFACE cxx_std_17)
+target_compile_options(vocalyne_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual
+  -Wconversion -Wno-sign-conversion -Wimplicit-fallthrough
+  $<$<BOOL:${VOCALYNE_AVERTISSEMENTS_EN_ERREURS}>:-Werror>
+  -fvisibility=hidden -fvisibility-inlines-hidden)
+target_link_options(vocalyne_options INTERFACE LINKER:--no-undefined LINKER:--as-needed)
+target_compile_definitions(vocalyne_options INTERFACE
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS)
+if(VOCALYNE_ASSAINISSEURS)
+  target_compile_options(vocalyne_options INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(vocalyne_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# One layout for the build tree and for an installed prefix, so that programs find the plug-in and
+# the libraries by the same relative paths in both.
+include(GNUInstallDirs)
+set(VOCALYNE_DOSSIER_GREFFONS "${CMAKE_INSTALL_LIBDIR}/vocalyne")
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_BINDIR}")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR}")
