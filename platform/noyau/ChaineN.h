@@ -59,7 +59,11 @@ class VOCALYNE_NOYAU ChaineN {
 };
 
 /// Converts between the host's two strings; the text is shared, not copied.
-inline ChaineN T(UniChaine const& texte) { return ChaineN(texte.VersQString()); }
-inline UniChaine T(ChaineN const& texte) { return UniChaine(texte.VersQString()); }
+inline ChaineN T(UniChaine const& texte) {
+    return ChaineN(texte.VersQString());
+}
+inline UniChaine T(ChaineN const& texte) {
+    return UniChaine(texte.VersQString());
+}
 
 } // namespace sdd

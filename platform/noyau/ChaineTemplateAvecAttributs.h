@@ -95,8 +95,8 @@ class ChaineTemplateAvecAttributs {
             nouvelles.push_back({p.debut + debut, p.fin + debut, p.attribut});
         for (auto const& p : plages_) {
             if (p.fin > fin)
-                nouvelles.push_back({std::max(p.debut, fin) + decalage, p.fin + decalage,
-                                     p.attribut});
+                nouvelles.push_back(
+                    {std::max(p.debut, fin) + decalage, p.fin + decalage, p.attribut});
         }
         texte_.Remplace(debut, longueur, texte.texte_);
         plages_ = std::move(nouvelles);

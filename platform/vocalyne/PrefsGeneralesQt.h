@@ -25,8 +25,8 @@ enum ePrefsGenAcces : int {
 /// lock file). One object on one thread at a time.
 class VOCALYNE_OUTILS PrefsGeneralesQt {
   public:
-    /// Opens the file at `chemin` (kept as given, not cleaned). A missing or unreadable file, or one
-    /// that does not parse, reads as having no keys.
+    /// Opens the file at `chemin` (kept as given, not cleaned). A missing or unreadable file, or
+    /// one that does not parse, reads as having no keys.
     PrefsGeneralesQt(UniChaine const& chemin, ePrefsGenMode mode, ePrefsGenAcces acces,
                      QSettings::Format format);
     ~PrefsGeneralesQt();

@@ -10,14 +10,16 @@
 #include <utility>
 
 /// A translation domain: the locale that holds its messages, and the resource path of the catalog
-/// in use. Owned by the library that made it; it lives until the process ends.
+/// in use. Owned by the translation library: it lives until the process ends, or until a domain is
+/// made anew for the same slot (a connector that was unloaded and loaded again).
 using DomaineDeTraduction = std::pair<std::locale*, UniChaine>;
 
 /// Keeps a loader of translation domains and runs it at once; it is run again each time the display
 /// language is fixed anew. Not thread-safe: called while libraries are loaded, on one thread.
 ///
-/// A loader that comes from a library which may be unloaded must be withdrawn before that:
-/// `RetireDesDomainesDeTraduction` with the address that was given.
+/// A plain function is kept by its address, and forgotten once the library that it came from is
+/// unloaded; given again, it is kept once. Any other callable must stay valid until the process
+/// ends.
 VOCALYNE_OUTILS void AjouterAuxDomainesDeTraduction(std::function<void()> chargeur);
 
 /// Offers the catalog (gettext .mo) at a resource path for a language.
@@ -25,8 +27,8 @@ VOCALYNE_OUTILS void AjouterAuxDomainesDeTraduction(std::function<void()> charge
 /// The first call for a domain makes the domain and writes its address to `*domaine`; it serves the
 /// messages' own identifiers (French text) until a catalog is loaded. The catalog is loaded when
 /// `langue` is the display language, or whatever the language when `quelleQueSoitLaLangue`. A
-/// catalog that is missing or that cannot be read leaves the domain as it was. The bytes are copied:
-/// the resource may go away afterwards.
+/// catalog that is missing or that cannot be read leaves the domain as it was. The bytes are
+/// copied: the resource may go away afterwards.
 VOCALYNE_OUTILS void InitLocaleAvecQRC(DomaineDeTraduction** domaine, UniChaine const& chemin,
                                        eLangue langue, bool quelleQueSoitLaLangue);
 
