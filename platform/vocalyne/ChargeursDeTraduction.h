@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+/// The loaders of translation domains, in the order in which they were given.
+///
+/// They come from connectors, which are unloaded while this list lives on: a plain function is
+/// called only while the library that it came from is still the one at its address.
+class ChargeursDeTraduction {
+  public:
+    /// Keeps a loader and runs it. A plain function given again is kept once.
+    void Ajoute(std::function<void()> const& chargeur);
+
+    /// Runs every loader whose code is still there and forgets the others.
+    void Execute();
+
+    int DonneNombre() const noexcept { return static_cast<int>(chargeurs_.size()); }
+
+  private:
+    using Fonction = void (*)();
+
+    struct Chargeur {
+        Fonction fonction;           ///< null when `autre` holds the callable
+        std::string bibliotheque;    ///< where the function's code came from, see CodeEn
+        std::function<void()> autre; ///< never set for a plain function: its copy, and even its
+                                     ///< destruction, would run code of the library it came from
+    };
+
+    /// Identifies the library mapped at `fonction`; empty when nothing is.
+    static std::string CodeEn(Fonction fonction);
+
+    std::vector<Chargeur> chargeurs_;
+};

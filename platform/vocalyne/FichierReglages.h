@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include <QSettings>
+#include <QString>
+#include <QVariant>
+
+#include <map>
+#include <memory>
+#include <optional>
+
+/// A Qt settings file that is opened when it is first needed, never created by reading, and never
+/// rewritten when something in it would be lost by that. One object on one thread at a time.
+class FichierReglages {
+  public:
+    /// What to write: a value for a key, or nothing to take the key out.
+    using Changements = std::map<QString, std::optional<QVariant>>;
+
+    FichierReglages(QString chemin, QSettings::Format format);
+
+    /// The value of a key. `relis` looks whether the file changed since it was last read.
+    std::optional<QVariant> Lis(QString const& cle, bool relis);
+
+    /// Writes the changes at once and keeps the file's other keys. False when it cannot be
+    /// written, or stands there and cannot be read whole; the file is then left as it was.
+    bool Ecris(Changements const& changements);
+
+  private:
+    bool EstLisibleEntier() const;
+
+    QString chemin_;
+    QSettings::Format format_;
+    std::unique_ptr<QSettings> lecture_;
+};

@@ -1,0 +1,5 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+/// Has the translation loaders run again, for a display language that changed.
+void RechargeDomainesDeTraduction();

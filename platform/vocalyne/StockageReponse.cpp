@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "StockageReponse.h"
+
+#include "FichierReglages.h"
+
+#include <QUrl>
+
+#include <memory>
+
+namespace {
+
+class StockeurMemoire final : public StockeurReponse {
+  public:
+    std::optional<int> Donne(UniChaine const& dialogue) const override {
+        auto const reponse = reponses_.find(dialogue);
+        return reponse != reponses_.end() ? std::make_optional(reponse->second) : std::nullopt;
+    }
+    bool Mets(UniChaine const& dialogue, int reponse) override {
+        reponses_[dialogue] = reponse;
+        return true;
+    }
+    void Oublie(UniChaine const& dialogue) override { reponses_.erase(dialogue); }
+
+  private:
+    std::map<UniChaine, int> reponses_;
+};
+
+class StockeurReglages final : public StockeurReponse {
+  public:
+    StockeurReglages(UniChaine const& chemin, QSettings::Format format)
+        : fichier_(chemin.VersQString(), format) {}
+
+    std::optional<int> Donne(UniChaine const& dialogue) const override {
+        auto const valeur = fichier_.Lis(Cle(dialogue), true);
+        bool estEntier = false;
+        int const reponse = valeur ? valeur->toInt(&estEntier) : 0;
+        return estEntier ? std::make_optional(reponse) : std::nullopt;
+    }
+    bool Mets(UniChaine const& dialogue, int reponse) override {
+        return fichier_.Ecris({{Cle(dialogue), QVariant(reponse)}});
+    }
+    void Oublie(UniChaine const& dialogue) override {
+        if (fichier_.Lis(Cle(dialogue), true))
+            fichier_.Ecris({{Cle(dialogue), std::nullopt}});
+    }
+
+  private:
+    /// A dialogue's name may hold what a settings key may not, "/" above all.
+    static QString Cle(UniChaine const& dialogue) {
+        return QStringLiteral("ReponsesMemorisees/Dialogue.") +
+               QString::fromLatin1(QUrl::toPercentEncoding(dialogue.VersQString()));
+    }
+
+    mutable FichierReglages fichier_; // opening and reading again change nothing seen from outside
+};
+
+} // namespace
+
+std::map<DDialogue::eTypStockeur, StockeurReponse*> StockageReponse::laListeStockeurDefaut;
+
+StockeurReponse::~StockeurReponse() = default;
+
+void StockageReponse::Initialise(DDialogue::eTypStockeur type, UniChaine const& chemin,
+                                 QSettings::Format format) {
+    std::unique_ptr<StockeurReponse> stockeur;
+    if (type == DDialogue::kStockeurReglages)
+        stockeur = std::make_unique<StockeurReglages>(chemin, format);
+    else
+        stockeur = std::make_unique<StockeurMemoire>();
+    auto& place = laListeStockeurDefaut[type];
+    delete place;
+    place = stockeur.release();
+}
