@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "Intervalle.h"
+#include "PlagesDeStyle.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace compagnon {
+
+/// Largest zone document that may leave, in bytes. The bus drops the sender of a message of
+/// 128 MiB, and readers hang on one a few dozen bytes shorter: the margin holds the message's
+/// header with room to spare.
+inline constexpr std::size_t kLimiteReponse = 128 * std::size_t{1024} * 1024 - 64 * 1024;
+
+/// Writes the reply of "SynchronisePositions" (protocol/README.md), zone by zone: plain ASCII, all
+/// texts in Base64. Linear in what is written. Texts are made transportable on the way (`Utf.h`).
+class EcrivainZones {
+  public:
+    /// `limite`: bytes that the finished document may have.
+    explicit EcrivainZones(std::size_t limite = kLimiteReponse);
+
+    /// Appends one zone. `nom` in UTF-8; positions are written as they are given; runs in order
+    /// (`PlagesDeStyle` keeps them merged). False once the limit is passed: the document is lost
+    /// then, its memory given back, and every later call answers false too.
+    bool Ajoute(std::string_view nom, std::u16string_view texte, Intervalle selection,
+                std::vector<PlageDeStyle> const& styles = {});
+
+    /// The finished document; nothing when the limit was passed. The writer is used up.
+    std::optional<std::string> Termine();
+
+  private:
+    bool Abandonne();
+
+    std::size_t limite_;
+    bool depasse_ = false;
+    bool premiere_ = true;
+    std::string document_;
+    std::string octets_; // UTF-8 of the text in hand, kept to reuse its memory
+};
+
+} // namespace compagnon

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "Intervalle.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace compagnon {
+
+/// Style bits of the zone document (see protocol/README.md).
+enum StyleDeTexte : std::uint16_t {
+    kStyleGras = 1,
+    kStyleItalique = 2,
+    kStyleSouligne = 4,
+    kStyleBarre = 8,
+    kStyleExposant = 16,
+    kStyleIndice = 32,
+    kStyleSansCorrection = 64,
+};
+
+struct PlageDeStyle {
+    std::int32_t debut = 0;
+    std::int32_t fin = 0;
+    std::uint16_t style = 0;
+
+    friend bool operator==(PlageDeStyle const& a, PlageDeStyle const& b) noexcept {
+        return a.debut == b.debut && a.fin == b.fin && a.style == b.style;
+    }
+};
+
+/// A zone's style runs: in order, never empty, never overlapping, never style 0, and two that touch
+/// always differ.
+class PlagesDeStyle {
+  public:
+    /// Adds a run after those already there; merged with the last one where they touch and are
+    /// equal. An empty run, style 0, or a run that starts before the last one's end adds nothing
+    /// (false for the last).
+    bool Ajoute(std::int32_t debut, std::int32_t fin, std::uint16_t style);
+
+    /// Follows an edit of the text: `plage` (inside the text) was replaced by `longueur` units. New
+    /// letters take the style of the first one replaced; where nothing was replaced, that of the
+    /// letter before, as when typing, or of the letter after at the text's very start.
+    void Remplace(Intervalle plage, std::size_t longueur);
+
+    std::vector<PlageDeStyle> const& Donne() const noexcept { return plages_; }
+    void Vide() noexcept { plages_.clear(); }
+
+  private:
+    std::uint16_t StyleEn(std::int32_t position) const noexcept;
+
+    std::vector<PlageDeStyle> plages_;
+};
+
+} // namespace compagnon
