@@ -5,6 +5,9 @@ include_guard(GLOBAL)
 option(VOCALYNE_AVERTISSEMENTS_EN_ERREURS "Treat warnings as errors" OFF)
 option(VOCALYNE_ASSAINISSEURS "Build with the address and undefined-behaviour sanitizers" OFF)
 
+# Said in full on the command line, for tools whose default standard is another.
+set(CMAKE_CXX_EXTENSIONS OFF)
+
 # What every target of ours is compiled and linked with; not installed.
 add_library(vocalyne_options INTERFACE)
 target_compile_features(vocalyne_options INTERFACE cxx_std_17)

@@ -79,13 +79,6 @@ arreteProcessus() {
     wait "$1" 2>/dev/null || true
 }
 
-# dossierTemporaire VARIABLE: makes a private folder, removed at the end.
-dossierTemporaire() {
-    local -n nomDeVariable=$1
-    nomDeVariable=$(mktemp -d "${TMPDIR:-/tmp}/vocalyne.XXXXXX")
-    aLaFin rm -rf "$nomDeVariable"
-}
-
 # Compilation results are shared between clones and between runs, where ccache is there.
 emploieCcache() {
     command -v ccache >/dev/null || return 0
