@@ -64,5 +64,19 @@ void UniChaine::Abrege(int longueurMax) {
 }
 
 std::string UniChaine::VersUtf8() const {
-    return texte_.toUtf8().toStdString();
+    // By pieces: Qt sets room for three bytes a unit aside, next to the copy made here, and replies
+    // of 100 MiB pass through this function.
+    constexpr int kMorceau = 1 << 16;
+    std::string octets;
+    octets.reserve(static_cast<std::size_t>(Longueur()));
+    for (int debut = 0; debut < Longueur();) {
+        int taille = std::min(kMorceau, Longueur() - debut);
+        if (debut + taille < Longueur() && texte_.at(debut + taille).isLowSurrogate() &&
+            texte_.at(debut + taille - 1).isHighSurrogate())
+            --taille;
+        auto const morceau = QString::fromRawData(texte_.constData() + debut, taille).toUtf8();
+        octets.append(morceau.constData(), static_cast<std::size_t>(morceau.size()));
+        debut += taille;
+    }
+    return octets;
 }
