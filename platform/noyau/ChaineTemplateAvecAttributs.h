@@ -83,6 +83,8 @@ class ChaineTemplateAvecAttributs {
         if (debut < 0 || debut > Longueur() || longueur < 0)
             return false;
         longueur = std::min(longueur, Longueur() - debut);
+        if (longueur == 0 && texte.Longueur() == 0)
+            return true; // nothing is cut
         int const fin = debut + longueur;
         int const decalage = texte.Longueur() - longueur;
         Plages nouvelles;

@@ -4,21 +4,21 @@
 #include <dlfcn.h>
 
 #include <algorithm>
+#include <utility>
 
-void ChargeursDeTraduction::Ajoute(std::function<void()> const& chargeur) {
+void ChargeursDeTraduction::Ajoute(std::function<void()> chargeur) {
     if (!chargeur)
         return;
-    if (auto const* const fonction = chargeur.target<Fonction>()) {
-        auto const connu =
-            std::find_if(chargeurs_.begin(), chargeurs_.end(),
-                         [fonction](Chargeur const& c) { return c.fonction == *fonction; });
-        if (connu != chargeurs_.end())
-            chargeurs_.erase(connu);
-        chargeurs_.push_back({*fonction, CodeEn(*fonction), nullptr});
-    } else {
-        chargeurs_.push_back({nullptr, {}, chargeur});
-    }
     chargeur();
+    auto const* const cible = chargeur.target<Fonction>();
+    if (cible == nullptr) {
+        chargeurs_.push_back({nullptr, {}, std::move(chargeur)});
+        return;
+    }
+    auto const fonction = *cible;
+    auto const estLa = [fonction](Chargeur const& c) { return c.fonction == fonction; };
+    chargeurs_.erase(std::remove_if(chargeurs_.begin(), chargeurs_.end(), estLa), chargeurs_.end());
+    chargeurs_.push_back({fonction, CodeEn(fonction), nullptr});
 }
 
 void ChargeursDeTraduction::Execute() {

