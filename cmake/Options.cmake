@@ -28,6 +28,7 @@ endif()
 # One layout for the build tree and for an installed prefix, so that programs find the plug-in and
 # the libraries by the same relative paths in both.
 include(GNUInstallDirs)
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME runtime)
 set(VOCALYNE_DOSSIER_GREFFONS "${CMAKE_INSTALL_LIBDIR}/vocalyne")
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_BINDIR}")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR}")

@@ -21,5 +21,5 @@ function(vocalyne_bibliotheque_hote nom)
   install(TARGETS ${nom} EXPORT VocalyneConnecteurCibles
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
     RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
-  install(FILES ${ARG_ENTETES} DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/vocalyne")
+  install(FILES ${ARG_ENTETES} DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/vocalyne" COMPONENT sdk)
 endfunction()

@@ -1,0 +1,31 @@
+# SPDX-License-Identifier: MPL-2.0
+# What an installed prefix holds besides the targets, which install themselves. Two components:
+# `runtime` is what a person runs; `sdk`, on top of it, what an author of connectors builds with.
+include_guard(GLOBAL)
+
+install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT runtime)
+
+# With another provider's libraries there is no SDK of ours to give.
+if(VOCALYNE_SDK)
+  return()
+endif()
+
+include(CMakePackageConfigHelpers)
+set(dossier_cmake "${CMAKE_INSTALL_LIBDIR}/cmake/VocalyneConnecteur")
+configure_package_config_file(cmake/VocalyneConnecteurConfig.cmake.in
+  "${PROJECT_BINARY_DIR}/cmake/VocalyneConnecteurConfig.cmake"
+  INSTALL_DESTINATION "${dossier_cmake}"
+  PATH_VARS CMAKE_INSTALL_BINDIR VOCALYNE_DOSSIER_GREFFONS)
+# Before 1.0 a new minor version may break what connectors were built with.
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/cmake/VocalyneConnecteurConfigVersion.cmake"
+  COMPATIBILITY SameMinorVersion)
+install(FILES
+  "${PROJECT_BINARY_DIR}/cmake/VocalyneConnecteurConfig.cmake"
+  "${PROJECT_BINARY_DIR}/cmake/VocalyneConnecteurConfigVersion.cmake"
+  DESTINATION "${dossier_cmake}" COMPONENT sdk)
+install(EXPORT VocalyneConnecteurCibles NAMESPACE Vocalyne::
+  DESTINATION "${dossier_cmake}" COMPONENT sdk)
+
+# The wire contract, for authors of companions.
+install(DIRECTORY protocol/ DESTINATION "${CMAKE_INSTALL_DATADIR}/vocalyne/protocol" COMPONENT sdk
+  FILES_MATCHING PATTERN "*.xml" PATTERN "*.json" PATTERN "*.md")
