@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "Traduction.h"
+
+/// The connector's translation domain, passed to every `_Tr`. Each connector defines it once (null
+/// at first) and fills it from a loader given to `AjouterAuxDomainesDeTraduction`.
+extern DomaineDeTraduction* domaineTexteur;
