@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include <QDBusArgument>
+#include <QDBusMessage>
+#include <QDBusPendingCall>
+#include <QMetaType>
+#include <QVariant>
+
+class QDBusAbstractInterface;
+
+/// The one place where a pending reply of the companion becomes a value.
+///
+/// Whatever goes wrong gives the neutral value of the type (empty, 0, false): an error reply (whose
+/// argument 0 is the error's text, never an answer), a reply of another type or without argument,
+/// no reply within the proxy's time-out, a bus that goes away during the wait, and a reply that did
+/// not come from the owner of the companion's name (any process of the user can forge one: QtDBus
+/// matches a reply by its number alone).
+///
+/// Waiting blocks the calling thread, without running its event loop. Call on the thread of the
+/// proxy.
+namespace reponseProxy {
+
+/// Waits until the call is finished or its time is over: the proxy's time-out, or the bus library's
+/// default of 25 s where it has none. True when a normal reply came from the owner of the name.
+bool Attends(QDBusAbstractInterface& proxy, QDBusPendingCall const& appel);
+
+/// Waits as `Attends` does and reads argument 0 as a `Valeur` (QString, int or bool).
+template <class Valeur>
+Valeur Lis(QDBusAbstractInterface& proxy, QDBusPendingCall const& appel) {
+    if (!Attends(proxy, appel))
+        return Valeur();
+    auto const argument = appel.reply().arguments().value(0);
+    if (argument.userType() == qMetaTypeId<QDBusArgument>()) {
+        auto const enveloppe = argument.value<QDBusArgument>();
+        if (enveloppe.currentType() != QDBusArgument::BasicType)
+            return Valeur();
+        auto const contenu = enveloppe.asVariant();
+        return contenu.userType() == qMetaTypeId<Valeur>() ? contenu.value<Valeur>() : Valeur();
+    }
+    return argument.userType() == qMetaTypeId<Valeur>() ? argument.value<Valeur>() : Valeur();
+}
+
+/// Did the call leave? False when the bus library refused it at once: no bus, or names that no bus
+/// can have. What becomes of it later is never looked at.
+bool EstPartie(QDBusPendingCall const& appel);
+
+} // namespace reponseProxy

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MPL-2.0
+// The agent's text operations: what the host reads of the document and changes in its selection.
+#include "ConnexionSession.h"
+#include "ListeDeZones.h"
+#include "ModuleProxyOOo.h"
+#include "ReponseProxy.h"
+#include "VocalyneOpenOfficeProxyQDBUS.h"
+#include "ZoneDeTexteOOoProxy.h"
+
+namespace {
+
+/// The reply of a call that waits, as the host's string.
+UniChaine LisTexte(VocalyneOpenOfficeProxyQDBUS& proxy, QDBusPendingCall const& appel) {
+    return UniChaine(reponseProxy::Lis<QString>(proxy, appel));
+}
+
+} // namespace
+
+UniChaine ModuleProxyOOo::DonneCheminDocument() {
+    return proxy_ ? LisTexte(*proxy_, proxy_->DonneCheminDocument()) : UniChaine();
+}
+
+UniChaine ModuleProxyOOo::DonneTitreDocument() {
+    return proxy_ ? LisTexte(*proxy_, proxy_->DonneTitreDocument()) : UniChaine();
+}
+
+UniChaine ModuleProxyOOo::DonneNomApplication() {
+    return UniChaine("LibreOffice", UniChaine::kCodageLitteral, -1);
+}
+
+UniChaine ModuleProxyOOo::DonneFinDeParagraphe() {
+    constexpr char16_t kFinDeLigne = 10;
+    return UniChaine(&kFinDeLigne, 1);
+}
+
+bool ModuleProxyOOo::SynchronisePositions(CollectionZonesDeTexte& zones) {
+    if (!proxy_)
+        return false;
+    std::string octets;
+    {
+        // The reply, its message and its 16-bit text are let go of before the document is parsed:
+        // together they take three times its size.
+        auto const appel = proxy_->SynchronisePositions(DonneIdentificateur().VersQString());
+        if (!reponseProxy::Attends(*proxy_, appel))
+            return false;
+        octets = LisTexte(*proxy_, appel).VersUtf8();
+    }
+    LisListeDeZones(octets, [this, &zones](ZoneLue&& lue) {
+        auto zone = std::make_unique<ZoneDeTexteOOoProxy>(proxy_.get(), this, lue.texte, lue.nom,
+                                                          lue.debutSel, lue.finSel);
+        for (auto const& plage : lue.styles)
+            zone->AjouteStyle(plage);
+        zones.AjoutePossedee(std::move(zone));
+    });
+    return true;
+}
+
+bool ModuleProxyOOo::PermetsRetourDeCharriot() {
+    return proxy_ && reponseProxy::Lis<bool>(*proxy_, proxy_->PermetsRetourDeCharriot());
+}
+
+int ModuleProxyOOo::AjusteSelectionPourOutils(int debut, int fin) {
+    if (proxy_)
+        proxy_->AjusteSelectionPourOutils(debut, fin);
+    return 0;
+}
+
+UniChaine ModuleProxyOOo::DonneContexte(int* debut, int* fin) {
+    if (!proxy_)
+        return {};
+    auto texte = DonneContexteSelection();
+    *debut = DonneDebutSelectionDansSonContexte();
+    *fin = DonneFinSelectionDansSonContexte();
+    return texte;
+}
+
+int ModuleProxyOOo::RemplaceEtReselectionne(UniChaine const& texte) {
+    if (!proxy_ || !connexionSession::PeutVoyager(texte))
+        return 0;
+    auto const appel = proxy_->RemplaceEtReselectionne(texte.VersQString());
+    return reponseProxy::EstPartie(appel) ? texte.Longueur() : 0;
+}
+
+UniChaine ModuleProxyOOo::DonneContexteSelection() {
+    return LisTexte(*proxy_, proxy_->DonneContexteSelection());
+}
+
+int ModuleProxyOOo::DonneDebutSelectionDansSonContexte() {
+    return reponseProxy::Lis<int>(*proxy_, proxy_->DonneDebutSelectionDansSonContexte());
+}
+
+int ModuleProxyOOo::DonneFinSelectionDansSonContexte() {
+    return reponseProxy::Lis<int>(*proxy_, proxy_->DonneFinSelectionDansSonContexte());
+}

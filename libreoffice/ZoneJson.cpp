@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "ZoneJson.h"
+
+#include "CodageTexteJson.h"
+#include "LectureJson.h"
+
+#include <json/writer.h>
+
+namespace {
+
+Json::Value PlageVersJson(std::uint32_t debut, std::uint32_t fin, std::uint32_t style) {
+    Json::Value plage;
+    plage["Debut"] = static_cast<Json::Int>(debut);
+    plage["Fin"] = static_cast<Json::Int>(fin);
+    plage["Style"] = static_cast<Json::Int>(style);
+    return plage;
+}
+
+Json::Value TexteVersJson(UniChaine const& texte) {
+    return EncodeTexteJson(texte).VersUtf8();
+}
+
+UniChaine Ecris(Json::Value const& racine) {
+// The writer that fixes the form of these documents.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+    Json::FastWriter redacteur;
+#pragma GCC diagnostic pop
+    return UniChaine::DepuisUtf8(redacteur.write(racine));
+}
+
+} // namespace
+
+UniChaine ZoneVersJson(std::vector<PlageStyle> const& styles, UniChaine const& texte,
+                       UniChaine const& nom) {
+    Json::Value racine;
+    racine["Nom"] = TexteVersJson(nom);
+    racine["Texte"] = TexteVersJson(texte);
+    for (auto const& plage : styles)
+        racine["InfosStyle"].append(PlageVersJson(plage.debut, plage.Fin(), plage.style));
+    return Ecris(racine);
+}
+
+UniChaine ChaineAttribueeVersJson(TexteAvecAttributs const& texte) {
+    Json::Value racine;
+    racine["Texte"] = TexteVersJson(sdd::T(texte.DonneTexte()));
+    for (auto const& plage : texte.DonnePlages())
+        racine["InfosStyle"].append(PlageVersJson(static_cast<std::uint32_t>(plage.debut),
+                                                  static_cast<std::uint32_t>(plage.fin),
+                                                  plage.attribut));
+    return Ecris(racine);
+}
+
+TexteAvecAttributs JsonVersChaineAttribuee(UniChaine const& json, UniChaine& nom) {
+    TexteAvecAttributs texte;
+    if (json.EstVide())
+        return texte;
+    auto const racine = lectureJson::Analyse(json.VersUtf8());
+    nom = DecodeTexteJson(lectureJson::Texte(racine, "Nom"));
+    texte.MetsTexte(sdd::T(DecodeTexteJson(lectureJson::Texte(racine, "Texte"))));
+    auto const& styles = lectureJson::Membre(racine, "InfosStyle");
+    if (lectureJson::EstListe(styles)) {
+        for (auto const& element : styles) {
+            auto const plage = lectureJson::Plage(element);
+            texte.MetsAttribut(static_cast<int>(plage.debut), static_cast<int>(plage.longueur),
+                               static_cast<std::uint16_t>(plage.style));
+        }
+    }
+    return texte;
+}
