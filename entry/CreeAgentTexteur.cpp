@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "ClesInfos.h"
+#include "CreationAgent.h"
+#include "Exports.h"
+#include "ModuleProxyOOo.h"
+
+InterfaceAgentTexteur* CreeAgentTexteur(InfosApplication const* infos,
+                                        UniChaine const* idDocument) {
+    if (infos == nullptr || idDocument == nullptr)
+        return nullptr;
+    return CreeAgentInitialise<ModuleProxyOOo>(*infos, *idDocument).release();
+}

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "ModuleTexteur.h"
+
+#include "ChaineN.h"
+#include "ClesInfos.h"
+#include "InitialisationGenerale.h"
+#include "PrefsGeneralesQt.h"
+#include "StockageReponse.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+namespace {
+
+constexpr char const* kCleLangueAffichage =
+    "Adaptateurs2/preferences/interfaceGenerale/langueAffichage";
+
+/// The application object that this module had made, while it is loaded.
+QCoreApplication* lApplicationDuModule = nullptr;
+
+} // namespace
+
+UniChaine CheminReglages() {
+    UniChaine chemin(QDir::homePath());
+    chemin.Ajoute(UniChaine("/", UniChaine::kCodageLitteral, -1));
+    chemin.Ajoute(UniChaine(".vocalyne/9.0/vocalyne.conf", UniChaine::kCodageLitteral, -1));
+    return chemin;
+}
+
+void InitialiseModule() {
+    PrefsGeneralesQt const prefs(CheminReglages(), kPrefsGenDirect, kPrefsGenLecture,
+                                 QSettings::NativeFormat);
+    auto const affichage =
+        prefs
+            .Donne(UniChaine(kCleLangueAffichage, UniChaine::kCodageLitteral, -1), QVariant(0),
+                   true)
+            .toInt();
+    InitialisationGenerale::InitLePlusTotPossible(
+        eLangueSelonELangueAffichage(static_cast<eLangueAffichage>(affichage)));
+    auto* const applicationDeLHote = QCoreApplication::instance();
+    InitQApplication();
+    if (applicationDeLHote == nullptr)
+        lApplicationDuModule = QCoreApplication::instance();
+    StockageReponse::Initialise(DDialogue::kStockeurReglages, CheminReglages(),
+                                QSettings::NativeFormat);
+    InitialisationGenerale::InitApresQApp();
+    QCoreApplication::setOrganizationDomain(QStringLiteral("ombrel.com"));
+    QCoreApplication::setOrganizationName(QStringLiteral("Ombrel Informatique inc."));
+    QCoreApplication::setApplicationName(QStringLiteral("Vocalyne 9"));
+}
+
+void LibereModule() {
+    for (auto& [type, stockeur] : StockageReponse::laListeStockeurDefaut) {
+        delete stockeur;
+        stockeur = nullptr;
+    }
+    StockageReponse::laListeStockeurDefaut.clear();
+    sdd::ChaineN::LibereConvertisseurPourCodage();
+    if (lApplicationDuModule != nullptr && lApplicationDuModule == QCoreApplication::instance())
+        delete lApplicationDuModule;
+    lApplicationDuModule = nullptr;
+}
