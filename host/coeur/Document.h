@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "AgentTenu.h"
+#include "Greffon.h"
+#include "Orthographe.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace hote {
+
+/// One document, spoken to through a plug-in's agent: its zones as they were last read, with our
+/// own corrections since.
+///
+/// Positions are UTF-16 units of a zone's text. Every operation may block while the word processor
+/// is asked, and lets the plug-in's exceptions through. Main thread.
+class Document {
+  public:
+    /// Attaches to the document `id` (UTF-16, whole identifier). The plug-in must outlive the
+    /// object. Throws ErreurHote (kSortieDocument) when the plug-in does not serve it, or cannot
+    /// reach it.
+    Document(Greffon const& greffon, QString const& id);
+
+    /// Breaks the link that the construction made.
+    ~Document();
+    Document(Document const&) = delete;
+    Document& operator=(Document const&) = delete;
+
+    QString DonneTitre();
+
+    /// Reads all zones anew. Throws ErreurHote (kSortieDocumentMort) when the document has gone
+    /// away, which shows in the word processor saying so, or in there being no zone where there
+    /// were some.
+    void Lis();
+
+    int DonneNombre() const noexcept { return static_cast<int>(textes_.size()); }
+    /// The zones' texts as this side believes them to be.
+    std::vector<QString> const& DonneTextes() const noexcept { return textes_; }
+    /// The style runs of a zone, as it was last read: corrections do not move them.
+    Orthographe::Plages DonnePlages(int zone);
+
+    /// May [debut, fin) of the zone be changed now, and does it hold `attendu`?
+    bool PeutCorriger(int zone, int debut, int fin, QString const& attendu);
+    /// Sends a correction. Whether it was made shows when the document is read again.
+    void Corrige(int zone, int debut, int fin, QString const& texte, bool automatique);
+    /// Throws ErreurHote (kSortieDocumentMort) when the document says that it has gone away.
+    void VerifieVivant();
+
+  private:
+    InterfaceZoneDeTexte& DonneZone(int zone);
+
+    AgentTenu tenu_;
+    std::vector<QString> textes_;
+    bool lu_ = false;
+};
+
+} // namespace hote

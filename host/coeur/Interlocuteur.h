@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "Bilan.h"
+
+namespace hote {
+
+/// A mistake to decide on.
+struct Question {
+    int zone;
+    int nombreZones;
+    QString const& texte; ///< the zone's text now
+    Faute const& faute;   ///< in that text
+    QStringList const& suggestions;
+};
+
+/// What to do about a mistake.
+struct Decision {
+    enum class Genre {
+        Corrige,    ///< put `remplacement` in its place
+        Laisse,     ///< leave it
+        LaisseTout, ///< leave it, and the same word from now on
+        Quitte,     ///< leave it, and everything behind it
+    };
+    Genre genre;
+    QString remplacement;
+};
+
+/// Decides on mistakes and is told how the work goes: a person at a terminal, or a rule.
+class Interlocuteur {
+  public:
+    virtual ~Interlocuteur() = default;
+    virtual Decision Decide(Question const& question) = 0;
+    /// The correction just decided was sent, or refused.
+    virtual void ApprendsIssue(FauteTraitee const& faute, bool envoyee) = 0;
+    /// The work has reached a zone.
+    virtual void ApprendsProgres(int zone, int nombreZones) = 0;
+};
+
+} // namespace hote

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace hote {
+
+/// A language that the host proofs.
+enum class Langue { Francais, Anglais };
+
+/// A list of words that can be asked. Words are given in the form of `DonneForme`. One thread at a
+/// time; answers may be kept between calls.
+class Lexique {
+  public:
+    virtual ~Lexique() = default;
+    virtual Langue DonneLangue() const = 0;
+    virtual bool Connait(QString const& forme) = 0;
+    /// What may have been meant, best first; empty when nothing comes near. Slow (milliseconds).
+    virtual QStringList Suggere(QString const& forme) = 0;
+};
+
+} // namespace hote
