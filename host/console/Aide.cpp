@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "LigneDeCommande.h"
+#include "Messages.h"
+
+namespace hote {
+
+std::string DonneUsage() {
+    return Tr("Usage : vocalyne-hote documents [--sortie texte|json]\n"
+              "        vocalyne-hote corrige [ID] [--langue fr|en] [--automatique]\n"
+              "                              [--sortie texte|json] [--greffon FICHIER]\n"
+              "        vocalyne-hote pilote [--greffon FICHIER]\n"
+              "        vocalyne-hote --help | --version\n");
+}
+
+std::string DonneAide() {
+    return DonneUsage() +
+           Tr("\n"
+              "Corrige l’orthographe des documents ouverts, par un connecteur.\n"
+              "\n"
+              "  documents   donne les documents à portée : identificateur, titre, chemin\n"
+              "  corrige     cherche les fautes d’un document. Sur un terminal, demande que faire\n"
+              "              de chacune ; avec --automatique, prend la première suggestion ; "
+              "sinon\n"
+              "              (ou avec --sortie json) les montre sans rien changer.\n"
+              "  pilote      conduit un connecteur par des lignes de JSON, une requête la ligne\n"
+              "\n"
+              "  ID                   le document ; par défaut, celui qui est à portée, ou celui\n"
+              "                       de devant quand ils sont tous du même logiciel\n"
+              "  --langue fr|en       la langue ; par défaut, d’après les mots du texte\n"
+              "  --automatique        corrige sans rien demander\n"
+              "  --sortie texte|json  la forme de ce qui est écrit ; par défaut, texte\n"
+              "  --greffon FICHIER    le connecteur ; par défaut, celui de VOCALYNE_GREFFON, "
+              "sinon\n"
+              "                       libTexteurOOo.so installé avec ce programme\n"
+              "  --help, -h           cette aide\n"
+              "  --version            la version\n"
+              "\n"
+              "Les dictionnaires sont ceux de Hunspell, dans les dossiers de DICPATH et du\n"
+              "système. NO_COLOR ôte les couleurs.\n"
+              "\n"
+              "Code de sortie :\n"
+              "  0  fait\n"
+              "  1  une correction au moins a été refusée\n"
+              "  2  ligne de commande erronée\n"
+              "  3  pas de tel document à portée, ou pas de bus de session\n"
+              "  4  connecteur absent ou inutilisable\n"
+              "  5  dictionnaire absent\n"
+              "  6  le document a disparu en cours de route\n"
+              "  7  sortie impossible à écrire, ou panne du programme\n");
+}
+
+} // namespace hote

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "AlertesConsole.h"
+
+#include "Contexte.h"
+
+#include <QStringList>
+
+#include <cstdio>
+
+namespace hote {
+
+eReponseAlerte AlertesConsole::Presente(QWidget* /*parent*/, DAlerteInfo const& info) {
+    for (UniChaine const& texte :
+         {info.DonneTexte(), info.DonneInformation(), info.DonneDetails()}) {
+        if (texte.EstVide())
+            continue;
+        for (QString const& ligne : texte.VersQString().split(QLatin1Char('\n')))
+            std::fprintf(stderr, "%s\n", PourTerminal(ligne).toStdString().c_str());
+    }
+    return DonneReponseImmediate(info);
+}
+
+eReponseAlerte DonneReponseImmediate(DAlerteInfo const& info) {
+    return info.DonneGenre() == DAlerteInfo::kQuestion ? kReponseNon : kReponseOui;
+}
+
+} // namespace hote

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "AlertesConsole.h"
+#include "BilanJson.h"
+#include "ChoixDocument.h"
+#include "ChoixLangue.h"
+#include "Commandes.h"
+#include "Contexte.h"
+#include "Correcteur.h"
+#include "DictionnaireHunspell.h"
+#include "InterlocuteurRegle.h"
+#include "InterlocuteurTerminal.h"
+#include "LocaliseGreffon.h"
+#include "Messages.h"
+
+#include <unistd.h>
+
+#include <iostream>
+#include <utility>
+
+namespace hote {
+
+namespace {
+
+/// A correction of one document, with what it needs, in the order in which things depend on each
+/// other.
+class Seance {
+  public:
+    Seance(Options const& options, std::unique_ptr<Lexique> lexique, Greffon const& greffon)
+        : options_(options)
+        , choix_{std::move(lexique), false}
+        , id_(options.id.isEmpty() ? ChoisisDocument() : options.id)
+        , document_(greffon, id_)
+        , titre_(document_.DonneTitre())
+        , interactive_(!options.json && !options.automatique && isatty(STDIN_FILENO) == 1 &&
+                       isatty(STDOUT_FILENO) == 1)
+        , sortie_(STDOUT_FILENO)
+        , presentation_(Couleurs(STDOUT_FILENO)) {
+        document_.Lis();
+    }
+
+    eCodeSortie Execute() {
+        if (!choix_.lexique)
+            choix_ = ChoisisLangue(document_.DonneTextes());
+        Annonce();
+        Orthographe const orthographe(*choix_.lexique);
+        Progression progression;
+        Bilan const bilan = Corrige(orthographe, progression);
+        progression.Efface();
+        if (options_.json)
+            sortie_.Ecris(DonneBilanJson(
+                {id_, titre_, choix_.lexique->DonneLangue(), choix_.trouvee, options_.automatique},
+                bilan));
+        else
+            sortie_.Ecris(presentation_.Fin(bilan, options_.automatique || interactive_));
+        return DonneCode(bilan);
+    }
+
+  private:
+    void Annonce() {
+        if (options_.json)
+            return;
+        std::string const langue = DonneNomLangue(choix_.lexique->DonneLangue());
+        sortie_.Ecris(Tr("Document : {1} ({2})", PourTerminal(titre_), PourTerminal(id_)) + '\n' +
+                      (choix_.trouvee ? Tr("Langue : {1}, d’après le texte", langue)
+                                      : Tr("Langue : {1}", langue)) +
+                      '\n');
+    }
+
+    Bilan Corrige(Orthographe const& orthographe, Progression& progression) {
+        InterlocuteurTerminal personne(std::cin, sortie_, presentation_, progression);
+        InterlocuteurRegle regle(options_.automatique, options_.json ? nullptr : &sortie_,
+                                 presentation_, progression);
+        Interlocuteur& interlocuteur = interactive_ ? static_cast<Interlocuteur&>(personne) : regle;
+        return Correcteur(document_, orthographe, interlocuteur, options_.automatique).Execute();
+    }
+
+    eCodeSortie DonneCode(Bilan const& bilan) const {
+        if (bilan.erreur) {
+            Avertis(bilan.erreur->what());
+            return bilan.erreur->DonneCode();
+        }
+        sortie_.Verifie();
+        if (sortie_.EstRompue())
+            return kSortieInterne;
+        return bilan.Compte(EtatFaute::Refusee) > 0 ? kSortiePartielle : kSortieReussie;
+    }
+
+    Options const& options_;
+    ChoixLangue choix_;
+    QString id_;
+    Document document_;
+    QString titre_;
+    bool interactive_;
+    Sortie sortie_;
+    PresentationTexte presentation_;
+};
+
+} // namespace
+
+eCodeSortie ExecuteCorrige(Options const& options) {
+    // What is missing is said before anything is touched.
+    auto lexique = options.langue ? OuvreDictionnaire(*options.langue) : nullptr;
+    AlertesConsole alertes;
+    auto const greffon = Greffon::Charge(LocaliseGreffon(options.greffon));
+    // Caught here: an exception of the plug-in must be gone before the plug-in is.
+    try {
+        return Seance(options, std::move(lexique), *greffon).Execute();
+    } catch (ErreurHote const&) {
+        throw;
+    } catch (std::exception const& erreur) {
+        throw ErreurHote(kSortieGreffon, Tr("Le connecteur a échoué : {1}", erreur.what()));
+    } catch (...) {
+        throw ErreurHote(kSortieGreffon, Tr("Le connecteur a échoué : {1}", "exception"));
+    }
+}
+
+} // namespace hote

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "InterlocuteurTerminal.h"
+
+#include "Messages.h"
+
+#include <string>
+
+namespace hote {
+
+Decision InterlocuteurTerminal::Decide(Question const& question) {
+    progression_.Efface();
+    sortie_.Ecris('\n' + presentation_.Faute(question) + presentation_.Choix(question.suggestions));
+    for (;;) {
+        auto const reponse =
+            Demande(question.suggestions.isEmpty()
+                        ? Tr("r remplacer, i ignorer, I tout ignorer, q quitter")
+                        : Tr("1-{1} choisir, r remplacer, i ignorer, I tout ignorer, q quitter",
+                             question.suggestions.size()));
+        if (!reponse)
+            return {Decision::Genre::Quitte, {}};
+        if (auto decision = Comprends(*reponse, question.suggestions))
+            return *decision;
+    }
+}
+
+void InterlocuteurTerminal::ApprendsIssue(FauteTraitee const& faute, bool envoyee) {
+    sortie_.Ecris(presentation_.Issue(faute, envoyee));
+}
+
+void InterlocuteurTerminal::ApprendsProgres(int zone, int nombreZones) {
+    progression_.Montre([&] { return Tr("Zone {1} sur {2}", zone + 1, nombreZones); });
+}
+
+std::optional<QString> InterlocuteurTerminal::Demande(std::string const& invite) {
+    sortie_.Ecris("      " + invite + " > ");
+    std::string ligne;
+    if (sortie_.EstRompue() || !std::getline(entree_, ligne)) {
+        sortie_.Ecris("\n");
+        return std::nullopt;
+    }
+    return QString::fromStdString(ligne);
+}
+
+std::optional<Decision> InterlocuteurTerminal::Comprends(QString const& reponse,
+                                                         QStringList const& suggestions) {
+    QString const mot = reponse.trimmed();
+    if (mot == QLatin1String("q"))
+        return Decision{Decision::Genre::Quitte, {}};
+    if (mot == QLatin1String("i"))
+        return Decision{Decision::Genre::Laisse, {}};
+    if (mot == QLatin1String("I"))
+        return Decision{Decision::Genre::LaisseTout, {}};
+    if (mot == QLatin1String("r"))
+        return DemandeTexte();
+    bool nombre = false;
+    int const choix = mot.toInt(&nombre);
+    if (nombre && choix >= 1 && choix <= suggestions.size())
+        return Decision{Decision::Genre::Corrige, suggestions.at(choix - 1)};
+    return std::nullopt; // the question is put again
+}
+
+std::optional<Decision> InterlocuteurTerminal::DemandeTexte() {
+    auto const texte = Demande(Tr("remplacer par (rien pour renoncer)"));
+    if (!texte)
+        return Decision{Decision::Genre::Quitte, {}};
+    if (texte->trimmed().isEmpty())
+        return std::nullopt;
+    return Decision{Decision::Genre::Corrige, texte->trimmed()};
+}
+
+} // namespace hote

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "Interlocuteur.h"
+#include "PresentationTexte.h"
+#include "Progression.h"
+#include "Sortie.h"
+
+#include <istream>
+#include <optional>
+
+namespace hote {
+
+/// Asks the person at the terminal what to do about each mistake.
+class InterlocuteurTerminal : public Interlocuteur {
+  public:
+    /// Reads answers from `entree`, a line each; its end means to quit. All must outlive the
+    /// object.
+    InterlocuteurTerminal(std::istream& entree, Sortie& sortie,
+                          PresentationTexte const& presentation, Progression& progression)
+        : entree_(entree)
+        , sortie_(sortie)
+        , presentation_(presentation)
+        , progression_(progression) {}
+
+    Decision Decide(Question const& question) override;
+    void ApprendsIssue(FauteTraitee const& faute, bool envoyee) override;
+    void ApprendsProgres(int zone, int nombreZones) override;
+
+  private:
+    std::optional<QString> Demande(std::string const& invite);
+    std::optional<Decision> Comprends(QString const& reponse, QStringList const& suggestions);
+    std::optional<Decision> DemandeTexte();
+
+    std::istream& entree_;
+    Sortie& sortie_;
+    PresentationTexte const& presentation_;
+    Progression& progression_;
+};
+
+} // namespace hote

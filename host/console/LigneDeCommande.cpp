@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "LigneDeCommande.h"
+
+#include "ErreurHote.h"
+#include "Messages.h"
+
+#include <QCommandLineParser>
+
+namespace hote {
+
+namespace {
+
+ErreurHote DonneErreurUsage(std::string const& message) {
+    return {kSortieUsage, message};
+}
+
+Options::Commande LisCommande(QString const& nom) {
+    if (nom == QLatin1String("documents"))
+        return Options::Commande::Documents;
+    if (nom == QLatin1String("corrige"))
+        return Options::Commande::Corrige;
+    if (nom == QLatin1String("pilote"))
+        return Options::Commande::Pilote;
+    throw DonneErreurUsage(Tr("Commande inconnue : {1}", nom));
+}
+
+/// One command's options. Each command knows its own only, so that a misplaced one is an error.
+class Analyseur {
+  public:
+    explicit Analyseur(Options::Commande commande) {
+        parseur_.addOptions({aide_, version_});
+        bool const corrige = commande == Options::Commande::Corrige;
+        if (corrige)
+            parseur_.addOptions({langue_, automatique_});
+        if (corrige || commande == Options::Commande::Documents)
+            parseur_.addOption(sortie_);
+        if (corrige || commande == Options::Commande::Pilote)
+            parseur_.addOption(greffon_);
+    }
+
+    Options Analyse(Options options, QStringList const& arguments) {
+        if (!parseur_.parse(arguments)) {
+            auto const inconnues = parseur_.unknownOptionNames();
+            throw DonneErreurUsage(inconnues.isEmpty()
+                                       ? Tr("Option mal employée ({1})", parseur_.errorText())
+                                       : Tr("Option inconnue : {1}", Nomme(inconnues.first())));
+        }
+        if (parseur_.isSet(aide_))
+            options.commande = Options::Commande::Aide;
+        else if (parseur_.isSet(version_))
+            options.commande = Options::Commande::Version;
+        LisValeurs(options);
+        LisPositionnels(options);
+        return options;
+    }
+
+  private:
+    static QString Nomme(QString const& option) {
+        return QLatin1String(option.size() == 1 ? "-" : "--") + option;
+    }
+
+    bool EstDonnee(QCommandLineOption const& option) const {
+        // Asking for an option that the command does not have would warn.
+        return parseur_.optionNames().contains(option.names().first());
+    }
+
+    void LisValeurs(Options& options) const {
+        options.automatique = EstDonnee(automatique_);
+        if (EstDonnee(langue_)) {
+            QString const valeur = parseur_.value(langue_);
+            if (valeur == QLatin1String("fr"))
+                options.langue = Langue::Francais;
+            else if (valeur == QLatin1String("en"))
+                options.langue = Langue::Anglais;
+            else
+                throw DonneErreurUsage(Tr("--langue veut fr ou en, pas « {1} »", valeur));
+        }
+        if (EstDonnee(sortie_)) {
+            QString const valeur = parseur_.value(sortie_);
+            options.json = valeur == QLatin1String("json");
+            if (!options.json && valeur != QLatin1String("texte"))
+                throw DonneErreurUsage(Tr("--sortie veut texte ou json, pas « {1} »", valeur));
+        }
+        if (EstDonnee(greffon_)) {
+            options.greffon = parseur_.value(greffon_).toStdString();
+            if (options.greffon.empty())
+                throw DonneErreurUsage(Tr("--greffon veut un fichier"));
+        }
+    }
+
+    void LisPositionnels(Options& options) const {
+        QStringList positionnels = parseur_.positionalArguments();
+        if (options.commande == Options::Commande::Corrige && !positionnels.isEmpty())
+            options.id = positionnels.takeFirst();
+        if (!positionnels.isEmpty())
+            throw DonneErreurUsage(Tr("Argument en trop : {1}", positionnels.first()));
+    }
+
+    QCommandLineParser parseur_;
+    QCommandLineOption aide_{{QStringLiteral("help"), QStringLiteral("h")}};
+    QCommandLineOption version_{QStringLiteral("version")};
+    QCommandLineOption langue_{QStringLiteral("langue"), {}, QStringLiteral("fr|en")};
+    QCommandLineOption automatique_{QStringLiteral("automatique")};
+    QCommandLineOption sortie_{QStringLiteral("sortie"), {}, QStringLiteral("texte|json")};
+    QCommandLineOption greffon_{QStringLiteral("greffon"), {}, QStringLiteral("FICHIER")};
+};
+
+} // namespace
+
+Options AnalyseLigne(QStringList const& arguments) {
+    Options options;
+    if (arguments.size() < 2)
+        throw DonneErreurUsage(Tr("Il manque une commande"));
+    QString const& premier = arguments.at(1);
+    bool const commande = !premier.startsWith(QLatin1Char('-'));
+    if (commande)
+        options.commande = LisCommande(premier);
+    // The parser takes its first element for the program's name.
+    options = Analyseur(options.commande).Analyse(options, arguments.mid(commande ? 1 : 0));
+    bool const ilFautUneCommande = !commande && options.commande == Options::Commande::Aide &&
+                                   premier != QLatin1String("--help") &&
+                                   premier != QLatin1String("-h");
+    if (ilFautUneCommande)
+        throw DonneErreurUsage(Tr("Il manque une commande"));
+    return options;
+}
+
+} // namespace hote

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "Bilan.h"
+#include "Couleurs.h"
+#include "Interlocuteur.h"
+
+#include <string>
+
+namespace hote {
+
+/// How mistakes and results are told to a person. Each text ends in a line feed.
+class PresentationTexte {
+  public:
+    explicit PresentationTexte(Couleurs const& couleurs)
+        : couleurs_(couleurs) {}
+
+    /// The mistake in its context, after the zone's number.
+    std::string Faute(Question const& question) const;
+    /// The suggestions in one line.
+    std::string Suggestions(QStringList const& suggestions) const;
+    /// The suggestions, numbered.
+    std::string Choix(QStringList const& suggestions) const;
+    /// What became of the correction just decided.
+    std::string Issue(FauteTraitee const& faute, bool envoyee) const;
+    /// The end: how many mistakes became what. `change` tells whether anything was to be changed.
+    std::string Fin(Bilan const& bilan, bool change) const;
+
+  private:
+    Couleurs couleurs_;
+};
+
+} // namespace hote

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "Commandes.h"
+#include "Contexte.h"
+#include "InitialisationGenerale.h"
+#include "Messages.h"
+#include "Sortie.h"
+
+#include <QCoreApplication>
+
+#include <unistd.h>
+
+#include <cstdio>
+
+namespace hote {
+
+void Avertis(std::string const& message) {
+    std::string const ligne = PourTerminal(QString::fromStdString(message)).toStdString();
+    std::fprintf(stderr, "vocalyne-hote : %s\n", ligne.c_str());
+}
+
+namespace {
+
+/// The application object that the library makes. A plug-in that is unloaded may take it along.
+class Application {
+  public:
+    Application() { InitQApplication(); }
+    ~Application() { delete QCoreApplication::instance(); }
+    Application(Application const&) = delete;
+    Application& operator=(Application const&) = delete;
+};
+
+/// Qt's remarks are for the program's authors, or for a connector's, who have `pilote`.
+void FiltreMessagesQt(QtMsgType genre, QMessageLogContext const& /*contexte*/,
+                      QString const& message) {
+    if (genre == QtCriticalMsg || genre == QtFatalMsg)
+        Avertis(message.toStdString());
+}
+
+eCodeSortie EcrisEtFinis(std::string const& texte) {
+    Sortie sortie(STDOUT_FILENO);
+    sortie.Ecris(texte);
+    sortie.Verifie();
+    return kSortieReussie;
+}
+
+eCodeSortie Execute(QStringList const& arguments) {
+    Options const options = AnalyseLigne(arguments);
+    if (options.commande == Options::Commande::Aide)
+        return EcrisEtFinis(DonneAide());
+    if (options.commande == Options::Commande::Version)
+        return EcrisEtFinis("vocalyne-hote " VOCALYNE_VERSION "\n");
+    if (options.commande != Options::Commande::Pilote)
+        qInstallMessageHandler(FiltreMessagesQt);
+    Application const application;
+    InitialisationGenerale::InitApresQApp();
+    switch (options.commande) {
+    case Options::Commande::Documents:
+        return ExecuteDocuments(options);
+    case Options::Commande::Corrige:
+        return ExecuteCorrige(options);
+    default:
+        return ExecutePilote(options);
+    }
+}
+
+} // namespace
+
+} // namespace hote
+
+int main(int argc, char** argv) {
+    using namespace hote;
+    PrepareFluxStandard();
+    try {
+        InitialiseMessages();
+        QStringList arguments;
+        // Bytes as UTF-8 whatever the locale: a file's name must come out as it went in.
+        for (int i = 0; i < argc; ++i)
+            arguments.append(QString::fromUtf8(argv[i]));
+        return Execute(arguments);
+    } catch (ErreurHote const& erreur) {
+        Avertis(erreur.what());
+        if (erreur.DonneCode() == kSortieUsage)
+            std::fputs(DonneUsage().c_str(), stderr);
+        return erreur.DonneCode();
+    } catch (std::exception const& erreur) {
+        Avertis(erreur.what());
+        return kSortieInterne;
+    }
+}

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "Commandes.h"
+#include "LocaliseGreffon.h"
+#include "Messages.h"
+#include "Pilote.h"
+#include "Sortie.h"
+
+#include <QEventLoop>
+#include <QSocketNotifier>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <cstring>
+
+namespace hote {
+
+namespace {
+
+/// Standard output for answers alone: what a plug-in or a library prints goes to standard error,
+/// where it does not break the dialogue.
+int ReserveSortie() {
+    int const copie = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 3);
+    if (copie < 0 || dup2(STDERR_FILENO, STDOUT_FILENO) < 0)
+        throw ErreurHote(kSortieInterne,
+                         Tr("La sortie ne s’écrit pas : {1}", std::strerror(errno)));
+    return copie;
+}
+
+/// Waits until standard input has something to read, and lets the application's events run
+/// meanwhile, as in any host.
+void AttendsEntree() {
+    QEventLoop boucle;
+    QSocketNotifier guetteur(STDIN_FILENO, QSocketNotifier::Read);
+    QObject::connect(&guetteur, &QSocketNotifier::activated, &boucle, &QEventLoop::quit);
+    boucle.exec();
+}
+
+/// The next bytes of standard input; 0 at its end.
+std::size_t LisEntree(std::array<char, 65536>& octets) {
+    for (;;) {
+        AttendsEntree();
+        ssize_t const nombre = read(STDIN_FILENO, octets.data(), octets.size());
+        if (nombre >= 0)
+            return static_cast<std::size_t>(nombre);
+        if (errno != EINTR && errno != EAGAIN)
+            throw ErreurHote(kSortieInterne,
+                             Tr("L’entrée ne se lit pas : {1}", std::strerror(errno)));
+    }
+}
+
+void Dialogue(Pilote& pilote, Sortie& sortie) {
+    LecteurDeLignes lecteur(Pilote::kLigneMax);
+    std::array<char, 65536> octets{};
+    bool fini = false;
+    while (!fini && !sortie.EstRompue()) {
+        std::size_t const nombre = LisEntree(octets);
+        fini = nombre == 0;
+        if (fini)
+            lecteur.Termine();
+        else
+            lecteur.Ajoute(octets.data(), nombre);
+        while (auto const ligne = lecteur.Suivante()) {
+            if (!sortie.Ecris(pilote.Reponds(*ligne)))
+                break;
+        }
+    }
+}
+
+} // namespace
+
+eCodeSortie ExecutePilote(Options const& options) {
+    auto const greffon = Greffon::Charge(LocaliseGreffon(options.greffon));
+    Sortie sortie(ReserveSortie());
+    {
+        Pilote pilote(*greffon);
+        Dialogue(pilote, sortie);
+    }
+    sortie.Verifie();
+    return kSortieReussie;
+}
+
+} // namespace hote
