@@ -15,7 +15,7 @@ namespace compagnon {
 /// Largest zone document that may leave, in bytes. The bus drops the sender of a message of
 /// 128 MiB, and readers hang on one a few dozen bytes shorter: the margin holds the message's
 /// header with room to spare.
-inline constexpr std::size_t kLimiteReponse = 128 * std::size_t{1024} * 1024 - 64 * 1024;
+inline constexpr std::size_t kLimiteReponse = (std::size_t{128} << 20) - (std::size_t{64} << 10);
 
 /// Writes the reply of "SynchronisePositions" (protocol/README.md), zone by zone: plain ASCII, all
 /// texts in Base64. Linear in what is written. Texts are made transportable on the way (`Utf.h`).

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace compagnon {
+
+enum class Action { Sers, Aide, Version, Mauvaise };
+
+/// What the command line asks for.
+struct Options {
+    Action action = Action::Sers;
+    std::string erreur; ///< what is wrong with it, for `Mauvaise`
+    std::string instance;
+    bool sansEnregistrer = false;
+    bool finAvecHote = false;
+    bool commande = false;
+    std::vector<std::string> fichiers; ///< bytes as the system has them
+};
+
+/// Permutes `argv`. To be called once.
+Options LisOptions(int argc, char* argv[]);
+
+/// Can it stand in a bus name and in an object path?
+bool EstInstanceValable(std::string const& instance) noexcept;
+
+/// The usage, in the person's language.
+std::string DonneAide();
+
+} // namespace compagnon

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "Publication.h"
+
+#include "Chaines.h"
+#include "Messages.h"
+
+#include <QDBusConnectionInterface>
+
+#include <dbus/dbus.h>
+
+namespace compagnon {
+
+namespace {
+
+QString const kConnexion = QStringLiteral("vocalyne-bureau-texte");
+
+// A message may have 128 MiB. Left at its default of half as much, libdbus stops reading for good
+// after a single larger one; several may be on their way at once.
+constexpr long kRecusMax = 512L << 20;
+
+} // namespace
+
+Publication::Publication(std::string const& instance)
+    : connexion_(kConnexion)
+    , service_(QStringLiteral("com.ombrel.vocalyne.texteurs.OpenOffice.") + VersQString(instance))
+    , objet_(QStringLiteral("/com/ombrel/vocalyne/texteurs/OpenOffice/") + VersQString(instance)) {}
+
+Publication::~Publication() {
+    connexion_ = QDBusConnection(QString());
+    QDBusConnection::disconnectFromBus(kConnexion);
+}
+
+std::string Publication::Connecte() {
+    connexion_ = QDBusConnection::connectToBus(QDBusConnection::SessionBus, kConnexion);
+    if (!connexion_.isConnected()) {
+        return Dis({"Pas de bus de session ({1}). Lancez ce programme dans une session graphique, "
+                    "ou par dbus-run-session.",
+                    "No session bus ({1}). Run this program in a desktop session, or through "
+                    "dbus-run-session."},
+                   {VersUtf8(connexion_.lastError().message())});
+    }
+    dbus_connection_set_max_received_size(
+        static_cast<DBusConnection*>(connexion_.internalPointer()), kRecusMax);
+    connexion_.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
+                       QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"),
+                       this, SIGNAL(BusPerdu()));
+    return {};
+}
+
+std::string Publication::Publie(QObject* bureau, QObject* commande) {
+    bool const publies =
+        connexion_.registerObject(objet_, bureau, QDBusConnection::ExportAdaptors) &&
+        (!commande || connexion_.registerObject(QStringLiteral("/com/ombrel/vocalyne/commande"),
+                                                commande, QDBusConnection::ExportAdaptors));
+    if (!publies || !connexion_.isConnected()) {
+        return Dis({"Publication impossible ({1})", "Cannot publish ({1})"},
+                   {VersUtf8(connexion_.lastError().message())});
+    }
+    return ReprendsLeNom() ? std::string() : DisPris();
+}
+
+std::string Publication::DisPris() {
+    QDBusReply<uint> const processus = connexion_.interface()->servicePid(service_);
+    return Dis({"Le nom {1} est déjà pris, par le processus {2}. Choisissez une autre instance.",
+                "The name {1} is taken, by process {2}. Choose another instance."},
+               {VersUtf8(service_),
+                processus.isValid() ? std::to_string(processus.value()) : std::string("?")});
+}
+
+void Publication::QuitteLeNom() {
+    connexion_.interface()->unregisterService(service_);
+}
+
+bool Publication::ReprendsLeNom() {
+    QDBusReply<QDBusConnectionInterface::RegisterServiceReply> const reponse =
+        connexion_.interface()->registerService(service_);
+    return reponse.isValid() && reponse.value() == QDBusConnectionInterface::ServiceRegistered;
+}
+
+} // namespace compagnon

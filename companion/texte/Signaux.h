@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "Descripteur.h"
+
+#include <QObject>
+#include <QSocketNotifier>
+
+#include <memory>
+
+namespace compagnon {
+
+/// SIGTERM, SIGINT and SIGHUP as a Qt signal, so that the end is an event like any other.
+class Signaux : public QObject {
+    Q_OBJECT
+
+  public:
+    /// Blocks the three in the calling thread and in those it makes: to be called before any other
+    /// thread exists. A broken pipe is an error of its write from then on.
+    static void Bloque();
+
+    Signaux();
+
+  Q_SIGNALS:
+    void FinDemandee();
+
+  private:
+    Descripteur descripteur_;
+    std::unique_ptr<QSocketNotifier> guetteur_;
+};
+
+} // namespace compagnon

@@ -1,0 +1,1 @@
+// SPDX-License-Identifier: MPL-2.0
