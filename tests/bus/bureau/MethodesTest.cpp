@@ -112,7 +112,7 @@ TEST_F(OfficeMethods, ASelectionMovesByItsTwoShifts) {
 TEST_F(OfficeMethods, AShiftOutOfTheParagraphOrIntoACharacterChangesNothing) {
     Selectionne(1, 0, 3);
     for (auto const& [debut, fin] : {std::pair{-1, 0},
-                                     {0, 6},
+                                     {0, 7},
                                      {0, 1},
                                      {4, 0},
                                      {4, 1},
