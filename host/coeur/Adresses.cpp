@@ -18,6 +18,7 @@ bool PeutEtreTechnique(QStringRef morceau) {
         case '\\':
         case '.':
         case ':':
+        case '(':
             return true;
         default:
             break;

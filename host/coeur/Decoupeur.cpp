@@ -38,7 +38,7 @@ bool EstSeparateur(char32_t code) {
 
 bool EstNombreRomain(QString const& forme) {
     static QRegularExpression const romain(
-        QStringLiteral("^[IVXLCDM]{2,}$|^[IVXLCDM]+(e|er|re|es|ème|èmes)$"));
+        QStringLiteral("^[IVXLCDM]{2,}$|^[IVX][IVXLCDM]*(e|er|re|es|ème|èmes)$"));
     return romain.match(forme).hasMatch();
 }
 

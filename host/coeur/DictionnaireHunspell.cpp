@@ -70,8 +70,9 @@ QStringList DictionnaireHunspell::Suggere(QString const& forme) {
     return suggestions;
 }
 
-std::unique_ptr<Lexique> OuvreDictionnaire(Langue langue) {
-    auto const fichiers = LocaliseDictionnaire(langue);
+std::unique_ptr<Lexique> OuvreDictionnaire(Langue langue,
+                                           std::vector<std::string> const& dossiers) {
+    auto const fichiers = LocaliseDictionnaire(langue, dossiers);
     if (!fichiers)
         throw ErreurHote(
             kSortieDictionnaire,

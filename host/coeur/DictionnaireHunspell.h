@@ -35,8 +35,10 @@ class DictionnaireHunspell : public Lexique {
     QHash<QString, QStringList> suggestions_;
 };
 
-/// The dictionary of a language, found by `LocaliseDictionnaire`. Throws ErreurHote
+/// The dictionary of a language, in one of the folders. Throws ErreurHote
 /// (kSortieDictionnaire) naming the Debian package to install when there is none.
-std::unique_ptr<Lexique> OuvreDictionnaire(Langue langue);
+std::unique_ptr<Lexique>
+OuvreDictionnaire(Langue langue,
+                  std::vector<std::string> const& dossiers = DonneDossiersDictionnaires());
 
 } // namespace hote

@@ -8,6 +8,9 @@
 
 #include <dlfcn.h>
 
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
 #include <utility>
 
 namespace hote {
@@ -39,13 +42,53 @@ void Trouve(void* bibliotheque, std::string const& fichier, char const* nom, Fon
     fonction = reinterpret_cast<Fonction>(adresse);
 }
 
-} // namespace
+/// While a library is loaded: an exception of its static initialisers cannot cross the loader, and
+/// ends the process. At least it says why, and as an error.
+class GardeChargement {
+  public:
+    explicit GardeChargement(std::string const& fichier)
+        : precedent_(std::set_terminate(&Finis)) {
+        fichierCharge = &fichier;
+    }
+    ~GardeChargement() { std::set_terminate(precedent_); }
+    GardeChargement(GardeChargement const&) = delete;
+    GardeChargement& operator=(GardeChargement const&) = delete;
 
-std::unique_ptr<Greffon> Greffon::Charge(std::string const& fichier) {
+  private:
+    [[noreturn]] static void Finis() {
+        std::string raison = "?";
+        try {
+            if (auto const exception = std::current_exception())
+                std::rethrow_exception(exception);
+        } catch (std::exception const& erreur) {
+            raison = erreur.what();
+        } catch (...) {
+            raison = "exception";
+        }
+        std::fprintf(
+            stderr, "vocalyne-hote : %s\n",
+            Tr("Le connecteur {1} ne se charge pas : {2}", *fichierCharge, raison).c_str());
+        std::_Exit(kSortieGreffon);
+    }
+
+    static std::string const* fichierCharge;
+    std::terminate_handler precedent_;
+};
+
+std::string const* GardeChargement::fichierCharge = nullptr;
+
+void* Ouvre(std::string const& fichier) {
+    GardeChargement const garde(fichier);
     // Without a slash the loader would search the system's folders instead of this one.
     std::string const chemin = fichier.find('/') == std::string::npos ? "./" + fichier : fichier;
     // Everything resolved now: a library that lacks something fails here, not midway.
-    void* const bibliotheque = dlopen(chemin.c_str(), RTLD_NOW | RTLD_LOCAL);
+    return dlopen(chemin.c_str(), RTLD_NOW | RTLD_LOCAL);
+}
+
+} // namespace
+
+std::unique_ptr<Greffon> Greffon::Charge(std::string const& fichier) {
+    void* const bibliotheque = Ouvre(fichier);
     if (bibliotheque == nullptr)
         throw ErreurHote(kSortieGreffon, Tr("Le connecteur {1} ne se charge pas : {2}", fichier,
                                             DonneErreurChargeur()));

@@ -5,13 +5,18 @@
 
 #include <cstdlib>
 #include <sstream>
-#include <vector>
 
 namespace hote {
 
 namespace {
 
-std::vector<std::string> DonneDossiers() {
+bool EstLisible(std::string const& fichier) {
+    return access(fichier.c_str(), R_OK) == 0;
+}
+
+} // namespace
+
+std::vector<std::string> DonneDossiersDictionnaires() {
     std::vector<std::string> dossiers;
     if (char const* const chemins = std::getenv("DICPATH")) {
         std::istringstream flux(chemins);
@@ -26,18 +31,13 @@ std::vector<std::string> DonneDossiers() {
     return dossiers;
 }
 
-bool EstLisible(std::string const& fichier) {
-    return access(fichier.c_str(), R_OK) == 0;
-}
-
-} // namespace
-
-std::optional<FichiersDictionnaire> LocaliseDictionnaire(Langue langue) {
+std::optional<FichiersDictionnaire> LocaliseDictionnaire(Langue langue,
+                                                         std::vector<std::string> const& dossiers) {
     std::vector<char const*> const noms =
         langue == Langue::Francais
             ? std::vector<char const*>{"fr_FR", "fr", "fr_CA", "fr-classique", "fr-toutesvariantes"}
             : std::vector<char const*>{"en_US", "en_GB", "en", "en_CA"};
-    for (std::string const& dossier : DonneDossiers()) {
+    for (std::string const& dossier : dossiers) {
         for (char const* nom : noms) {
             std::string const base = dossier + '/' + nom;
             if (EstLisible(base + ".aff") && EstLisible(base + ".dic"))

@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace hote {
 
@@ -14,9 +15,13 @@ struct FichiersDictionnaire {
     std::string mots;    ///< .dic
 };
 
-/// The dictionary of a language: in the folders of the environment's DICPATH (separated by ":")
-/// first, then in the system's usual folders. Both files must be readable. Nothing when there is
-/// none.
-std::optional<FichiersDictionnaire> LocaliseDictionnaire(Langue langue);
+/// Where dictionaries are: the folders of the environment's DICPATH (separated by ":"), then the
+/// system's usual ones.
+std::vector<std::string> DonneDossiersDictionnaires();
+
+/// The dictionary of a language, in the first of the folders that has one; both files must be
+/// readable. Nothing when there is none.
+std::optional<FichiersDictionnaire> LocaliseDictionnaire(Langue langue,
+                                                         std::vector<std::string> const& dossiers);
 
 } // namespace hote

@@ -49,8 +49,7 @@ eCodeSortie Execute(QStringList const& arguments) {
         return EcrisEtFinis(DonneAide());
     if (options.commande == Options::Commande::Version)
         return EcrisEtFinis("vocalyne-hote " VOCALYNE_VERSION "\n");
-    if (options.commande != Options::Commande::Pilote)
-        qInstallMessageHandler(FiltreMessagesQt);
+    qInstallMessageHandler(FiltreMessagesQt);
     Application const application;
     InitialisationGenerale::InitApresQApp();
     switch (options.commande) {
@@ -59,6 +58,7 @@ eCodeSortie Execute(QStringList const& arguments) {
     case Options::Commande::Corrige:
         return ExecuteCorrige(options);
     default:
+        qInstallMessageHandler(nullptr);
         return ExecutePilote(options);
     }
 }

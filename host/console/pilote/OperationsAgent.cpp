@@ -57,9 +57,11 @@ void Zones(Agent& agent, Banc& banc, Arguments const& a, EcritureJson& resultat)
 
 void TraiteTexteLu(Agent& agent, Banc& /*banc*/, Arguments const& a, EcritureJson& resultat) {
     TexteAvecAttributs texte{sdd::ChaineN(a.DonneTexte("texte"))};
-    for (Arguments const& style : a.DonneObjets("styles"))
-        texte.MetsAttribut(style.DonneEntier("debut"), style.DonneEntier("longueur"),
-                           static_cast<std::uint16_t>(style.DonneEntier("style")));
+    for (Arguments const& style : a.DonneObjets("styles")) {
+        int const debut = style.DonneEntier("debut");
+        int const longueur = style.DonneEntier("longueur");
+        texte.MetsAttribut(debut, longueur, static_cast<std::uint16_t>(style.DonneEntier("style")));
+    }
     agent.TraiteTexteLu(texte);
     EcrisTexteAttribue(texte, resultat);
 }

@@ -10,8 +10,9 @@ using Zone = InterfaceZoneDeTexte;
 void AccepteIntervalles(Zone& zone, Arguments const& a, EcritureJson& resultat) {
     int const debut = a.DonneEntier("debut");
     int const fin = a.DonneEntier("fin");
-    resultat.Booleen(zone.AccepteIntervalles(debut, fin, a.DonneEntier("debut2", debut),
-                                             a.DonneEntier("fin2", fin)));
+    int const debut2 = a.DonneEntier("debut2", debut);
+    int const fin2 = a.DonneEntier("fin2", fin);
+    resultat.Booleen(zone.AccepteIntervalles(debut, fin, debut2, fin2));
 }
 
 void CorrigeDansTexteur(Zone& zone, Arguments const& a, EcritureJson& resultat) {

@@ -1,0 +1,194 @@
+# SPDX-License-Identifier: MPL-2.0
+"""The correction on a terminal: what a person sees and types."""
+import os
+import pty
+import re
+import select
+import subprocess
+import time
+import unittest
+
+from commun import PATIENCE
+from corrige import Corrige
+from hote import HOTE
+
+
+class Terminal:
+    """A program on a terminal of its own."""
+
+    def __init__(self, *commande: str, env: dict[str, str]):
+        self.maitre, esclave = pty.openpty()
+        self.programme = subprocess.Popen(commande, env=env, stdin=esclave, stdout=esclave, stderr=esclave,
+                                          start_new_session=True)
+        os.close(esclave)
+        self.lu = ""
+        self.octets = b""
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        if self.programme.poll() is None:
+            self.programme.kill()
+            self.programme.wait()
+        os.close(self.maitre)
+
+    def attends(self, motif: str) -> str:
+        """Reads until the text appears behind what was waited for before; gives what came up to it."""
+        fin = time.monotonic() + PATIENCE
+        while motif not in self.lu:
+            pret, _, _ = select.select([self.maitre], [], [], max(fin - time.monotonic(), 0))
+            if not pret or not self._lis():
+                raise AssertionError(f"{motif!r} never came; last: {self.lu[-500:]!r}")
+        avant, _, self.lu = self.lu.partition(motif)
+        return avant + motif
+
+    def _lis(self) -> bool:
+        try:
+            octets = os.read(self.maitre, 65536)
+        except OSError: # how a terminal says that nobody is at its other side any more
+            return False
+        self.octets += octets
+        self.lu += octets.decode(errors="replace")
+        return bool(octets)
+
+    def tape(self, texte: str):
+        os.write(self.maitre, texte.encode())
+
+    def finis(self) -> tuple[int, str]:
+        while self._lis():
+            pass
+        return self.programme.wait(PATIENCE), self.lu
+
+
+INVITE = " > "
+
+
+class SurUnTerminal(Corrige):
+
+    def setUp(self):
+        super().setUp()
+        self.env |= {"TERM": "xterm", "NO_COLOR": "1"}
+
+    def terminal(self, *options: str) -> Terminal:
+        terminal = Terminal(HOTE, "corrige", "i~d", "--langue", "fr", *options, env=self.env)
+        self.addCleanup(terminal.__exit__)
+        return terminal
+
+    def reponds(self, *reponses: str) -> tuple[int, str]:
+        """Each answer after its question; the exit code and what was shown after the last."""
+        terminal = self.terminal()
+        for reponse in reponses:
+            terminal.attends(INVITE)
+            terminal.tape(reponse + "\n")
+        return terminal.finis()
+
+    def test_a_number_takes_that_suggestion(self):
+        self.joue(["la maisso noir"])
+        code, suite = self.reponds("1")
+        self.assertEqual(code, 0)
+        self.assertIn("Corrected: 1, refused: 0, left: 0.", suite)
+        self.assertEqual(self.zones(), ["la maison noir"])
+
+    def test_the_question_shows_the_mistake_its_suggestions_and_the_answers(self):
+        self.joue(["la petite maisso rouge"])
+        question = self.terminal().attends(INVITE)
+        self.assertIn("    1 la petite [maisso] rouge", question)
+        self.assertIn("1 maison", question)
+        self.assertIn("1-1 choose, r replace, i ignore, I ignore all, q quit", question)
+
+    def test_a_text_of_ones_own_takes_the_place_of_the_mistake(self):
+        self.joue(["la maisso noir"])
+        self.assertEqual(self.reponds("r", "très petite école 😀")[0], 0)
+        self.assertEqual(self.zones(), ["la très petite école 😀 noir"])
+
+    def test_giving_up_ones_own_text_puts_the_question_again(self):
+        self.joue(["la maisso noir"])
+        self.reponds("r", "", "1")
+        self.assertEqual(self.zones(), ["la maison noir"])
+
+    def test_a_mistake_without_suggestions_can_be_replaced(self):
+        self.joue(["qzxwvkqzxw"])
+        self.reponds("r", "chat")
+        self.assertEqual(self.zones(), ["chat"])
+
+    def test_ignoring_leaves_one_mistake_and_goes_on(self):
+        self.joue(["maisso maisso"])
+        _, suite = self.reponds("i", "1")
+        self.assertEqual(self.zones(), ["maisso maison"])
+        self.assertIn("Corrected: 1, refused: 0, left: 1.", suite)
+
+    def test_ignoring_all_leaves_the_same_word_everywhere(self):
+        self.joue(["maisso maisso chyen", "maisso"])
+        _, suite = self.reponds("I", "1")
+        self.assertEqual(self.zones(), ["maisso maisso chien", "maisso"])
+        self.assertIn("Corrected: 1, refused: 0, left: 3.", suite)
+
+    def test_quitting_keeps_what_was_done_and_counts_the_rest_as_left(self):
+        self.joue(["maisso chyen rouje", "maisso maisso"])
+        code, suite = self.reponds("1", "q")
+        self.assertEqual(code, 0)
+        self.assertIn("Corrected: 1, refused: 0, left: 4.", suite)
+        self.assertEqual(self.zones()[0], "maison chyen rouje")
+
+    def test_the_end_of_the_input_quits(self):
+        self.joue(["maisso chyen"])
+        code, suite = self.reponds("1", "\x04")
+        self.assertEqual(code, 0)
+        self.assertIn("left: 1", suite)
+
+    def test_an_answer_that_is_none_puts_the_question_again(self):
+        self.joue(["maisso"])
+        self.reponds("", "0", "99", "oui", "-1", "1")
+        self.assertEqual(self.zones(), ["maison"])
+
+    def test_a_refused_correction_is_told_at_once(self):
+        self.joue(["maisso chyen"], [{"op": "PeutCorriger", "appel": 1, "reponse": False}])
+        terminal = self.terminal()
+        terminal.attends(INVITE)
+        terminal.tape("1\n")
+        self.assertIn("refused: maison", terminal.attends(INVITE))
+        terminal.tape("1\n")
+        self.assertEqual(terminal.finis()[0], 1)
+
+    def test_mistakes_are_in_colour_on_a_terminal_that_knows_colours(self):
+        self.joue(["la maisso noir"])
+        self.env["NO_COLOR"] = ""
+        question = self.terminal().attends(INVITE)
+        self.assertIn("la \x1b[1;31mmaisso\x1b[0m noir", question)
+
+    def test_no_colour_where_the_person_or_the_terminal_wants_none(self):
+        self.joue(["la maisso noir"])
+        for reglage in ({"NO_COLOR": "1"}, {"NO_COLOR": "", "TERM": "dumb"}):
+            with self.subTest(reglage):
+                self.env |= reglage
+                self.assertNotIn("\x1b", self.terminal().attends(INVITE))
+
+    def test_automatic_asks_nothing_on_a_terminal(self):
+        self.joue(["la maisso noir"])
+        terminal = self.terminal("--automatique")
+        code, suite = terminal.finis()
+        self.assertEqual((code, INVITE in suite), (0, False))
+        self.assertEqual(self.zones(), ["la maison noir"])
+
+    def test_json_asks_nothing_on_a_terminal_and_changes_nothing(self):
+        self.joue(["la maisso noir"])
+        code, suite = self.terminal("--sortie", "json").finis()
+        self.assertEqual((code, INVITE in suite), (0, False))
+        self.assertEqual(self.zones(), ["la maisso noir"])
+
+    def test_a_long_work_shows_how_far_it_is_and_takes_that_away(self):
+        # Some half million words: more than the fifth of a second after which progress shows.
+        self.joue(["chat chien maison blanche petite rouge " * 40] * 2500)
+        terminal = self.terminal("--automatique")
+        vu = terminal.attends(" of 2500")
+        self.assertRegex(vu, r"\r\x1b\[KZone \d+ of 2500")
+        _, suite = terminal.finis()
+        self.assertTrue(re.search(r"\r\x1b\[KNo mistake\.\r\n$", suite), suite[-80:])
+
+
+del Corrige # its tests are another script's
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "Contexte.h"
+
+#include <gtest/gtest.h>
+
+using hote::DonneContexte;
+using hote::PourTerminal;
+
+namespace {
+
+QString S(char const* utf8) {
+    return QString::fromUtf8(utf8);
+}
+
+} // namespace
+
+TEST(Contexte, AShortTextIsGivenWhole) {
+    auto const contexte = DonneContexte(S("un mot ici"), 3, 6, 30);
+    EXPECT_EQ(contexte.avant, S("un "));
+    EXPECT_EQ(contexte.apres, S(" ici"));
+    EXPECT_FALSE(contexte.coupeAvant);
+    EXPECT_FALSE(contexte.coupeApres);
+}
+
+TEST(Contexte, ALongTextIsCutBetweenWords) {
+    auto const contexte = DonneContexte(S("premier second faute dernier fin"), 15, 20, 9);
+    EXPECT_EQ(contexte.avant, S("second "));
+    EXPECT_EQ(contexte.apres, S(" dernier"));
+    EXPECT_TRUE(contexte.coupeAvant);
+    EXPECT_TRUE(contexte.coupeApres);
+}
+
+TEST(Contexte, ATextWithoutSpacesIsCutButNeverInsideAPair) {
+    QString const texte = S("😀😀😀X😀😀😀");
+    for (int largeur = 0; largeur < 8; ++largeur) {
+        auto const contexte = DonneContexte(texte, 6, 7, largeur);
+        EXPECT_LE(contexte.avant.size(), largeur);
+        EXPECT_EQ(contexte.avant.size() % 2, 0) << largeur;
+        EXPECT_EQ(contexte.apres.size() % 2, 0) << largeur;
+    }
+}
+
+TEST(Contexte, TheEndsOfATextAreNoReasonToCut) {
+    auto const contexte = DonneContexte(S("mot"), 0, 3, 5);
+    EXPECT_TRUE(contexte.avant.isEmpty() && contexte.apres.isEmpty());
+    EXPECT_FALSE(contexte.coupeAvant || contexte.coupeApres);
+}
+
+TEST(PourTerminal, NothingThatATerminalObeysIsLeft) {
+    EXPECT_EQ(PourTerminal(S("a\u001b[2Jb\u009bc\u0007\n")), S("a·[2Jb·c··"));
+    EXPECT_EQ(PourTerminal(S("a\u202eb\u2066c\u2028d\u2029")), S("a·b·c·d·"));
+    EXPECT_EQ(PourTerminal(QString(QChar(0xD800)) + QChar(0)), S("··"));
+}
+
+TEST(PourTerminal, WhatReadsAsTextStays) {
+    EXPECT_EQ(PourTerminal(S("é e\u0301 😀 « l’été »\tfin")), S("é e\u0301 😀 « l’été » fin"));
+    EXPECT_EQ(PourTerminal(S("exem\u00adple")), S("exemple"));
+}

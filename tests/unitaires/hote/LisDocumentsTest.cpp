@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "Documents.h"
+
+#include <gtest/gtest.h>
+
+using namespace hote;
+
+namespace {
+
+ListeDocuments Lis(char const* reponse) {
+    ListeDocuments liste;
+    LisDocuments(QStringLiteral("A"), QString::fromUtf8(reponse), liste);
+    return liste;
+}
+
+} // namespace
+
+TEST(LisDocuments, DocumentsComeInTheOrderOfTheAnswer) {
+    auto const liste = Lis(R"([{"id":"A~2","titre":"é","chemin":"/x"},
+                               {"id":"A~1","titre":"","chemin":"","autre":1}])");
+    ASSERT_EQ(liste.documents.size(), 2U);
+    EXPECT_EQ(liste.documents[0].id, QStringLiteral("A~2"));
+    EXPECT_EQ(liste.documents[0].titre, QStringLiteral("é"));
+    EXPECT_EQ(liste.documents[0].chemin, QStringLiteral("/x"));
+    EXPECT_EQ(liste.documents[0].DonneInstance(), QStringLiteral("A"));
+    EXPECT_TRUE(liste.avertissements.empty());
+}
+
+TEST(LisDocuments, NoDocumentIsNoFault) {
+    EXPECT_TRUE(Lis("[]").documents.empty());
+    EXPECT_TRUE(Lis("[]").avertissements.empty());
+}
+
+TEST(LisDocuments, AnAnswerThatIsNoListIsLeftOutWithOneWarning) {
+    for (char const* reponse : {"", "{}", "null", "[", "\"x\"", "[[", "bonjour", "[1]", "[null]",
+                                R"([{"id":"A~1"}])", R"([{"id":1,"titre":"","chemin":""}])",
+                                R"([{"id":"A~1","titre":null,"chemin":""},{"id":2}])"}) {
+        auto const liste = Lis(reponse);
+        EXPECT_TRUE(liste.documents.empty()) << reponse;
+        EXPECT_EQ(liste.avertissements.size(), 1U) << reponse;
+        EXPECT_NE(liste.avertissements[0].find(" A "), std::string::npos);
+    }
+}
+
+TEST(LisDocuments, ADocumentOfSomebodyElseIsLeftOut) {
+    auto const liste = Lis(R"([{"id":"B~1","titre":"","chemin":""},
+                               {"id":"AA~1","titre":"","chemin":""},
+                               {"id":"A","titre":"","chemin":""},
+                               {"id":"A~1","titre":"bon","chemin":""}])");
+    ASSERT_EQ(liste.documents.size(), 1U);
+    EXPECT_EQ(liste.documents[0].titre, QStringLiteral("bon"));
+    EXPECT_EQ(liste.avertissements.size(), 1U);
+}
+
+TEST(LisDocuments, AnEndlessAnswerIsLeftOut) {
+    QByteArray enorme("[");
+    enorme += QByteArray(5 * 1024 * 1024, ' ') + ']';
+    EXPECT_EQ(Lis(enorme.constData()).avertissements.size(), 1U);
+    QByteArray profond = QByteArray(100000, '[') + QByteArray(100000, ']');
+    EXPECT_EQ(Lis(profond.constData()).avertissements.size(), 1U);
+}
+
+TEST(DonneInstance, OnlyCompanionsNamesThatCanStandInAPathCount) {
+    auto const instance = [](char const* reste) {
+        return DonneInstance(QStringLiteral("com.ombrel.vocalyne.texteurs.OpenOffice.") +
+                             QString::fromUtf8(reste))
+            .toStdString();
+    };
+    EXPECT_EQ(instance("soffice_12"), "soffice_12");
+    EXPECT_EQ(instance("_7"), "_7");
+    for (char const* reste : {"", "7", "a.b", "a-b", "é", "a\n"})
+        EXPECT_EQ(instance(reste), "") << reste;
+    EXPECT_EQ(DonneInstance(QStringLiteral("org.freedesktop.DBus")), QString());
+    EXPECT_EQ(DonneInstance(QStringLiteral(":1.7")), QString());
+}
