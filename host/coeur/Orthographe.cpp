@@ -14,7 +14,7 @@ namespace {
 constexpr std::uint16_t kStyleNonCorrige = 64; ///< the style bit of text not to be proofed
 constexpr ushort kApostropheCourbe = 0x2019;
 
-/// Does [mot.debut, mot.fin) touch a run that is not to be proofed? `plage` moves forward with the
+/// Does the word touch a run that is not to be proofed? `plage` moves forward with the
 /// words, so the whole text costs one pass over the runs.
 bool EstExclu(Mot const& mot, Orthographe::Plages const& plages, std::size_t& plage) {
     while (plage < plages.size() && plages[plage].fin <= mot.debut)

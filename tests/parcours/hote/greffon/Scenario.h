@@ -16,11 +16,11 @@
 ///  "evenements":[{"op":name, "appel":which call (all when missing), …what happens}],
 ///  "journal":file}
 ///
-/// What happens, in this order: "zones" (the document becomes another), "mort" (the document is
-/// gone from now on), "leve" (std::runtime_error with that text), "leveEntier" (an int is thrown),
-/// "reponse" (the operation's answer instead of its own), "ignore" (the call has no effect),
-/// "avertis" (an alert with that text), "imprime" (a line on standard output). When the agent ends,
-/// the journal gets {"zones":[…],"appels":[…]}: the document as it then is, and every call.
+/// What happens, in this order: `zones` (the document becomes another), `mort` (the document is
+/// gone from now on), `leve` (std::runtime_error with that text), `leveEntier` (an int is thrown),
+/// `avertis` (an alert with that text), `imprime` (a line on standard output), `reponse` (the
+/// operation's answer instead of its own), `ignore` (the call has no effect). When the agent ends,
+/// the journal gets `{"zones":[…],"appels":[…]}`: the document as it then is, and every call.
 class Scenario {
   public:
     static Scenario& Donne();
