@@ -7,7 +7,6 @@
 #include <algorithm>
 
 using compagnon::EcrivainZones;
-using compagnon::PlageDeStyle;
 
 namespace {
 
