@@ -24,14 +24,18 @@ struct Appelant {
     TexteSuivi* Croyance(std::string const& cle, NumeroZone zone) noexcept;
 };
 
-/// The callers, by their unique name on the bus. A bounded number: past it the one that has been
-/// silent longest is forgotten, and must synchronise again before it can correct.
+/// The callers, by their unique name on the bus. Bounded, in their number and in what is kept of
+/// them: past that the one that has been silent longest is forgotten, and must synchronise again
+/// before it can correct.
 class Appelants {
   public:
     static constexpr std::size_t kMax = 256;
+    static constexpr std::size_t kCroyancesMax = 4000000; ///< zones, over all callers
 
     /// The caller's entry, made when it has none. Valid until the next call of this operation.
     Appelant& Donne(std::string const& nom);
+    /// The caller has been given these zones of a document.
+    void Donne(std::string const& nom, std::string const& cle, Appelant::Croyances croyances);
     /// The caller has left the bus.
     void Oublie(std::string const& nom) noexcept { appelants_.erase(nom); }
     /// The document is gone: nobody believes anything of it.
@@ -40,7 +44,10 @@ class Appelants {
     std::size_t Nombre() const noexcept { return appelants_.size(); }
 
   private:
-    std::unordered_map<std::string, Appelant> appelants_;
+    using Table = std::unordered_map<std::string, Appelant>;
+    void OublieLePlusAncien(std::string const& sauf);
+
+    Table appelants_;
     std::uint64_t horloge_ = 0;
 };
 

@@ -110,8 +110,7 @@ Resultat<std::string> Bureau::SynchronisePositions(std::string const& appelant,
     if (!document) {
         return Inconnu(identifiant);
     }
-    Appelant& celui = appelants_.Donne(appelant);
-    celui.document = document->Cle();
+    appelants_.Donne(appelant).document = document->Cle();
 
     Selection const& selection = document->DonneSelection();
     EcrivainZones ecrivain;
@@ -132,7 +131,7 @@ Resultat<std::string> Bureau::SynchronisePositions(std::string const& appelant,
     for (DocumentTexte::Zone const& zone : document->Zones()) {
         croyances[zone.numero].Donne(zone.paragraphe.texte);
     }
-    celui.croyances[document->Cle()] = std::move(croyances);
+    appelants_.Donne(appelant, document->Cle(), std::move(croyances));
     return std::move(*reponse);
 }
 

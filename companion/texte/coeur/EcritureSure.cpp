@@ -3,6 +3,7 @@
 
 #include "Descripteur.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -57,18 +58,27 @@ Descripteur CreeUnique(std::string& modele) {
     return Descripteur(::mkostemp(modele.data(), O_CLOEXEC));
 }
 
+/// No more than so many bytes of a name, whole UTF-8 sequences only: with what is added to it a
+/// name may have 255.
+std::string Raccourcis(std::string nom) {
+    std::size_t fin = std::min<std::size_t>(nom.size(), 200);
+    while (fin > 0 && fin < nom.size() && (static_cast<unsigned char>(nom[fin]) & 0xC0) == 0x80) {
+        --fin;
+    }
+    nom.resize(fin);
+    return nom;
+}
+
 /// "letter.txt" -> "letter.corrige-1.txt", the first number that is free.
 Descripteur CreeCopie(std::string const& chemin, std::string& copie) {
     std::string const nom = Nom(chemin);
     std::size_t const point = nom.find_last_of('.');
-    bool const extension = point != std::string::npos && point > 0;
+    bool const avecSuffixe = point != std::string::npos && point > 0 && nom.size() - point < 20;
+    std::string const suffixe = avecSuffixe ? nom.substr(point) : std::string();
     std::string const debut = chemin.substr(0, chemin.size() - nom.size()) +
-                              nom.substr(0, extension ? point : nom.size());
+                              Raccourcis(nom.substr(0, nom.size() - suffixe.size()));
     for (int numero = 1; numero < 1000; ++numero) {
-        copie = debut + ".corrige-" + std::to_string(numero);
-        if (extension) {
-            copie += nom.substr(point);
-        }
+        copie = debut + ".corrige-" + std::to_string(numero) + suffixe;
         Descripteur fichier(
             ::open(copie.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0600));
         if (fichier || errno != EEXIST) {
@@ -102,7 +112,7 @@ Ecriture EcritureSure::Sauve(std::string_view nouveau, IssueEcriture issue,
     }
     char const* const temporaires = std::getenv("TMPDIR");
     std::string secours = std::string(temporaires && *temporaires ? temporaires : "/tmp") + "/" +
-                          Nom(chemin_) + ".corrige-XXXXXX";
+                          Raccourcis(Nom(chemin_)) + ".corrige-XXXXXX";
     if (Descripteur const fichier = CreeUnique(secours);
         fichier && EcrisEtSynchronise(fichier.Donne(), nouveau)) {
         return {issue, erreurSysteme, secours};
@@ -117,7 +127,7 @@ Ecriture EcritureSure::Ecris(std::string_view nouveau) {
         return Sauve(nouveau, IssueEcriture::Conflit, 0);
     }
     std::string const dossier = Dossier(chemin_);
-    std::string voisin = dossier + "/." + Nom(chemin_) + ".XXXXXX";
+    std::string voisin = dossier + "/.vocalyne-XXXXXX";
     struct stat etat {};
     Descripteur const fichier = CreeUnique(voisin);
     if (!fichier) {

@@ -48,6 +48,7 @@ Options LisOptions(int argc, char* argv[]) {
                                    {"commande", no_argument, nullptr, Commande},
                                    {nullptr, 0, nullptr, 0}};
     Options options;
+    optind = 0; // from the start, whoever parsed before
     opterr = 0; // we say it in the person's language
     for (;;) {
         // NOLINTNEXTLINE(concurrency-mt-unsafe): before any thread

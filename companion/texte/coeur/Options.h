@@ -19,7 +19,7 @@ struct Options {
     std::vector<std::string> fichiers; ///< bytes as the system has them
 };
 
-/// Permutes `argv`. To be called once.
+/// Permutes `argv`. Not for two threads.
 Options LisOptions(int argc, char* argv[]);
 
 /// Can it stand in a bus name and in an object path?
