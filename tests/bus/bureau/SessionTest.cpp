@@ -105,9 +105,9 @@ TEST_F(OfficeSession, ForgetsOneThatLeavesBeforeItsCallIsServed) {
     EXPECT_TRUE(Atteint(0));
 }
 
-TEST_F(OfficeSession, StaysReachableAfterAMessageNearTheBussOwnLimit) {
+TEST_F(OfficeSession, StaysReachableAfterAMessageLargerThanLibdbusReadsByDefault) {
     ClientBureau const client(bureau.Instance());
-    QString const enorme(100 << 20, QLatin1Char('a'));
+    QString const enorme(70 << 20, QLatin1Char('a'));
     EXPECT_EQ(client.Erreur("InitialiseTexteur", {enorme}).substr(0, 20), "com.ombrel.vocalyne.");
     client.Initialise("doc1");
     EXPECT_EQ(client.Erreur("RemplaceEtReselectionne", {enorme}),
