@@ -7,7 +7,7 @@ namespace hote {
 
 namespace {
 
-bool PeutEtreTechnique(QStringRef morceau) {
+bool PeutEtreTechnique(QStringRef const& morceau) {
     // Nearly every stretch is a plain word: no expression is run for it.
     for (QChar const unite : morceau) {
         switch (unite.unicode()) {
@@ -29,7 +29,7 @@ bool PeutEtreTechnique(QStringRef morceau) {
 
 } // namespace
 
-bool EstTechnique(QStringRef morceau) {
+bool EstTechnique(QStringRef const& morceau) {
     if (!PeutEtreTechnique(morceau))
         return false;
     // The names of domains are few on purpose: "fin.Le" is a missing space, not an address.

@@ -8,6 +8,6 @@ namespace hote {
 /// Is a stretch of text without spaces something that no dictionary should judge: an address of the
 /// web, of mail or of a file, a mention, a tag, an identifier of a program? Quotes, brackets and
 /// punctuation around it do not matter.
-bool EstTechnique(QStringRef morceau);
+bool EstTechnique(QStringRef const& morceau);
 
 } // namespace hote

@@ -9,8 +9,9 @@
 
 namespace hote {
 
-/// Finds out in which language a text is written: the one of whose words the dictionary knows more.
-/// Texts are given one after the other until there are enough.
+/// Finds out in which language a text is written: the one of whose words the dictionary knows more,
+/// the small words of each language ("les", "the") counting most. Texts are given one after the
+/// other until there are enough.
 class DetecteLangue {
   public:
     /// Both dictionaries must outlive the object.
@@ -28,8 +29,8 @@ class DetecteLangue {
     Lexique& francais_;
     Lexique& anglais_;
     int mots_ = 0;
-    int motsFrancais_ = 0;
-    int motsAnglais_ = 0;
+    int pointsFrancais_ = 0;
+    int pointsAnglais_ = 0;
 };
 
 } // namespace hote

@@ -56,18 +56,19 @@ QString Document::DonneTitre() {
 void Document::Lis() {
     auto& zones = tenu_.DonneZones();
     zones.Vide();
-    if (lu_)
-        tenu_.DonneAgent()->SynchronisePositions(zones);
-    else
-        tenu_.DonneAgent()->DonneZones(zones);
+    bool const ok = lu_ ? tenu_.DonneAgent()->SynchronisePositions(zones)
+                        : tenu_.DonneAgent()->DonneZones(zones);
     std::vector<QString> textes;
     textes.reserve(static_cast<std::size_t>(zones.DonneNombre()));
     for (int i = 0; i < zones.DonneNombre(); ++i)
         textes.push_back(DonneZone(i).DonneTexte().DonneTexte().VersQString());
-    // An agent that reaches nobody reads an empty document, and does not call it dead.
-    bool const disparu = textes.empty() && !textes_.empty();
+    // Not every agent that reaches nobody says so, nor calls its document dead.
+    bool const disparu = !ok || (textes.empty() && !textes_.empty());
+    bool const premiereFois = !lu_;
     textes_ = std::move(textes);
     lu_ = true;
+    if (!ok && premiereFois)
+        throw ErreurHote(kSortieDocument, Tr("Le document ne se lit pas."));
     if (disparu)
         throw DonneErreurMort();
     if (textes_.empty())

@@ -30,9 +30,9 @@ class Document {
 
     QString DonneTitre();
 
-    /// Reads all zones anew. Throws ErreurHote (kSortieDocumentMort) when the document has gone
-    /// away, which shows in the word processor saying so, or in there being no zone where there
-    /// were some.
+    /// Reads all zones anew. Throws ErreurHote when the document cannot be read the first time
+    /// (kSortieDocument), or has gone away since (kSortieDocumentMort): the word processor says so,
+    /// it cannot be read any more, or there is no zone where there were some.
     void Lis();
 
     int DonneNombre() const noexcept { return static_cast<int>(textes_.size()); }

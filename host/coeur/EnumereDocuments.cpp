@@ -60,7 +60,9 @@ void Attends(std::vector<QDBusPendingCall> const& appels, int delaiMs) {
     }
     if (restants == 0)
         return;
-    QTimer::singleShot(std::max(delaiMs, 0), &boucle, &QEventLoop::quit);
+    QTimer minuterie;
+    QObject::connect(&minuterie, &QTimer::timeout, &boucle, &QEventLoop::quit);
+    minuterie.start(std::max(delaiMs, 0));
     boucle.exec();
 }
 

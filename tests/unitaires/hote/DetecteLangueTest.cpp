@@ -21,9 +21,14 @@ class Detection : public ::testing::Test {
 } // namespace
 
 TEST_F(Detection, TheLanguageIsTheOneWhoseWordsAreKnown) {
-    EXPECT_FALSE(detecteur_.Compte(QStringLiteral("the cat, le table inconnu")));
+    EXPECT_FALSE(detecteur_.Compte(QStringLiteral("the cat, chat inconnu table")));
     EXPECT_EQ(detecteur_.DonneLangue(), Langue::Anglais);
     detecteur_.Compte(QStringLiteral("le chat"));
+    EXPECT_EQ(detecteur_.DonneLangue(), Langue::Francais);
+}
+
+TEST_F(Detection, TheSmallWordsCountMost) {
+    detecteur_.Compte(QStringLiteral("le cat cat"));
     EXPECT_EQ(detecteur_.DonneLangue(), Langue::Francais);
 }
 
