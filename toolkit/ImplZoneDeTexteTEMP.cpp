@@ -58,8 +58,9 @@ void ImplZoneDeTexteTEMP::Remplis() {
     for (int pos = debut_; pos < fin_;) {
         int place = 0;
         try {
-            auto const finBloc = static_cast<int>(
-                std::min<std::int64_t>(std::int64_t{pos} + agent_->DonneTailleBloc() - 1, fin_));
+            // A block size may be anything, also one that leaves no room for a character.
+            auto const finBloc = static_cast<int>(std::clamp<std::int64_t>(
+                std::int64_t{pos} + agent_->DonneTailleBloc() - 1, pos, fin_));
             if (pos < finBloc) {
                 auto bloc = agent_->DonneTexteAvecAttributs(pos, finBloc);
                 agent_->NormaliseTexteLu(bloc);

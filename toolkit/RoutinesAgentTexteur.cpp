@@ -2,6 +2,7 @@
 #include "RoutinesAgentTexteur.h"
 
 #include "ImplAgentTexteur.h"
+#include "Positions.h"
 
 #include <cstdint>
 
@@ -16,7 +17,8 @@ bool InitialiseAgentSelonInfos(ImplAgentTexteur* agent, InfosApplication const& 
 void DonneBornesZone(ImplAgentTexteur& agent, int position, int fin, int& longueur, int& debut) {
     longueur = 0;
     debut = 0;
-    int const finZone = agent.DonneFinZone(position == fin ? position - 1 : position);
+    int const finZone =
+        agent.DonneFinZone(position == fin ? positions::Difference(position, 1) : position);
     int precedente = agent.DonneFinZone(0);
     if (finZone > precedente) {
         for (int suivante = agent.DonneFinZone(precedente);
@@ -26,7 +28,7 @@ void DonneBornesZone(ImplAgentTexteur& agent, int position, int fin, int& longue
         precedente = 0;
     }
     debut = precedente;
-    longueur = finZone - precedente;
+    longueur = positions::Difference(finZone, precedente);
 }
 
 bool EstFinDeZone(ImplAgentTexteur& agent, int a, int b, int c) {
