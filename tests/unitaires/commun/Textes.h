@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "InterfaceZoneDeTexte.h"
+#include "UniChaine.h"
+
+#include <ostream>
+#include <string>
+#include <string_view>
+
+/// A host string from UTF-16, NULs and lone surrogates included.
+inline UniChaine U(std::u16string_view unites) {
+    return UniChaine(unites.data(), static_cast<int>(unites.size()));
+}
+
+/// A text without attributes.
+inline TexteAvecAttributs A(std::u16string_view unites) {
+    return TexteAvecAttributs(sdd::T(U(unites)));
+}
+
+/// The text alone.
+inline UniChaine TexteDe(TexteAvecAttributs const& texte) {
+    return sdd::T(texte.DonneTexte());
+}
+
+/// `longueur` times the filler that stands for text that was not read.
+UniChaine Bourre(int longueur);
+
+// How GoogleTest shows them: with escapes, so that what differs can be seen.
+void PrintTo(UniChaine const& texte, std::ostream* sortie);
+namespace sdd {
+void PrintTo(PlageAttribut const& plage, std::ostream* sortie);
+} // namespace sdd
