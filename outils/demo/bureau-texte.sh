@@ -40,7 +40,7 @@ bureauFerme() {
 bureauCompare() {
     local couleur=never mots=plain
     if [ -t 1 ] && [ -z "${NO_COLOR:-}" ]; then couleur=always mots=color; fi
-    LC_ALL=C.UTF-8 git --no-pager diff --no-index --no-ext-diff --color="$couleur" --word-diff="$mots" \
+    LC_ALL=C.UTF-8 git --no-pager -c color.diff.old="red strike" diff --no-index --no-ext-diff --color="$couleur" --word-diff="$mots" \
         --word-diff-regex='[[:alpha:]]+|[^[:space:]]' --unified=0 -- "$1" "$2" |
-        sed -E '1,/^(\x1b\[[0-9;]*m)*\+\+\+ /d; /^(\x1b\[[0-9;]*m)*@@ /d' || true
+        sed -E '1,/^(\x1b\[[0-9;]*m)*@@ /d; s/^(\x1b\[[0-9;]*m)*@@ .*//' || true
 }
