@@ -19,19 +19,21 @@ constexpr char const* kPropriete = "vocalyneProprietaire";
 
 /// Waits for the end of a call. QtDBus' own wait has no limit of its own and does not end when the
 /// bus goes away, so the call is looked at again and again: at once at first, then after pauses
-/// that grow with the time waited, so that they never add more than a sixteenth to it.
+/// that grow with the time waited, so that they never add more than a sixteenth to it. The bus is
+/// looked at only from then on: that takes the lock under which the reply would come in.
 bool AttendsLaFin(QDBusConnection const& bus, QDBusPendingCall const& appel, milliseconds delai) {
     constexpr microseconds kSansPause{1000};
     constexpr microseconds kPauseMax{5000};
     auto const depart = Horloge::now();
     while (!appel.isFinished()) {
         auto const attendu = std::chrono::duration_cast<microseconds>(Horloge::now() - depart);
+        if (attendu < kSansPause) {
+            std::this_thread::yield();
+            continue;
+        }
         if (attendu >= delai || !bus.isConnected())
             return appel.isFinished();
-        if (attendu < kSansPause)
-            std::this_thread::yield();
-        else
-            std::this_thread::sleep_for(std::min(attendu / 16, kPauseMax));
+        std::this_thread::sleep_for(std::min(attendu / 16, kPauseMax));
     }
     return true;
 }
