@@ -20,7 +20,7 @@ UniChaine EncodeTexteJson(UniChaine const& texte) {
                      static_cast<int>(tampon.DonneTaille()));
 }
 
-UniChaine DecodeTexteJson(std::string const& valeur) {
+UniChaine DecodeTexteJson(std::string_view valeur) {
     sdd::TamponMemoire tampon(kCapaciteInitiale);
     sdd::Base64::Decode(valeur.data(), valeur.size(), tampon);
     auto const* const octets = tampon.DonneOctets();

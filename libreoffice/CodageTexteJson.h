@@ -3,7 +3,7 @@
 
 #include "UniChaine.h"
 
-#include <string>
+#include <string_view>
 
 // Texts inside a zone document travel as Base64 of UTF-8, so that the JSON itself is plain ASCII
 // whatever the document holds.
@@ -13,4 +13,4 @@ UniChaine EncodeTexteJson(UniChaine const& texte);
 
 /// The text of a Base64 value; it ends at its first NUL byte. What does not decode gives whatever
 /// the decoder made of it.
-UniChaine DecodeTexteJson(std::string const& valeur);
+UniChaine DecodeTexteJson(std::string_view valeur);

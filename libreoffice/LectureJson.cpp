@@ -1,34 +1,33 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "LectureJson.h"
 
-#include <json/reader.h>
+#include <utility>
 
 namespace lectureJson {
 
 Json::Value Analyse(std::string const& octets) {
-    Json::Value racine;
+    Analyseur analyseur;
     try {
-// The reader that zone documents are defined by; its successor parses by other rules.
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
-        Json::Reader lecteur;
-#pragma GCC diagnostic pop
-        // By pointers: given a std::string, the reader would keep a copy of the whole document.
-        lecteur.parse(octets.data(), octets.data() + octets.size(), racine, true);
+        analyseur.Analyse(octets);
     } catch (Json::Exception const&) {
         // Too deeply nested: nothing in it can be a zone.
-        racine = Json::Value();
+        return {};
     }
-    return racine;
+    return std::move(analyseur.DonneRacine());
 }
 
 Json::Value const& Membre(Json::Value const& objet, char const* cle) {
     return objet.isObject() ? objet[cle] : Json::Value::nullSingleton();
 }
 
-std::string Texte(Json::Value const& objet, char const* cle) {
+std::string_view Texte(Json::Value const& objet, char const* cle, std::string& tampon) {
     auto const& valeur = Membre(objet, cle);
-    return valeur.isArray() || valeur.isObject() ? std::string() : valeur.asString();
+    char const* debut = nullptr;
+    char const* fin = nullptr;
+    if (valeur.getString(&debut, &fin))
+        return {debut, static_cast<std::size_t>(fin - debut)};
+    tampon = valeur.isArray() || valeur.isObject() ? std::string() : valeur.asString();
+    return tampon;
 }
 
 int Entier(Json::Value const& objet, char const* cle) {

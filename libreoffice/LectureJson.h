@@ -4,13 +4,36 @@
 #include "PlageStyle.h"
 #include "UniChaine.h"
 
+#include <json/reader.h>
 #include <json/value.h>
 
 #include <string>
+#include <string_view>
 
 // How the readers of zone documents take what JsonCpp parsed. They are lenient about everything but
 // integers: whatever is missing or is no object reads as null, whatever is no text as empty.
 namespace lectureJson {
+
+/// Parses one document after the other; cheaper than a parser for each.
+class Analyseur {
+  public:
+    /// Did the UTF-8 bytes parse? The root is what the parser left, in both cases. Throws
+    /// Json::Exception for nesting beyond the parser's depth.
+    bool Analyse(std::string_view octets) {
+        // By pointers: given a std::string, the reader would keep a copy of the whole document.
+        return lecteur_.parse(octets.data(), octets.data() + octets.size(), racine_, true);
+    }
+    /// Valid until the next document.
+    Json::Value& DonneRacine() noexcept { return racine_; }
+
+  private:
+// The reader that zone documents are defined by; its successor parses by other rules.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+    Json::Reader lecteur_;
+#pragma GCC diagnostic pop
+    Json::Value racine_;
+};
 
 /// Parses the UTF-8 bytes. Whether it worked is deliberately not told: what the parser left in the
 /// root is used. Nesting beyond the parser's depth gives null.
@@ -20,8 +43,9 @@ Json::Value Analyse(std::string const& octets);
 /// long as `objet`.
 Json::Value const& Membre(Json::Value const& objet, char const* cle);
 
-/// A text member, still encoded; empty when it is an array or an object.
-std::string Texte(Json::Value const& objet, char const* cle);
+/// The text of a text member, still encoded; empty when it is an array or an object. `tampon` holds
+/// it where the member is no text but reads as one; the view lives as long as both.
+std::string_view Texte(Json::Value const& objet, char const* cle, std::string& tampon);
 
 /// An integer member, 0 when missing or null. Throws Json::RuntimeError, "Type is not convertible
 /// to int", when it is no 32-bit signed integer.

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MPL-2.0
 // The agent's text operations: what the host reads of the document and changes in its selection.
 #include "ConnexionSession.h"
-#include "ListeDeZones.h"
 #include "ModuleProxyOOo.h"
+#include "RemplissageZones.h"
 #include "ReponseProxy.h"
 #include "VocalyneOpenOfficeProxyQDBUS.h"
-#include "ZoneDeTexteOOoProxy.h"
 
 namespace {
 
@@ -45,13 +44,7 @@ bool ModuleProxyOOo::SynchronisePositions(CollectionZonesDeTexte& zones) {
             return false;
         octets = LisTexte(*proxy_, appel).VersUtf8();
     }
-    LisListeDeZones(octets, [this, &zones](ZoneLue&& lue) {
-        auto zone = std::make_unique<ZoneDeTexteOOoProxy>(proxy_.get(), this, lue.texte, lue.nom,
-                                                          lue.debutSel, lue.finSel);
-        for (auto const& plage : lue.styles)
-            zone->AjouteStyle(plage);
-        zones.AjoutePossedee(std::move(zone));
-    });
+    AjouteZones(octets, proxy_.get(), this, zones);
     return true;
 }
 

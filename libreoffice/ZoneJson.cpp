@@ -56,8 +56,9 @@ TexteAvecAttributs JsonVersChaineAttribuee(UniChaine const& json, UniChaine& nom
     if (json.EstVide())
         return texte;
     auto const racine = lectureJson::Analyse(json.VersUtf8());
-    nom = DecodeTexteJson(lectureJson::Texte(racine, "Nom"));
-    texte.MetsTexte(sdd::T(DecodeTexteJson(lectureJson::Texte(racine, "Texte"))));
+    std::string tampon;
+    nom = DecodeTexteJson(lectureJson::Texte(racine, "Nom", tampon));
+    texte.MetsTexte(sdd::T(DecodeTexteJson(lectureJson::Texte(racine, "Texte", tampon))));
     auto const& styles = lectureJson::Membre(racine, "InfosStyle");
     if (lectureJson::EstListe(styles)) {
         for (auto const& element : styles) {
