@@ -16,7 +16,7 @@ function(vocalyne_bibliotheque_hote nom)
   set_target_properties(${nom} PROPERTIES
     CXX_VISIBILITY_PRESET hidden
     VISIBILITY_INLINES_HIDDEN ON
-    BUILD_RPATH_USE_ORIGIN ON
+    BUILD_WITH_INSTALL_RPATH ON
     INSTALL_RPATH "$ORIGIN")
   install(TARGETS ${nom} EXPORT VocalyneConnecteurCibles
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
