@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "Repondeur.h"
+
+#include "DocumentDeZones.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QSocketNotifier>
+
+#include <cstdio>
+#include <unistd.h>
+
+namespace banc {
+
+QString Repondeur::SynchronisePositions(QString const& leId) {
+    if (leId != identifiant_) {
+        auto const zones = leId.section(QLatin1Char('~'), 1).toInt();
+        document_ = QString::fromStdString(FaisDocument(zones));
+        identifiant_ = leId;
+    }
+    return document_;
+}
+
+int Reponds(QString const& instance) {
+    auto bus = QDBusConnection::sessionBus();
+    Repondeur repondeur;
+    if (!bus.registerObject(QStringLiteral("/com/ombrel/vocalyne/texteurs/OpenOffice/") + instance,
+                            &repondeur, QDBusConnection::ExportAllSlots) ||
+        !bus.registerService(QStringLiteral("com.ombrel.vocalyne.texteurs.OpenOffice.") +
+                             instance)) {
+        std::fputs("the bench's companion cannot be published on the session bus\n", stderr);
+        return 1;
+    }
+    std::puts("ready");
+    std::fflush(stdout);
+    QSocketNotifier fin(STDIN_FILENO, QSocketNotifier::Read);
+    QObject::connect(&fin, &QSocketNotifier::activated, QCoreApplication::instance(),
+                     &QCoreApplication::quit);
+    return QCoreApplication::exec();
+}
+
+} // namespace banc
