@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "Appels.h"
+
+#include "Chaines.h"
+#include "Erreur.h"
+
+#include <com/sun/star/lang/DisposedException.hpp>
+#include <com/sun/star/uno/Exception.hpp>
+
+#include <string>
+#include <utility>
+
+using namespace com::sun::star;
+
+namespace bureau {
+
+namespace {
+
+constexpr char kPrefixeErreur[] = "com.ombrel.vocalyne.texteurs.Erreur.";
+
+} // namespace
+
+void RepondsErreur(GDBusMethodInvocation* invocation, char const* nom, char const* message) {
+    g_dbus_method_invocation_return_dbus_error(
+        invocation, (std::string(kPrefixeErreur) + nom).c_str(), message);
+}
+
+/// One call on its way. The reply is sent by whoever wins: the work, or its time limit.
+struct Appels::Attente {
+    GDBusMethodInvocation* invocation = nullptr;
+    std::shared_ptr<Demande> demande;
+    GSource* limite = nullptr;
+
+    Attente() = default;
+    Attente(Attente const&) = delete;
+    Attente& operator=(Attente const&) = delete;
+    ~Attente() {
+        if (limite != nullptr) {
+            g_source_unref(limite);
+        }
+    }
+};
+
+Appels::Appels(FilPrincipal fil, std::shared_ptr<Service> service)
+    : fil_(std::move(fil))
+    , service_(std::move(service)) {}
+
+Appels::~Appels() {
+    Ferme();
+}
+
+void Appels::Sert(GDBusMethodInvocation* invocation, std::chrono::milliseconds delai,
+                  Travail travail) {
+    auto const attente = std::make_shared<Attente>();
+    attente->invocation = invocation;
+    std::weak_ptr<Attente> const faible = attente;
+    std::string appelant = g_dbus_method_invocation_get_sender(invocation);
+    attente->demande = std::make_shared<Demande>(
+        [this, faible, appelant = std::move(appelant), travail = std::move(travail)] {
+            std::shared_ptr<Attente> const ici = faible.lock();
+            if (!ici) {
+                return;
+            }
+            try {
+                GVariant* const resultat = travail(*service_, appelant);
+                g_dbus_method_invocation_return_value(ici->invocation, resultat);
+            } catch (Erreur const& erreur) {
+                RepondsErreur(ici->invocation, erreur.Nom().c_str(), erreur.what());
+            } catch (lang::DisposedException const&) {
+                RepondsErreur(ici->invocation, "DocumentFerme", "the document is being closed");
+            } catch (uno::Exception const& erreur) {
+                RepondsErreur(ici->invocation, "Bureau", EnUtf8(erreur.Message).c_str());
+            } catch (std::exception const& erreur) {
+                RepondsErreur(ici->invocation, "Interne", erreur.what());
+            }
+            Retire(ici);
+        });
+
+    attente->limite = g_timeout_source_new(static_cast<guint>(delai.count()));
+    using Echeance = std::pair<Appels*, std::weak_ptr<Attente>>;
+    g_source_set_callback(
+        attente->limite,
+        [](gpointer donnee) -> gboolean {
+            auto const* echeance = static_cast<Echeance*>(donnee);
+            std::shared_ptr<Attente> const ici = echeance->second.lock();
+            if (ici && ici->demande->Annule()) {
+                RepondsErreur(ici->invocation, "Occupe",
+                              "the office is busy; nothing was done and nothing will be");
+                echeance->first->Retire(ici);
+            }
+            return G_SOURCE_REMOVE;
+        },
+        new Echeance(this, attente),
+        [](gpointer donnee) { delete static_cast<Echeance*>(donnee); });
+    g_source_attach(attente->limite, g_main_context_get_thread_default());
+    {
+        std::lock_guard<std::mutex> const verrou(mutex_);
+        if (ferme_) {
+            g_source_destroy(attente->limite);
+            RepondsErreur(invocation, "Fermeture", "the office is closing");
+            return;
+        }
+        attentes_.insert(attente);
+    }
+    fil_.Poste(attente->demande);
+}
+
+void Appels::Retire(std::shared_ptr<Attente> const& attente) {
+    g_source_destroy(attente->limite);
+    std::lock_guard<std::mutex> const verrou(mutex_);
+    attentes_.erase(attente);
+}
+
+void Appels::Poste(std::function<void(Service&)> travail) {
+    fil_.Poste(std::make_shared<Demande>(
+        [service = service_, travail = std::move(travail)] { travail(*service); }));
+}
+
+void Appels::Ferme() {
+    std::set<std::shared_ptr<Attente>> restantes;
+    {
+        std::lock_guard<std::mutex> const verrou(mutex_);
+        ferme_ = true;
+        restantes.swap(attentes_);
+    }
+    for (std::shared_ptr<Attente> const& attente : restantes) {
+        if (attente->demande->Annule()) {
+            g_source_destroy(attente->limite);
+            RepondsErreur(attente->invocation, "Fermeture", "the office is closing");
+        }
+    }
+}
+
+} // namespace bureau

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "CarnetDeZones.h"
+
+#include "TexteDessine.h"
+
+using namespace com::sun::star;
+
+namespace bureau {
+
+std::string CarnetDeZones::NouvelleCle() {
+    return prefixe_ + ":" + std::to_string(++derniere_);
+}
+
+std::shared_ptr<ZoneOuverte> CarnetDeZones::Retrouve(uno::Reference<uno::XInterface> const& objet) {
+    auto const trouve = parObjet_.find(objet.get());
+    if (trouve == parObjet_.end()) {
+        return nullptr;
+    }
+    trouve->second.passage = passage_;
+    return trouve->second.zone;
+}
+
+void CarnetDeZones::Inscris(uno::Reference<uno::XInterface> const& objet,
+                            std::shared_ptr<ZoneOuverte> const& zone) {
+    parObjet_[objet.get()] = {objet, zone, nullptr, passage_};
+    InscrisCle(zone);
+}
+
+std::shared_ptr<TexteDessine>
+CarnetDeZones::RetrouveTexte(uno::Reference<uno::XInterface> const& objet) {
+    auto const trouve = parObjet_.find(objet.get());
+    if (trouve == parObjet_.end()) {
+        return nullptr;
+    }
+    trouve->second.passage = passage_;
+    return trouve->second.texte;
+}
+
+void CarnetDeZones::InscrisTexte(uno::Reference<uno::XInterface> const& objet,
+                                 std::shared_ptr<TexteDessine> const& texte) {
+    parObjet_[objet.get()] = {objet, nullptr, texte, passage_};
+}
+
+void CarnetDeZones::InscrisCle(std::shared_ptr<ZoneOuverte> const& zone) {
+    parCle_[zone->Cle()] = zone;
+}
+
+void CarnetDeZones::OublieCle(std::string const& cle) {
+    parCle_.erase(cle);
+}
+
+std::shared_ptr<ZoneOuverte> CarnetDeZones::ParCle(std::string const& cle) const {
+    auto const trouve = parCle_.find(cle);
+    return trouve == parCle_.end() ? nullptr : trouve->second;
+}
+
+void CarnetDeZones::Termine() {
+    for (auto it = parObjet_.begin(); it != parObjet_.end();) {
+        if (it->second.passage == passage_) {
+            ++it;
+            continue;
+        }
+        if (it->second.zone) {
+            OublieCle(it->second.zone->Cle());
+        }
+        if (it->second.texte) {
+            it->second.texte->Vide(*this);
+        }
+        it = parObjet_.erase(it);
+    }
+}
+
+} // namespace bureau

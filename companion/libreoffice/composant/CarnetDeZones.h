@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "ZoneOuverte.h"
+
+#include <com/sun/star/uno/Reference.hxx>
+#include <com/sun/star/uno/XInterface.hpp>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <unordered_map>
+
+namespace bureau {
+
+class TexteDessine;
+
+/// The keys of a document's zones: the same paragraph keeps the same key for as long as the office
+/// keeps the same object for it, which it does while this book holds that object. Main thread only.
+class CarnetDeZones {
+  public:
+    explicit CarnetDeZones(std::string prefixe)
+        : prefixe_(std::move(prefixe)) {}
+
+    /// A key never given before.
+    std::string NouvelleCle();
+
+    /// The zone of an object of the office, or null; marks it as still there.
+    std::shared_ptr<ZoneOuverte>
+    Retrouve(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet);
+    void Inscris(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet,
+                 std::shared_ptr<ZoneOuverte> const& zone);
+
+    /// The same for an object that holds several zones.
+    std::shared_ptr<TexteDessine>
+    RetrouveTexte(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet);
+    void InscrisTexte(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet,
+                      std::shared_ptr<TexteDessine> const& texte);
+    /// Such an object's zones come and go on their own.
+    void InscrisCle(std::shared_ptr<ZoneOuverte> const& zone);
+    void OublieCle(std::string const& cle);
+
+    std::shared_ptr<ZoneOuverte> ParCle(std::string const& cle) const;
+
+    /// Brackets a walk over the whole document: what it did not meet is forgotten at its end.
+    void Commence() { ++passage_; }
+    void Termine();
+
+  private:
+    struct Entree {
+        com::sun::star::uno::Reference<com::sun::star::uno::XInterface> objet;
+        std::shared_ptr<ZoneOuverte> zone;
+        std::shared_ptr<TexteDessine> texte;
+        std::uint64_t passage;
+    };
+
+    std::string prefixe_;
+    std::uint64_t derniere_ = 0;
+    std::uint64_t passage_ = 0;
+    std::unordered_map<com::sun::star::uno::XInterface*, Entree> parObjet_;
+    std::unordered_map<std::string, std::shared_ptr<ZoneOuverte>> parCle_;
+};
+
+} // namespace bureau

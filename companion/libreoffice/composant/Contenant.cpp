@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "Contenant.h"
+
+#include <com/sun/star/text/XTextSection.hpp>
+
+using namespace com::sun::star;
+using rtl::OUString;
+
+namespace bureau {
+
+namespace {
+
+bool Vaut(uno::Reference<beans::XPropertySet> const& objet, char const* nom, bool defaut) {
+    bool vrai = defaut;
+    objet->getPropertyValue(OUString::createFromAscii(nom)) >>= vrai;
+    return vrai;
+}
+
+/// Does any section around the paragraph meet the condition?
+template <typename Condition>
+bool UneSection(uno::Reference<beans::XPropertySet> const& paragraphe, Condition condition) {
+    uno::Reference<text::XTextSection> section;
+    paragraphe->getPropertyValue("TextSection") >>= section;
+    for (; section.is(); section = section->getParentSection()) {
+        uno::Reference<beans::XPropertySet> const proprietes(section, uno::UNO_QUERY);
+        if (proprietes.is() && condition(proprietes)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+bool Contenant::EstProtege() const {
+    if (protecteur.is() && Vaut(protecteur, propriete, false)) {
+        return true;
+    }
+    if (ancre.is() && EstDansSectionProtegee(ancre)) {
+        return true;
+    }
+    return parent && parent->EstProtege();
+}
+
+bool EstDansSectionProtegee(uno::Reference<beans::XPropertySet> const& paragraphe) {
+    return UneSection(paragraphe, [](uno::Reference<beans::XPropertySet> const& section) {
+        return Vaut(section, "IsProtected", false);
+    });
+}
+
+bool EstDansSectionNonLue(uno::Reference<beans::XPropertySet> const& paragraphe) {
+    return UneSection(paragraphe, [](uno::Reference<beans::XPropertySet> const& section) {
+        uno::Reference<uno::XInterface> index;
+        section->getPropertyValue("DocumentIndex") >>= index;
+        // A hidden section whose condition does not hold at present is in view.
+        return index.is() ||
+               (!Vaut(section, "IsVisible", true) && !Vaut(section, "IsCurrentlyVisible", false));
+    });
+}
+
+} // namespace bureau

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include <com/sun/star/frame/XModel.hpp>
+#include <com/sun/star/uno/XComponentContext.hpp>
+
+namespace bureau {
+
+/// Finds out whether a modal dialogue of this office waits for the person. Calls are served beneath
+/// one, and an edit there would land under the person's hands. Main thread only.
+class DialogueModal {
+  public:
+    explicit DialogueModal(
+        com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> const& contexte)
+        : contexte_(contexte) {}
+
+    /// Exact with GTK; elsewhere any dialogue in view counts, modal or not.
+    bool EstOuvert() const;
+
+  private:
+    com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> contexte_;
+};
+
+} // namespace bureau

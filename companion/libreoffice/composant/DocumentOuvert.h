@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "CarnetDeZones.h"
+#include "Intervalle.h"
+
+#include <com/sun/star/frame/XModel.hpp>
+#include <com/sun/star/text/XTextRange.hpp>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace bureau {
+
+/// A zone with what it holds now.
+struct ZoneLue {
+    std::shared_ptr<ZoneOuverte> zone;
+    compagnon::PlanDePortions plan;
+    compagnon::Intervalle selection;
+    bool deborde = false; ///< the selection goes on in another zone (told by `DonneSelection`)
+};
+
+/// One document that is open in the office, of whatever kind. Main thread only; operations may
+/// throw UNO exceptions, which mean that the document cannot be reached any more.
+class DocumentOuvert {
+  public:
+    using Visiteur = std::function<void(ZoneLue const&)>;
+
+    /// `cle`: the document part of its identifier; opaque, never given before.
+    DocumentOuvert(com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& modele,
+                   std::string cle);
+    DocumentOuvert(DocumentOuvert const&) = delete;
+    DocumentOuvert& operator=(DocumentOuvert const&) = delete;
+    virtual ~DocumentOuvert();
+
+    std::string const& Cle() const noexcept { return cle_; }
+    com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& Modele() const noexcept {
+        return modele_;
+    }
+
+    std::u16string DonneTitre() const;
+    /// Path of the document's file (its URL where it is not a local file); empty without one.
+    std::u16string DonneChemin() const;
+    bool EstEnLectureSeule() const;
+    void Active() const;
+
+    /// All zones in reading order, with the selection inside each.
+    void Parcours(Visiteur const& visiteur);
+
+    /// The zone of that key, or null.
+    std::shared_ptr<ZoneOuverte> Zone(std::string const& cle) const { return carnet_.ParCle(cle); }
+
+    /// The zone where the selection starts, and its part inside of it; nothing when no text is
+    /// selected and no caret stands in a text.
+    std::optional<ZoneLue> DonneSelection();
+
+  protected:
+    /// A selection as the office has it.
+    struct Selection {
+        com::sun::star::uno::Reference<com::sun::star::uno::XInterface> objetDebut;
+        com::sun::star::uno::Reference<com::sun::star::uno::XInterface> objetFin;
+        com::sun::star::uno::Reference<com::sun::star::text::XTextRange> debut;
+        com::sun::star::uno::Reference<com::sun::star::text::XTextRange> fin;
+    };
+    using Recueil =
+        std::function<void(std::shared_ptr<ZoneOuverte> const&, compagnon::PlanDePortions&&)>;
+
+    virtual void ParcoursZones(Recueil const& recueil) = 0;
+    virtual std::optional<Selection> LisSelection() = 0;
+
+    CarnetDeZones& Carnet() noexcept { return carnet_; }
+
+  private:
+    com::sun::star::uno::Reference<com::sun::star::frame::XModel> modele_;
+    std::string cle_;
+    CarnetDeZones carnet_;
+};
+
+} // namespace bureau

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "DocumentOuvert.h"
+
+#include <com/sun/star/frame/XDesktop.hpp>
+#include <com/sun/star/uno/XComponentContext.hpp>
+
+#include <memory>
+#include <mutex>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace bureau {
+
+/// The keys of the documents that are open; any thread. Shared, as a document may close last.
+class ClesVivantes {
+  public:
+    void Ajoute(std::string const& cle);
+    void Retire(std::string const& cle);
+    bool Contient(std::string const& cle) const;
+
+  private:
+    mutable std::mutex mutex_;
+    std::set<std::string> cles_;
+};
+
+/// The documents open in this office that have text to proof and a window. Main thread only.
+class Documents {
+  public:
+    explicit Documents(
+        com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> const& contexte);
+
+    /// All of them, the one in front first; those met for the first time get a key.
+    std::vector<std::shared_ptr<DocumentOuvert>> Tous();
+    /// The one of that key, or null.
+    std::shared_ptr<DocumentOuvert> ParCle(std::string const& cle);
+    /// The one that holds the zone, or null. Zone keys start with their document's.
+    std::shared_ptr<DocumentOuvert> ParZone(std::string const& cleDeZone);
+    /// The one of that model, or null when it is not of a kind that is served.
+    std::shared_ptr<DocumentOuvert>
+    ParModele(com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& modele);
+
+    std::shared_ptr<ClesVivantes const> Vivantes() const noexcept { return vivantes_; }
+
+  private:
+    struct Entree {
+        com::sun::star::uno::Reference<com::sun::star::uno::XInterface> identite;
+        std::shared_ptr<DocumentOuvert> document;
+    };
+
+    void RetireLesFermes();
+
+    com::sun::star::uno::Reference<com::sun::star::frame::XDesktop> bureau_;
+    std::vector<Entree> ouverts_;
+    std::shared_ptr<ClesVivantes> vivantes_ = std::make_shared<ClesVivantes>();
+    unsigned dernier_ = 0;
+};
+
+} // namespace bureau

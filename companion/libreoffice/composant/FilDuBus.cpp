@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "FilDuBus.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <utility>
+
+namespace bureau {
+
+namespace {
+
+constexpr char kService[] = "com.ombrel.vocalyne.texteurs.OpenOffice.";
+constexpr char kChemin[] = "/com/ombrel/vocalyne/texteurs/OpenOffice/";
+constexpr unsigned kPremierePause = 200;
+constexpr unsigned kPauseMax = 5'000;
+
+struct Liberation {
+    void operator()(char* chaine) const { g_free(chaine); }
+    void operator()(GVariant* valeur) const { g_variant_unref(valeur); }
+    void operator()(GError* erreur) const { g_error_free(erreur); }
+};
+template <typename T>
+using Tenu = std::unique_ptr<T, Liberation>;
+
+/// The bus's address; empty without one. GLib would start a bus of its own then: not for us to do.
+std::string Adresse() {
+    char const* const voulue = std::getenv("DBUS_SESSION_BUS_ADDRESS");
+    if (voulue != nullptr && *voulue != '\0') {
+        return voulue;
+    }
+    Tenu<char> const prise(g_build_filename(g_get_user_runtime_dir(), "bus", nullptr));
+    if (g_file_test(prise.get(), G_FILE_TEST_EXISTS) == FALSE) {
+        return {};
+    }
+    Tenu<char> const echappee(g_dbus_address_escape_value(prise.get()));
+    return std::string("unix:path=") + echappee.get();
+}
+
+/// Runs a member function on the bus thread after a pause.
+template <typename Objet, void (Objet::*Operation)()>
+void Apres(GMainContext* contexte, Objet* objet, unsigned pause) {
+    GSource* const source = g_timeout_source_new(pause);
+    g_source_set_callback(
+        source,
+        [](gpointer donnee) -> gboolean {
+            (static_cast<Objet*>(donnee)->*Operation)();
+            return G_SOURCE_REMOVE;
+        },
+        objet, nullptr);
+    g_source_attach(source, contexte);
+    g_source_unref(source);
+}
+
+/// A call to the bus itself; null on failure.
+Tenu<GVariant> DemandeAuBus(GDBusConnection* connexion, char const* methode, GVariant* arguments) {
+    return Tenu<GVariant>(g_dbus_connection_call_sync(
+        connexion, "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", methode,
+        arguments, nullptr, G_DBUS_CALL_FLAGS_NONE, 5'000, nullptr, nullptr));
+}
+
+} // namespace
+
+FilDuBus::FilDuBus(std::string const& instance, std::shared_ptr<Appels> appels,
+                   std::shared_ptr<ClesVivantes const> vivantes, Delais delais)
+    : nom_(kService + instance)
+    , chemin_(kChemin + instance)
+    , appels_(std::move(appels))
+    , vivantes_(std::move(vivantes))
+    , delais_(delais)
+    , contexte_(g_main_context_new())
+    , boucle_(g_main_loop_new(contexte_, FALSE))
+    , arret_(g_cancellable_new())
+    , etat_("starting") {
+    fil_ = std::thread([this] { Tourne(); });
+}
+
+FilDuBus::~FilDuBus() {
+    g_cancellable_cancel(arret_);
+    appels_->Ferme();
+    // Through the context: quitting a loop that is not running yet would be forgotten.
+    GSource* const fin = g_idle_source_new();
+    g_source_set_callback(
+        fin,
+        [](gpointer boucle) -> gboolean {
+            g_main_loop_quit(static_cast<GMainLoop*>(boucle));
+            return G_SOURCE_REMOVE;
+        },
+        boucle_, nullptr);
+    g_source_attach(fin, contexte_);
+    g_source_unref(fin);
+    fil_.join();
+    g_object_unref(arret_);
+    g_main_loop_unref(boucle_);
+    g_main_context_unref(contexte_);
+}
+
+std::string FilDuBus::DonneEtat() const {
+    std::lock_guard<std::mutex> const verrou(mutex_);
+    return etat_;
+}
+
+void FilDuBus::MetsEtat(std::string etat) {
+    std::lock_guard<std::mutex> const verrou(mutex_);
+    if (etat != etat_) {
+        std::fprintf(stderr, "vocalyne: %s\n", etat.c_str());
+    }
+    etat_ = std::move(etat);
+}
+
+void FilDuBus::Tourne() {
+    g_main_context_push_thread_default(contexte_);
+    Connecte();
+    g_main_loop_run(boucle_);
+    Deconnecte();
+    // Let the last replies and the end of the connection go out.
+    while (g_main_context_iteration(contexte_, FALSE) != FALSE) {
+    }
+    g_main_context_pop_thread_default(contexte_);
+}
+
+void FilDuBus::Reessaie() {
+    pause_ = std::clamp(pause_ * 2, kPremierePause, kPauseMax);
+    Apres<FilDuBus, &FilDuBus::Connecte>(contexte_, this, pause_);
+}
+
+void FilDuBus::Connecte() {
+    if (g_cancellable_is_cancelled(arret_) != FALSE) {
+        return;
+    }
+    std::string const adresse = Adresse();
+    if (adresse.empty()) {
+        MetsEtat("there is no session bus (DBUS_SESSION_BUS_ADDRESS is not set); waiting for one");
+        Reessaie();
+        return;
+    }
+    GError* erreur = nullptr;
+    connexion_ = g_dbus_connection_new_for_address_sync(
+        adresse.c_str(),
+        static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT |
+                                          G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION),
+        nullptr, arret_, &erreur);
+    if (connexion_ == nullptr) {
+        Tenu<GError> const tenue(erreur);
+        MetsEtat(std::string("the session bus does not answer: ") + tenue->message);
+        Reessaie();
+        return;
+    }
+    g_dbus_connection_set_exit_on_close(connexion_, FALSE);
+    g_signal_connect(connexion_, "closed",
+                     G_CALLBACK(+[](GDBusConnection*, gboolean, GError*, gpointer donnee) {
+                         auto* const soi = static_cast<FilDuBus*>(donnee);
+                         soi->Deconnecte();
+                         soi->MetsEtat("the session bus is gone; waiting for it");
+                         soi->Reessaie();
+                     }),
+                     this);
+    DemandeLeNom();
+}
+
+void FilDuBus::DemandeLeNom() {
+    constexpr guint kSansAttendre = 4; // DBUS_NAME_FLAG_DO_NOT_QUEUE
+    constexpr guint kProprietaire = 1; // DBUS_REQUEST_NAME_REPLY_PRIMARY_OWNER
+    constexpr guint kDeja = 4;         // DBUS_REQUEST_NAME_REPLY_ALREADY_OWNER
+    // First the object, so that no call to the name finds nothing behind it.
+    methodes_ = std::make_unique<Methodes>(*appels_, vivantes_, delais_,
+                                           [this](char const* qui) { SuisAppelant(qui); });
+    GError* erreur = nullptr;
+    if (!methodes_->Publie(connexion_, chemin_.c_str(), &erreur)) {
+        Tenu<GError> const tenue(erreur);
+        MetsEtat(std::string("cannot publish the document service: ") + tenue->message);
+        methodes_.reset();
+        return;
+    }
+    Tenu<GVariant> const reponse =
+        DemandeAuBus(connexion_, "RequestName", g_variant_new("(su)", nom_.c_str(), kSansAttendre));
+    guint resultat = 0;
+    if (reponse) {
+        g_variant_get(reponse.get(), "(u)", &resultat);
+    }
+    if (resultat == kProprietaire || resultat == kDeja) {
+        pause_ = 0;
+        MetsEtat("serving as " + nom_);
+        return;
+    }
+    methodes_.reset();
+    NomPris();
+}
+
+void FilDuBus::NomPris() {
+    std::string qui = "somebody";
+    Tenu<GVariant> const reponse =
+        DemandeAuBus(connexion_, "GetNameOwner", g_variant_new("(s)", nom_.c_str()));
+    if (reponse) {
+        char const* proprietaire = nullptr;
+        g_variant_get(reponse.get(), "(&s)", &proprietaire);
+        qui = proprietaire;
+        Tenu<GVariant> const processus = DemandeAuBus(connexion_, "GetConnectionUnixProcessID",
+                                                      g_variant_new("(s)", proprietaire));
+        if (processus) {
+            guint pid = 0;
+            g_variant_get(processus.get(), "(u)", &pid);
+            qui += " (process " + std::to_string(pid) + ")";
+        }
+    }
+    MetsEtat("the name " + nom_ + " is taken by " + qui + "; waiting for it to be free");
+    garde_ = g_bus_watch_name_on_connection(
+        connexion_, nom_.c_str(), G_BUS_NAME_WATCHER_FLAGS_NONE, nullptr,
+        [](GDBusConnection*, char const*, gpointer donnee) {
+            auto* const soi = static_cast<FilDuBus*>(donnee);
+            g_bus_unwatch_name(std::exchange(soi->garde_, 0));
+            if (soi->connexion_ != nullptr) {
+                soi->DemandeLeNom();
+            }
+        },
+        this, nullptr);
+}
+
+void FilDuBus::SuisAppelant(char const* appelant) {
+    if (appelants_.count(appelant) > 0) {
+        return;
+    }
+    appelants_[appelant] = g_dbus_connection_signal_subscribe(
+        connexion_, "org.freedesktop.DBus", "org.freedesktop.DBus", "NameOwnerChanged",
+        "/org/freedesktop/DBus", appelant, G_DBUS_SIGNAL_FLAGS_NONE,
+        [](GDBusConnection* connexion, char const*, char const*, char const*, char const*,
+           GVariant* parametres, gpointer donnee) {
+            auto* const soi = static_cast<FilDuBus*>(donnee);
+            char const* qui = nullptr;
+            g_variant_get(parametres, "(&s&s&s)", &qui, nullptr, nullptr);
+            auto const trouve = soi->appelants_.find(qui);
+            if (trouve != soi->appelants_.end()) {
+                g_dbus_connection_signal_unsubscribe(connexion, trouve->second);
+                soi->appelants_.erase(trouve);
+            }
+            soi->appels_->Poste(
+                [nom = std::string(qui)](Service& service) { service.Oublie(nom); });
+        },
+        this, nullptr);
+}
+
+void FilDuBus::Deconnecte() {
+    if (connexion_ == nullptr) {
+        return;
+    }
+    g_signal_handlers_disconnect_by_data(connexion_, this);
+    if (garde_ != 0) {
+        g_bus_unwatch_name(std::exchange(garde_, 0));
+    }
+    for (auto const& [appelant, abonnement] : appelants_) {
+        g_dbus_connection_signal_unsubscribe(connexion_, abonnement);
+    }
+    appelants_.clear();
+    methodes_.reset();
+    g_dbus_connection_flush_sync(connexion_, nullptr, nullptr);
+    g_dbus_connection_close_sync(connexion_, nullptr, nullptr);
+    g_clear_object(&connexion_);
+    // Unique names mean other connections on the next bus.
+    appels_->Poste([](Service& service) { service.OublieTous(); });
+}
+
+} // namespace bureau

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "Appels.h"
+#include "Methodes.h"
+
+#include <gio/gio.h>
+
+#include <map>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <thread>
+
+namespace bureau {
+
+/// The extension's own connection to the session bus, on a thread and a GLib context of its own:
+/// the office's belong to its window system. Quiet without a bus, and back with it.
+class FilDuBus {
+  public:
+    FilDuBus(std::string const& instance, std::shared_ptr<Appels> appels,
+             std::shared_ptr<ClesVivantes const> vivantes, Delais delais);
+    FilDuBus(FilDuBus const&) = delete;
+    FilDuBus& operator=(FilDuBus const&) = delete;
+    /// Stops the thread and waits for it: it never waits for the office. Any other thread.
+    ~FilDuBus();
+
+    /// How things stand, for people. Any thread.
+    std::string DonneEtat() const;
+
+  private:
+    void Tourne();
+    void Connecte();
+    void Deconnecte();
+    void DemandeLeNom();
+    void NomPris();
+    void Reessaie();
+    void SuisAppelant(char const* appelant);
+    void MetsEtat(std::string etat);
+
+    std::string const nom_;
+    std::string const chemin_;
+    std::shared_ptr<Appels> appels_;
+    std::shared_ptr<ClesVivantes const> vivantes_;
+    Delais const delais_;
+
+    GMainContext* contexte_;
+    GMainLoop* boucle_;
+    GCancellable* arret_;
+
+    // Bus thread only.
+    GDBusConnection* connexion_ = nullptr;
+    std::unique_ptr<Methodes> methodes_;
+    guint garde_ = 0;    // watches the name that another holds
+    unsigned pause_ = 0; // ms before the next attempt
+    std::map<std::string, guint> appelants_;
+
+    mutable std::mutex mutex_;
+    std::string etat_;
+    std::thread fil_;
+};
+
+} // namespace bureau

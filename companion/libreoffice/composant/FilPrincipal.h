@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "Demande.h"
+
+#include <com/sun/star/awt/XRequestCallback.hpp>
+#include <com/sun/star/uno/XComponentContext.hpp>
+
+#include <memory>
+
+namespace bureau {
+
+/// The only way to a document: the office's main thread, through its event queue. Never waits and
+/// never takes the office's lock on the calling thread.
+class FilPrincipal {
+  public:
+    /// Office lock not needed; any thread.
+    explicit FilPrincipal(
+        com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> const& contexte);
+
+    /// Queues the work; it runs in the order of posting, with the office's lock held, once the main
+    /// thread is free (also beneath a modal dialog). While the office starts or quits it may never
+    /// run: whoever needs an answer sets a time limit and gives the work up. Any thread.
+    void Poste(std::shared_ptr<Demande> demande);
+
+  private:
+    com::sun::star::uno::Reference<com::sun::star::awt::XRequestCallback> file_;
+};
+
+} // namespace bureau

@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include <string>
+
+namespace bureau {
+
+/// Sixteen hexadecimal digits that no other call, in this process or another, is likely to give.
+std::string HasardHexadecimal();
+
+} // namespace bureau

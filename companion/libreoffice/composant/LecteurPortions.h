@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "PlanDePortions.h"
+
+#include <com/sun/star/container/XEnumerationAccess.hpp>
+#include <com/sun/star/text/XTextRange.hpp>
+#include <com/sun/star/uno/Sequence.hxx>
+
+#include <vector>
+
+namespace bureau {
+
+/// Something met inside a paragraph that holds text of its own.
+struct Rencontre {
+    enum class Genre { Note, NoteDeFin, Cadre, Commentaire };
+    Genre genre;
+    com::sun::star::uno::Reference<com::sun::star::uno::XInterface> objet;
+};
+
+struct ParagrapheLu {
+    compagnon::PlanDePortions plan;
+    /// The document's range of each of the plan's portions.
+    std::vector<com::sun::star::uno::Reference<com::sun::star::text::XTextRange>> etendues;
+    std::vector<Rencontre> rencontres;
+};
+
+/// Turns a paragraph's portions, of Writer or of the drawing engine's texts, into a plan.
+class LecteurPortions {
+  public:
+    LecteurPortions();
+
+    /// `suppressions`: how many tracked deletions are open where the paragraph starts; on return,
+    /// where it ends. A deletion that goes on from an earlier paragraph shows in no portion.
+    ParagrapheLu
+    Lis(com::sun::star::uno::Reference<com::sun::star::container::XEnumerationAccess> const&
+            paragraphe,
+        int& suppressions) const;
+
+  private:
+    void
+    LisSuite(com::sun::star::uno::Reference<com::sun::star::container::XEnumerationAccess> const&
+                 portions,
+             int& suppressions, ParagrapheLu& lu) const;
+
+    com::sun::star::uno::Sequence<rtl::OUString> proprietes_;
+};
+
+} // namespace bureau

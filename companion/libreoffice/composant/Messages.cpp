@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "Messages.h"
+
+#include "Frontieres.h"
+
+#include <algorithm>
+#include <atomic>
+
+namespace bureau {
+
+namespace {
+
+std::atomic<bool> francais{false};
+
+/// Long texts would make the undo list unreadable.
+std::u16string Abrege(std::u16string texte) {
+    constexpr std::size_t kMax = 30;
+    std::replace(texte.begin(), texte.end(), u'\n', u' ');
+    if (texte.size() <= kMax) {
+        return texte;
+    }
+    std::size_t coupe = kMax;
+    while (coupe > 0 && compagnon::CoupeCaractere(texte, coupe)) {
+        --coupe;
+    }
+    return texte.substr(0, coupe) + u"\u2026";
+}
+
+} // namespace
+
+bool EstEnFrancais() {
+    return francais;
+}
+
+void MetsLangue(bool vrai) {
+    francais = vrai;
+}
+
+std::u16string NomDeCorrection(std::u16string const& avant, std::u16string const& apres) {
+    if (EstEnFrancais()) {
+        return u"Correction : \u00ab\u00a0" + Abrege(avant) + u"\u00a0\u00bb en \u00ab\u00a0" +
+               Abrege(apres) + u"\u00a0\u00bb";
+    }
+    return u"Correction: \u201c" + Abrege(avant) + u"\u201d to \u201c" + Abrege(apres) + u"\u201d";
+}
+
+} // namespace bureau

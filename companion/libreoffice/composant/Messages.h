@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include <string>
+
+namespace bureau {
+
+/// The office's language for people is French? Read once, at the start.
+bool EstEnFrancais();
+void MetsLangue(bool francais);
+
+/// The name of a correction in the undo list.
+std::u16string NomDeCorrection(std::u16string const& avant, std::u16string const& apres);
+
+} // namespace bureau

@@ -1,0 +1,233 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "Methodes.h"
+
+#include "Chaines.h"
+#include "Utf.h"
+#include "squelette.h"
+
+#include <string>
+#include <utility>
+
+using compagnon::Intervalle;
+
+namespace bureau {
+
+namespace {
+
+using Invocation = GDBusMethodInvocation;
+
+GVariant* Chaine(std::string const& utf8) {
+    return g_variant_new("(s)", utf8.c_str());
+}
+GVariant* Chaine(std::u16string const& texte) {
+    return Chaine(compagnon::Utf16VersUtf8(texte));
+}
+GVariant* Booleen(bool vrai) {
+    return g_variant_new("(b)", static_cast<gboolean>(vrai));
+}
+GVariant* Entier(std::int32_t nombre) {
+    return g_variant_new("(i)", nombre);
+}
+
+/// Sends a call to the main thread; the signal's answer is "handled".
+template <typename Travail>
+gboolean Sert(gpointer methodes, Invocation* invocation, Travail travail) {
+    auto& soi = *static_cast<Methodes*>(methodes);
+    soi.Note(g_dbus_method_invocation_get_sender(invocation));
+    soi.Cible().Sert(invocation, soi.LesDelais().ordinaire, std::move(travail));
+    return TRUE;
+}
+
+/// A call without argument or result.
+template <void (Service::*Operation)(std::string const&)>
+gboolean SurOrdre(GObject* /*squelette*/, Invocation* invocation, gpointer methodes) {
+    return Sert(methodes, invocation, [](Service& service, std::string const& appelant) {
+        (service.*Operation)(appelant);
+        return static_cast<GVariant*>(nullptr);
+    });
+}
+
+/// A question without argument.
+template <auto Operation>
+gboolean SurQuestion(GObject* /*squelette*/, Invocation* invocation, gpointer methodes) {
+    return Sert(methodes, invocation, [](Service& service, std::string const& appelant) {
+        return Operation(service, appelant);
+    });
+}
+
+GVariant* Titre(Service& service, std::string const& appelant) {
+    return Chaine(service.DonneTitreDocument(appelant));
+}
+GVariant* Chemin(Service& service, std::string const& appelant) {
+    return Chaine(service.DonneCheminDocument(appelant));
+}
+GVariant* Contenu(Service& service, std::string const& appelant) {
+    return Chaine(service.DonneContenuSelection(appelant));
+}
+GVariant* Contexte(Service& service, std::string const& appelant) {
+    return Chaine(service.DonneContexte(appelant).first);
+}
+// A zone is a paragraph, and so is a context: bounds are the same in both.
+GVariant* Debut(Service& service, std::string const& appelant) {
+    return Entier(service.DonneContexte(appelant).second.debut);
+}
+GVariant* Fin(Service& service, std::string const& appelant) {
+    return Entier(service.DonneContexte(appelant).second.fin);
+}
+GVariant* Retour(Service& service, std::string const& appelant) {
+    return Booleen(service.PermetsRetourDeCharriot(appelant));
+}
+GVariant* Oublie(Service& service, std::string const& appelant) {
+    service.Oublie(appelant);
+    return nullptr;
+}
+GVariant* Rien(Service& /*service*/, std::string const& /*appelant*/) {
+    return nullptr; // a pause is the host's own affair: nothing is held for it here
+}
+GVariant* Tous(Service& service, std::string const& /*appelant*/) {
+    return Chaine(service.DonneDocuments());
+}
+
+gboolean SurInitialisePourOutils(GObject* s, Invocation* invocation, gboolean /*estDico*/,
+                                 gpointer methodes) {
+    return SurOrdre<&Service::InitialisePour>(s, invocation, methodes);
+}
+
+gboolean SurAjuste(GObject* /*s*/, Invocation* invocation, gint debut, gint fin,
+                   gpointer methodes) {
+    return Sert(methodes, invocation, [=](Service& service, std::string const& appelant) {
+        service.AjusteSelectionPourOutils(appelant, debut, fin);
+        return static_cast<GVariant*>(nullptr);
+    });
+}
+
+gboolean SurCorrige(GObject* /*s*/, Invocation* invocation, char const* zone, gint debut, gint fin,
+                    char const* texte, gboolean /*automatique*/, gpointer methodes) {
+    return Sert(methodes, invocation,
+                [zone = std::string(zone), plage = Intervalle{debut, fin},
+                 texte = DepuisUtf8(texte)](Service& service, std::string const& appelant) {
+                    service.CorrigeDansTexteur(appelant, zone, plage, texte);
+                    return static_cast<GVariant*>(nullptr);
+                });
+}
+
+gboolean SurPeutCorriger(GObject* /*s*/, Invocation* invocation, char const* zone, gint debut,
+                         gint fin, char const* attendu, gpointer methodes) {
+    return Sert(methodes, invocation,
+                [zone = std::string(zone), plage = Intervalle{debut, fin},
+                 attendu = DepuisUtf8(attendu)](Service& service, std::string const& appelant) {
+                    return Booleen(service.PeutCorriger(appelant, zone, plage, attendu));
+                });
+}
+
+gboolean SurSelectionne(GObject* /*s*/, Invocation* invocation, char const* zone, gint debut,
+                        gint fin, gpointer methodes) {
+    return Sert(methodes, invocation,
+                [zone = std::string(zone),
+                 plage = Intervalle{debut, fin}](Service& service, std::string const& appelant) {
+                    service.SelectionneIntervalle(appelant, zone, plage);
+                    return static_cast<GVariant*>(nullptr);
+                });
+}
+
+gboolean SurRemplace(GObject* /*s*/, Invocation* invocation, char const* mot, gpointer methodes) {
+    return Sert(methodes, invocation,
+                [mot = DepuisUtf8(mot)](Service& service, std::string const& appelant) {
+                    service.RemplaceEtReselectionne(appelant, mot);
+                    return static_cast<GVariant*>(nullptr);
+                });
+}
+
+gboolean SurSynchronise(GObject* /*s*/, Invocation* invocation, char const* leId,
+                        gpointer methodes) {
+    return Sert(methodes, invocation,
+                [leId = std::string(leId)](Service& service, std::string const& appelant) {
+                    return Chaine(service.SynchronisePositions(appelant, leId));
+                });
+}
+
+gboolean SurInitialise(GObject* /*s*/, Invocation* invocation, char const* cle, gpointer methodes) {
+    auto& soi = *static_cast<Methodes*>(methodes);
+    soi.Note(g_dbus_method_invocation_get_sender(invocation));
+    soi.Cible().Sert(invocation, soi.LesDelais().initialisation,
+                     [cle = std::string(cle)](Service& service, std::string const& appelant) {
+                         service.InitialiseTexteur(appelant, cle);
+                         return static_cast<GVariant*>(nullptr);
+                     });
+    return TRUE;
+}
+
+/// Answered here and now: who asks waits a second and a half at most, and a busy office is alive.
+gboolean SurDocEstMort(GObject* /*s*/, Invocation* invocation, char const* cle, gpointer methodes) {
+    auto const& soi = *static_cast<Methodes*>(methodes);
+    g_dbus_method_invocation_return_value(invocation, Booleen(!soi.Vivantes().Contient(cle)));
+    return TRUE;
+}
+
+} // namespace
+
+Methodes::Methodes(Appels& cible, std::shared_ptr<ClesVivantes const> vivantes, Delais delais,
+                   std::function<void(char const*)> surAppelant)
+    : cible_(cible)
+    , vivantes_(std::move(vivantes))
+    , delais_(delais)
+    , surAppelant_(std::move(surAppelant))
+    , texteur_(G_DBUS_INTERFACE_SKELETON(vocalyne_openoffice_proxy_interface_skeleton_new()))
+    , documents_(
+          G_DBUS_INTERFACE_SKELETON(vocalyne_openoffice_documents_interface_skeleton_new())) {
+    struct Lien {
+        char const* signal;
+        GCallback operation;
+    };
+    Lien const liens[] = {
+        {"handle-active-pour-correcteur", G_CALLBACK(&SurOrdre<&Service::Active>)},
+        {"handle-active-pour-outils", G_CALLBACK(&SurOrdre<&Service::Active>)},
+        {"handle-ajuste-selection-pour-outils", G_CALLBACK(&SurAjuste)},
+        {"handle-corrige-dans-texteur", G_CALLBACK(&SurCorrige)},
+        {"handle-doc-est-mort", G_CALLBACK(&SurDocEstMort)},
+        {"handle-donne-chemin-document", G_CALLBACK(&SurQuestion<&Chemin>)},
+        {"handle-donne-contenu-selection", G_CALLBACK(&SurQuestion<&Contenu>)},
+        {"handle-donne-contexte-selection", G_CALLBACK(&SurQuestion<&Contexte>)},
+        {"handle-donne-debut-selection", G_CALLBACK(&SurQuestion<&Debut>)},
+        {"handle-donne-debut-selection-dans-son-contexte", G_CALLBACK(&SurQuestion<&Debut>)},
+        {"handle-donne-fin-selection", G_CALLBACK(&SurQuestion<&Fin>)},
+        {"handle-donne-fin-selection-dans-son-contexte", G_CALLBACK(&SurQuestion<&Fin>)},
+        {"handle-donne-titre-document", G_CALLBACK(&SurQuestion<&Titre>)},
+        {"handle-initialise-pour-correcteur", G_CALLBACK(&SurOrdre<&Service::InitialisePour>)},
+        {"handle-initialise-pour-outils", G_CALLBACK(&SurInitialisePourOutils)},
+        {"handle-initialise-texteur", G_CALLBACK(&SurInitialise)},
+        {"handle-permets-retour-de-charriot", G_CALLBACK(&SurQuestion<&Retour>)},
+        {"handle-peut-corriger", G_CALLBACK(&SurPeutCorriger)},
+        {"handle-remplace-et-reselectionne", G_CALLBACK(&SurRemplace)},
+        {"handle-romps-lien-correcteur", G_CALLBACK(&SurOrdre<&Service::RompsLienCorrecteur>)},
+        {"handle-romps-lien-texteur", G_CALLBACK(&SurQuestion<&Oublie>)},
+        {"handle-selectionne-intervalle", G_CALLBACK(&SurSelectionne)},
+        {"handle-suspends", G_CALLBACK(&SurQuestion<&Rien>)},
+        {"handle-synchronise-positions", G_CALLBACK(&SurSynchronise)},
+    };
+    for (Lien const& lien : liens) {
+        g_signal_connect(texteur_, lien.signal, lien.operation, this);
+    }
+    g_signal_connect(documents_, "handle-donne-documents", G_CALLBACK(&SurQuestion<&Tous>), this);
+}
+
+Methodes::~Methodes() {
+    Retire();
+    g_object_unref(texteur_);
+    g_object_unref(documents_);
+}
+
+bool Methodes::Publie(GDBusConnection* connexion, char const* chemin, GError** erreur) {
+    return g_dbus_interface_skeleton_export(texteur_, connexion, chemin, erreur) != FALSE &&
+           g_dbus_interface_skeleton_export(documents_, connexion, chemin, erreur) != FALSE;
+}
+
+void Methodes::Retire() {
+    for (GDBusInterfaceSkeleton* squelette : {texteur_, documents_}) {
+        if (g_dbus_interface_skeleton_get_connection(squelette) != nullptr) {
+            g_dbus_interface_skeleton_unexport(squelette);
+        }
+    }
+}
+
+} // namespace bureau

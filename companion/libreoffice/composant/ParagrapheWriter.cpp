@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "ParagrapheWriter.h"
+
+#include "Chaines.h"
+#include "Curseur.h"
+#include "Erreur.h"
+
+#include <com/sun/star/container/XEnumerationAccess.hpp>
+#include <com/sun/star/frame/XController.hpp>
+#include <com/sun/star/lang/IllegalArgumentException.hpp>
+#include <com/sun/star/text/XTextRangeCompare.hpp>
+#include <com/sun/star/view/XSelectionSupplier.hpp>
+
+#include <utility>
+
+using namespace com::sun::star;
+using compagnon::PlaceDansPortion;
+using compagnon::PlanDePortions;
+
+namespace bureau {
+
+ParagrapheWriter::ParagrapheWriter(std::string cle,
+                                   uno::Reference<text::XTextContent> const& paragraphe,
+                                   std::shared_ptr<Contenant const> contenant,
+                                   std::shared_ptr<FondWriter const> fond)
+    : ZoneOuverte(std::move(cle))
+    , paragraphe_(paragraphe)
+    , contenant_(std::move(contenant))
+    , fond_(std::move(fond)) {}
+
+ParagrapheLu ParagrapheWriter::LisEnPassant(int& suppressions) const {
+    uno::Reference<container::XEnumerationAccess> const portions(paragraphe_, uno::UNO_QUERY_THROW);
+    return fond_->lecteur.Lis(portions, suppressions);
+}
+
+PlanDePortions ParagrapheWriter::Lis() {
+    // A deleted paragraph can go on living among the undo steps, where it still reads and writes:
+    // only a comparison of places tells that it stands in the text no longer.
+    uno::Reference<text::XTextRange> const etendue(paragraphe_, uno::UNO_QUERY_THROW);
+    uno::Reference<text::XTextRangeCompare> const ordre(contenant_->texte, uno::UNO_QUERY_THROW);
+    try {
+        uno::Reference<text::XTextRange> const debut = etendue->getStart();
+        ordre->compareRegionStarts(debut, debut);
+    } catch (lang::IllegalArgumentException const&) {
+        throw ZoneInconnue();
+    }
+    int ouvertes = fond_->suppressions.OuvertesAuDebut(etendue, contenant_->texte);
+    ParagrapheLu lu = LisEnPassant(ouvertes);
+    etendues_ = std::move(lu.etendues);
+    return std::move(lu.plan);
+}
+
+bool ParagrapheWriter::EstProtegee() {
+    uno::Reference<beans::XPropertySet> const proprietes(paragraphe_, uno::UNO_QUERY_THROW);
+    return EstDansSectionProtegee(proprietes) || contenant_->EstProtege();
+}
+
+void ParagrapheWriter::Applique(CorrectionPrete const& correction) {
+    for (compagnon::EtapeEdition const& etape : correction.etapes) {
+        std::u16string_view const source = etape.source;
+        std::size_t const avant = CompteLesPas(source.substr(0, etape.debut), Pas::PointsDeCode);
+        uno::Reference<text::XTextCursor> const curseur =
+            PlaceCurseur(contenant_->texte, etendues_.at(etape.portion), avant);
+        if (etape.EstInsertion()) {
+            contenant_->texte->insertString(curseur.get(), EnUno(etape.ajout), false);
+            continue;
+        }
+        Avance(curseur,
+               CompteLesPas(source.substr(etape.debut, etape.fin - etape.debut), Pas::PointsDeCode),
+               true);
+        curseur->setString(rtl::OUString());
+    }
+}
+
+uno::Reference<text::XTextRange> ParagrapheWriter::Position(PlanDePortions const& plan,
+                                                            PlaceDansPortion place) const {
+    compagnon::Portion const& portion = plan.DonnePortions()[place.portion];
+    uno::Reference<text::XTextRange> const& etendue = etendues_.at(place.portion);
+    if (portion.genre != compagnon::GenrePortion::Texte) {
+        return place.unite == 0 ? etendue->getStart() : etendue->getEnd();
+    }
+    std::u16string_view const avant = std::u16string_view(portion.source).substr(0, place.unite);
+    return PlaceCurseur(contenant_->texte, etendue, CompteLesPas(avant, Pas::PointsDeCode)).get();
+}
+
+void ParagrapheWriter::Selectionne(PlanDePortions const& plan, std::size_t debut, std::size_t fin) {
+    auto const premier = plan.DonnePlace(debut, debut < fin);
+    auto const dernier = plan.DonnePlace(fin, false);
+    uno::Reference<text::XTextCursor> curseur;
+    if (premier && dernier) {
+        curseur = contenant_->texte->createTextCursorByRange(Position(plan, *premier));
+        curseur->gotoRange(Position(plan, *dernier), true);
+    } else {
+        uno::Reference<text::XTextRange> const etendue(paragraphe_, uno::UNO_QUERY_THROW);
+        curseur = contenant_->texte->createTextCursorByRange(etendue->getStart());
+    }
+    uno::Reference<view::XSelectionSupplier> const vue(fond_->modele->getCurrentController(),
+                                                       uno::UNO_QUERY_THROW);
+    vue->select(uno::Any(uno::Reference<text::XTextRange>(curseur, uno::UNO_QUERY_THROW)));
+}
+
+bool ParagrapheWriter::EstCelleDe(uno::Reference<uno::XInterface> const& objet) {
+    return uno::Reference<uno::XInterface>(paragraphe_, uno::UNO_QUERY).get() == objet.get();
+}
+
+bool ParagrapheWriter::EstVoisineDe(uno::Reference<uno::XInterface> const& objet) {
+    uno::Reference<text::XTextRange> const etendue(objet, uno::UNO_QUERY);
+    return etendue.is() && etendue->getText() == contenant_->texte;
+}
+
+PlaceDansPortion ParagrapheWriter::PlaceDe(uno::Reference<text::XTextRange> const& position) {
+    uno::Reference<text::XTextRangeCompare> const ordre(contenant_->texte, uno::UNO_QUERY_THROW);
+    // The last portion that starts at or before the position; 1 means "first one starts before".
+    std::size_t portion = 0;
+    for (std::size_t i = 0; i < etendues_.size(); ++i) {
+        if (ordre->compareRegionStarts(etendues_[i]->getStart(), position) < 0) {
+            break;
+        }
+        portion = i;
+    }
+    if (etendues_.empty() ||
+        ordre->compareRegionStarts(etendues_[portion]->getStart(), position) <= 0) {
+        return {portion, 0};
+    }
+    uno::Reference<text::XTextCursor> const curseur =
+        PlaceCurseur(contenant_->texte, etendues_[portion], 0);
+    if (ordre->compareRegionStarts(etendues_[portion]->getEnd(), position) > 0) {
+        curseur->gotoRange(etendues_[portion]->getEnd(), true);
+    } else {
+        curseur->gotoRange(position, true);
+    }
+    std::size_t const lettres = Vue(curseur->getString()).size();
+    return {portion, lettres};
+}
+
+} // namespace bureau

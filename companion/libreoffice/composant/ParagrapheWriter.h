@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "Contenant.h"
+#include "LecteurPortions.h"
+#include "Suppressions.h"
+#include "ZoneOuverte.h"
+
+#include <com/sun/star/frame/XModel.hpp>
+#include <com/sun/star/text/XTextContent.hpp>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace bureau {
+
+/// What a Writer document's paragraphs share.
+struct FondWriter {
+    com::sun::star::uno::Reference<com::sun::star::frame::XModel> modele;
+    LecteurPortions lecteur;
+    Suppressions suppressions;
+};
+
+/// A paragraph of a Writer text: body, cell, note, header, frame.
+class ParagrapheWriter : public ZoneOuverte {
+  public:
+    ParagrapheWriter(
+        std::string cle,
+        com::sun::star::uno::Reference<com::sun::star::text::XTextContent> const& paragraphe,
+        std::shared_ptr<Contenant const> contenant, std::shared_ptr<FondWriter const> fond);
+
+    /// Reads in the course of a walk, which knows the deletions that are open here.
+    ParagrapheLu LisEnPassant(int& suppressions) const;
+
+    compagnon::PlanDePortions Lis() override;
+    bool EstProtegee() override;
+    void Applique(CorrectionPrete const& correction) override;
+    void Selectionne(compagnon::PlanDePortions const& plan, std::size_t debut,
+                     std::size_t fin) override;
+    bool EstCelleDe(
+        com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet) override;
+    bool EstVoisineDe(
+        com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet) override;
+    compagnon::PlaceDansPortion PlaceDe(
+        com::sun::star::uno::Reference<com::sun::star::text::XTextRange> const& position) override;
+
+  private:
+    com::sun::star::uno::Reference<com::sun::star::text::XTextRange>
+    Position(compagnon::PlanDePortions const& plan, compagnon::PlaceDansPortion place) const;
+
+    com::sun::star::uno::Reference<com::sun::star::text::XTextContent> paragraphe_;
+    std::shared_ptr<Contenant const> contenant_;
+    std::shared_ptr<FondWriter const> fond_;
+    std::vector<com::sun::star::uno::Reference<com::sun::star::text::XTextRange>> etendues_;
+};
+
+} // namespace bureau

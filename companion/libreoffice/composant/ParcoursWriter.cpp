@@ -1,0 +1,267 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "ParcoursWriter.h"
+
+#include "TextesDessines.h"
+
+#include <com/sun/star/container/XContentEnumerationAccess.hpp>
+#include <com/sun/star/container/XEnumerationAccess.hpp>
+#include <com/sun/star/container/XIndexAccess.hpp>
+#include <com/sun/star/container/XNameAccess.hpp>
+#include <com/sun/star/drawing/XDrawPageSupplier.hpp>
+#include <com/sun/star/drawing/XShapes.hpp>
+#include <com/sun/star/style/XStyle.hpp>
+#include <com/sun/star/style/XStyleFamiliesSupplier.hpp>
+#include <com/sun/star/text/TextContentAnchorType.hpp>
+#include <com/sun/star/text/XTextDocument.hpp>
+#include <com/sun/star/text/XTextFrame.hpp>
+#include <com/sun/star/text/XTextSectionsSupplier.hpp>
+
+using namespace com::sun::star;
+using rtl::OUString;
+
+namespace bureau {
+
+namespace {
+
+uno::Reference<uno::XInterface> Identite(uno::Reference<uno::XInterface> const& objet) {
+    return uno::Reference<uno::XInterface>(objet, uno::UNO_QUERY);
+}
+
+uno::Reference<drawing::XDrawPage> PageDeDessin(uno::Reference<frame::XModel> const& modele) {
+    uno::Reference<drawing::XDrawPageSupplier> const document(modele, uno::UNO_QUERY_THROW);
+    // Deprecated in favour of several pages; Writer has one, and no other way to it.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+    return document->getDrawPage();
+#pragma GCC diagnostic pop
+}
+
+std::shared_ptr<Contenant> Contient(uno::Reference<text::XText> const& texte) {
+    auto contenant = std::make_shared<Contenant>();
+    contenant->texte = texte;
+    return contenant;
+}
+
+bool Vaut(uno::Reference<beans::XPropertySet> const& objet, char const* nom, bool defaut) {
+    OUString const propriete = OUString::createFromAscii(nom);
+    bool vrai = defaut;
+    if (objet.is() && objet->getPropertySetInfo()->hasPropertyByName(propriete)) {
+        objet->getPropertyValue(propriete) >>= vrai;
+    }
+    return vrai;
+}
+
+} // namespace
+
+ParcoursWriter::ParcoursWriter(std::shared_ptr<FondWriter const> fond, CarnetDeZones& carnet,
+                               Recueil const& recueil)
+    : fond_(std::move(fond))
+    , carnet_(carnet)
+    , recueil_(recueil) {}
+
+void ParcoursWriter::Parcours() {
+    uno::Reference<text::XTextDocument> const document(fond_->modele, uno::UNO_QUERY_THROW);
+    uno::Reference<text::XTextSectionsSupplier> const sections(document, uno::UNO_QUERY);
+    aDesSections_ = sections.is() && sections->getTextSections()->hasElements();
+    aDesCadres_ = PageDeDessin(fond_->modele)->getCount() > 0;
+
+    ParcoursEntetes("HeaderIsOn", "Header");
+    ParcoursTexte(Contient(document->getText()));
+    if (aDesCadres_) {
+        ParcoursPages();
+    }
+    auto const notes = std::move(notesDeFin_);
+    for (auto const& [note, contenant] : notes) {
+        auto dedans = Contient(uno::Reference<text::XText>(note.objet, uno::UNO_QUERY_THROW));
+        dedans->parent = contenant;
+        ParcoursTexte(dedans);
+    }
+    ParcoursEntetes("FooterIsOn", "Footer");
+}
+
+void ParcoursWriter::ParcoursTexte(std::shared_ptr<Contenant const> const& contenant) {
+    uno::Reference<container::XEnumerationAccess> const paragraphes(contenant->texte,
+                                                                    uno::UNO_QUERY_THROW);
+    uno::Reference<container::XEnumeration> const suite = paragraphes->createEnumeration();
+    int suppressions = 0;
+    while (suite->hasMoreElements()) {
+        uno::Reference<text::XTextContent> const element(suite->nextElement(),
+                                                         uno::UNO_QUERY_THROW);
+        uno::Reference<text::XTextTable> const tableau(element, uno::UNO_QUERY);
+        if (tableau.is()) {
+            ParcoursTableau(tableau, contenant);
+        } else {
+            ParcoursParagraphe(element, contenant, suppressions);
+        }
+    }
+}
+
+void ParcoursWriter::ParcoursTableau(uno::Reference<text::XTextTable> const& tableau,
+                                     std::shared_ptr<Contenant const> const& parent) {
+    for (OUString const& nom : tableau->getCellNames()) {
+        uno::Reference<table::XCell> const cellule = tableau->getCellByName(nom);
+        uno::Reference<text::XText> const texte(cellule, uno::UNO_QUERY);
+        if (!texte.is()) {
+            continue;
+        }
+        auto contenant = Contient(texte);
+        contenant->protecteur.set(cellule, uno::UNO_QUERY);
+        contenant->propriete = "IsProtected";
+        contenant->parent = parent;
+        ParcoursTexte(contenant);
+    }
+}
+
+void ParcoursWriter::ParcoursParagraphe(uno::Reference<text::XTextContent> const& paragraphe,
+                                        std::shared_ptr<Contenant const> const& contenant,
+                                        int& suppressions) {
+    uno::Reference<uno::XInterface> const objet = Identite(paragraphe);
+    auto zone = std::dynamic_pointer_cast<ParagrapheWriter>(carnet_.Retrouve(objet));
+    if (!zone) {
+        zone =
+            std::make_shared<ParagrapheWriter>(carnet_.NouvelleCle(), paragraphe, contenant, fond_);
+        carnet_.Inscris(objet, zone);
+    }
+    ParagrapheLu lu = zone->LisEnPassant(suppressions);
+    uno::Reference<beans::XPropertySet> const proprietes(paragraphe, uno::UNO_QUERY_THROW);
+    if (aDesSections_ && EstDansSectionNonLue(proprietes)) {
+        return;
+    }
+    std::vector<Rencontre> const rencontres = std::move(lu.rencontres);
+    recueil_(zone, std::move(lu.plan));
+    for (Rencontre const& rencontre : rencontres) {
+        ParcoursRencontre(rencontre, contenant, proprietes);
+    }
+    if (!aDesCadres_) {
+        return;
+    }
+    uno::Reference<container::XContentEnumerationAccess> const contenus(paragraphe,
+                                                                        uno::UNO_QUERY_THROW);
+    uno::Reference<container::XEnumeration> const suite =
+        contenus->createContentEnumeration("com.sun.star.text.TextContent");
+    while (suite.is() && suite->hasMoreElements()) {
+        uno::Reference<uno::XInterface> const cadre(suite->nextElement(), uno::UNO_QUERY);
+        ParcoursCadre(cadre, contenant, proprietes);
+    }
+}
+
+void ParcoursWriter::ParcoursRencontre(Rencontre const& rencontre,
+                                       std::shared_ptr<Contenant const> const& contenant,
+                                       uno::Reference<beans::XPropertySet> const& ancre) {
+    switch (rencontre.genre) {
+    case Rencontre::Genre::Cadre:
+        ParcoursCadre(rencontre.objet, contenant, ancre);
+        return;
+    case Rencontre::Genre::Commentaire: {
+        auto dessine = std::make_shared<Contenant>();
+        dessine->ancre = ancre;
+        dessine->parent = contenant;
+        if (vus_.insert(Identite(rencontre.objet).get()).second) {
+            ParcoursTexteDessine(
+                rencontre.objet,
+                [&] { return TexteDeCommentaire(rencontre.objet, fond_->modele, dessine); },
+                carnet_, recueil_);
+        }
+        return;
+    }
+    case Rencontre::Genre::Note:
+    case Rencontre::Genre::NoteDeFin:
+        break;
+    }
+    auto dedans = Contient(uno::Reference<text::XText>(rencontre.objet, uno::UNO_QUERY_THROW));
+    dedans->ancre = ancre;
+    dedans->parent = contenant;
+    if (rencontre.genre == Rencontre::Genre::NoteDeFin) {
+        notesDeFin_.emplace_back(rencontre, dedans);
+    } else {
+        ParcoursTexte(dedans);
+    }
+}
+
+void ParcoursWriter::ParcoursCadre(uno::Reference<uno::XInterface> const& objet,
+                                   std::shared_ptr<Contenant const> const& parent,
+                                   uno::Reference<beans::XPropertySet> const& ancre) {
+    if (!objet.is() || !vus_.insert(Identite(objet).get()).second) {
+        return;
+    }
+    uno::Reference<beans::XPropertySet> const proprietes(objet, uno::UNO_QUERY);
+    if (!Vaut(proprietes, "Visible", true)) {
+        return;
+    }
+    uno::Reference<text::XTextFrame> const cadre(objet, uno::UNO_QUERY);
+    uno::Reference<drawing::XShapes> const groupe(objet, uno::UNO_QUERY);
+    uno::Reference<text::XText> const texte(objet, uno::UNO_QUERY);
+    if (groupe.is()) {
+        for (sal_Int32 i = 0; i < groupe->getCount(); ++i) {
+            ParcoursCadre(uno::Reference<uno::XInterface>(groupe->getByIndex(i), uno::UNO_QUERY),
+                          parent, ancre);
+        }
+    } else if (cadre.is()) {
+        auto dedans = Contient(cadre->getText());
+        dedans->protecteur = proprietes;
+        dedans->propriete = "ContentProtected";
+        dedans->ancre = ancre;
+        dedans->parent = parent;
+        ParcoursTexte(dedans);
+    } else if (texte.is()) {
+        auto dedans = Contient(texte);
+        dedans->ancre = ancre;
+        dedans->parent = parent;
+        if (Vaut(proprietes, "TextBox", false)) {
+            ParcoursTexte(dedans); // a shape whose text is a frame of Writer's own
+        } else {
+            ParcoursTexteDessine(
+                objet, [&] { return TexteDeForme(objet, fond_->modele, dedans); }, carnet_,
+                recueil_);
+        }
+    }
+}
+
+void ParcoursWriter::ParcoursPages() {
+    uno::Reference<drawing::XDrawPage> const page = PageDeDessin(fond_->modele);
+    for (sal_Int32 i = 0; i < page->getCount(); ++i) {
+        uno::Reference<uno::XInterface> const objet(page->getByIndex(i), uno::UNO_QUERY);
+        text::TextContentAnchorType ancrage = text::TextContentAnchorType_AT_PARAGRAPH;
+        uno::Reference<beans::XPropertySet> const proprietes(objet, uno::UNO_QUERY);
+        if (proprietes.is()) {
+            proprietes->getPropertyValue("AnchorType") >>= ancrage;
+        }
+        // What hangs on a paragraph was met with it, unless nobody is to read that one.
+        if (ancrage == text::TextContentAnchorType_AT_PAGE) {
+            ParcoursCadre(objet, nullptr, {});
+        }
+    }
+}
+
+void ParcoursWriter::ParcoursEntetes(char const* actif, char const* texte) {
+    uno::Reference<style::XStyleFamiliesSupplier> const document(fond_->modele,
+                                                                 uno::UNO_QUERY_THROW);
+    uno::Reference<container::XIndexAccess> const styles(
+        document->getStyleFamilies()->getByName("PageStyles"), uno::UNO_QUERY_THROW);
+    for (sal_Int32 i = 0; i < styles->getCount(); ++i) {
+        uno::Reference<style::XStyle> const style(styles->getByIndex(i), uno::UNO_QUERY_THROW);
+        uno::Reference<beans::XPropertySet> const proprietes(style, uno::UNO_QUERY_THROW);
+        if (!style->isInUse() || !Vaut(proprietes, actif, false)) {
+            continue;
+        }
+        OUString const nom = OUString::createFromAscii(texte) + "Text";
+        bool const partage = Vaut(proprietes, (std::string(texte) + "IsShared").c_str(), true);
+        bool const premierPartage = Vaut(proprietes, "FirstIsShared", true);
+        std::vector<OUString> variantes{nom};
+        if (!partage) {
+            variantes.push_back(nom + "Left");
+        }
+        if (!premierPartage) {
+            variantes.push_back(nom + "First");
+        }
+        for (OUString const& variante : variantes) {
+            uno::Reference<text::XText> entete;
+            proprietes->getPropertyValue(variante) >>= entete;
+            if (entete.is()) {
+                ParcoursTexte(Contient(entete));
+            }
+        }
+    }
+}
+
+} // namespace bureau

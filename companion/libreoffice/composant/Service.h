@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "DialogueModal.h"
+#include "Documents.h"
+#include "Session.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace bureau {
+
+/// The methods of both interfaces (protocol/), as one caller sees them. Main thread only. Every
+/// operation may throw `Erreur` or a UNO exception; nothing was changed then.
+class Service {
+  public:
+    /// `instance`: the first part of the identifiers handed out.
+    Service(com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> const& contexte,
+            std::string instance);
+
+    std::shared_ptr<ClesVivantes const> Vivantes() const noexcept { return documents_.Vivantes(); }
+    Documents& LesDocuments() noexcept { return documents_; }
+    std::string const& Instance() const noexcept { return instance_; }
+    /// Whole identifier of a document.
+    std::string Identifiant(DocumentOuvert const& document) const;
+    /// That caller has left the bus.
+    void Oublie(std::string const& appelant) { sessions_.erase(appelant); }
+    void OublieTous() { sessions_.clear(); }
+
+    std::string DonneDocuments();
+
+    void InitialiseTexteur(std::string const& appelant, std::string const& cle);
+    void Active(std::string const& appelant);
+    void InitialisePour(std::string const& appelant);
+    void RompsLienCorrecteur(std::string const& appelant);
+
+    std::u16string DonneTitreDocument(std::string const& appelant);
+    std::u16string DonneCheminDocument(std::string const& appelant);
+    bool PermetsRetourDeCharriot(std::string const& appelant);
+
+    /// The zone document. `leId`: a whole identifier.
+    std::string SynchronisePositions(std::string const& appelant, std::string const& leId);
+    bool PeutCorriger(std::string const& appelant, std::string const& zone,
+                      compagnon::Intervalle plage, std::u16string const& attendu);
+    void CorrigeDansTexteur(std::string const& appelant, std::string const& zone,
+                            compagnon::Intervalle plage, std::u16string const& texte);
+    void SelectionneIntervalle(std::string const& appelant, std::string const& zone,
+                               compagnon::Intervalle plage);
+
+    std::u16string DonneContenuSelection(std::string const& appelant);
+    /// The text of the selection's zone, and the selection in it.
+    std::pair<std::u16string, compagnon::Intervalle> DonneContexte(std::string const& appelant);
+    void AjusteSelectionPourOutils(std::string const& appelant, std::int32_t deltaDebut,
+                                   std::int32_t deltaFin);
+    void RemplaceEtReselectionne(std::string const& appelant, std::u16string const& mot);
+
+  private:
+    std::shared_ptr<DocumentOuvert> DocumentDe(std::string const& appelant);
+    std::pair<std::shared_ptr<DocumentOuvert>, std::shared_ptr<ZoneOuverte>>
+    ZoneDe(Session& session, std::string const& cle);
+
+    std::string instance_;
+    Documents documents_;
+    DialogueModal dialogue_;
+    Sessions sessions_;
+};
+
+} // namespace bureau

@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "TexteDessine.h"
+
+#include "Alignement.h"
+#include "AnnulationDessin.h"
+#include "Chaines.h"
+#include "Curseur.h"
+#include "Erreur.h"
+
+#include <com/sun/star/container/XEnumerationAccess.hpp>
+
+#include <algorithm>
+#include <utility>
+
+using namespace com::sun::star;
+using compagnon::PlanDePortions;
+
+namespace bureau {
+
+namespace {
+
+/// Where each portion starts, in the drawing engine's positions: a field takes one.
+std::vector<std::size_t> Departs(PlanDePortions const& plan) {
+    std::vector<std::size_t> departs;
+    std::size_t position = 0;
+    for (compagnon::Portion const& portion : plan.DonnePortions()) {
+        departs.push_back(position);
+        if (portion.genre == compagnon::GenrePortion::Substitut) {
+            position += 1;
+        } else {
+            position += portion.source.size();
+        }
+    }
+    return departs;
+}
+
+/// The engine gives letters put in where a portion became empty the format of another one.
+bool VideUnePortion(PlanDePortions const& plan,
+                    std::vector<compagnon::EtapeEdition> const& etapes) {
+    return plan.DonnePortions().size() > 1 &&
+           std::any_of(etapes.begin(), etapes.end(), [](compagnon::EtapeEdition const& etape) {
+               return !etape.EstInsertion() && etape.debut == 0 && etape.fin == etape.source.size();
+           });
+}
+
+} // namespace
+
+TexteDessine::TexteDessine(uno::Reference<uno::XInterface> const& objet,
+                           uno::Reference<frame::XModel> const& modele,
+                           std::shared_ptr<Contenant const> contenant)
+    : objet_(objet)
+    , modele_(modele)
+    , contenant_(std::move(contenant)) {}
+
+TexteDessine::~TexteDessine() = default;
+
+std::vector<ParagrapheLu> TexteDessine::LisTout() const {
+    std::vector<ParagrapheLu> lus;
+    uno::Reference<container::XEnumerationAccess> const texte(Texte(), uno::UNO_QUERY_THROW);
+    uno::Reference<container::XEnumeration> const suite = texte->createEnumeration();
+    while (suite->hasMoreElements()) {
+        uno::Reference<container::XEnumerationAccess> const paragraphe(suite->nextElement(),
+                                                                       uno::UNO_QUERY_THROW);
+        int suppressions = 0;
+        lus.push_back(lecteur_.Lis(paragraphe, suppressions));
+    }
+    return lus;
+}
+
+std::vector<ParagrapheLu> TexteDessine::Relis(CarnetDeZones& carnet) {
+    std::vector<ParagrapheLu> lus = LisTout();
+    std::vector<std::u16string> textes;
+    textes.reserve(lus.size());
+    for (ParagrapheLu const& lu : lus) {
+        textes.push_back(lu.plan.DonneTexte());
+    }
+    auto const origine = compagnon::AligneParagraphes(textes_, textes);
+    std::vector<std::shared_ptr<ParagrapheDessine>> zones(lus.size());
+    for (std::size_t i = 0; i < zones.size(); ++i) {
+        if (origine[i]) {
+            zones[i] = std::move(zones_[*origine[i]]);
+        } else {
+            zones[i] =
+                std::make_shared<ParagrapheDessine>(carnet.NouvelleCle(), weak_from_this(), carnet);
+            carnet.InscrisCle(zones[i]);
+        }
+    }
+    Vide(carnet);
+    zones_ = std::move(zones);
+    textes_ = std::move(textes);
+    return lus;
+}
+
+void TexteDessine::Vide(CarnetDeZones& carnet) {
+    for (std::shared_ptr<ParagrapheDessine> const& zone : zones_) {
+        if (zone) {
+            carnet.OublieCle(zone->Cle());
+        }
+    }
+    zones_.clear();
+}
+
+bool TexteDessine::Remplace(std::size_t rang, std::size_t debut, std::u16string const& avant,
+                            std::u16string const& apres) {
+    std::vector<ParagrapheLu> const lus = LisTout();
+    if (rang >= lus.size()) {
+        return false;
+    }
+    PlanDePortions const& plan = lus[rang].plan;
+    if (plan.DonneTexte().compare(std::min(debut, plan.DonneTexte().size()), avant.size(), avant) !=
+        0) {
+        return false;
+    }
+    auto const etapes = plan.Prepare(debut, debut + avant.size(), apres);
+    if (!etapes || VideUnePortion(plan, *etapes) || lus[rang].etendues.empty()) {
+        return false;
+    }
+    std::vector<std::size_t> const departs = Departs(plan);
+    uno::Reference<text::XText> const texte = Texte();
+    for (compagnon::EtapeEdition const& etape : *etapes) {
+        // The engine's ranges do not follow edits: each step counts from the paragraph's start,
+        // and what stands before it has not changed.
+        uno::Reference<text::XTextCursor> const curseur =
+            PlaceCurseur(texte, lus[rang].etendues.front(), departs[etape.portion] + etape.debut);
+        if (etape.EstInsertion()) {
+            texte->insertString(curseur.get(), EnUno(etape.ajout), false);
+        } else {
+            Avance(curseur, etape.fin - etape.debut, true);
+            curseur->setString(rtl::OUString());
+        }
+    }
+    return true;
+}
+
+ParagrapheDessine::ParagrapheDessine(std::string cle, std::weak_ptr<TexteDessine> texte,
+                                     CarnetDeZones& carnet)
+    : ZoneOuverte(std::move(cle))
+    , texte_(std::move(texte))
+    , carnet_(carnet) {}
+
+std::shared_ptr<TexteDessine> ParagrapheDessine::Texte() const {
+    std::shared_ptr<TexteDessine> texte = texte_.lock();
+    if (!texte) {
+        throw ZoneInconnue();
+    }
+    return texte;
+}
+
+PlanDePortions ParagrapheDessine::Lis() {
+    std::shared_ptr<TexteDessine> const texte = Texte();
+    std::vector<ParagrapheLu> lus = texte->Relis(carnet_);
+    for (std::size_t i = 0; i < lus.size(); ++i) {
+        if (texte->Zones()[i].get() == this) {
+            rang_ = i;
+            return std::move(lus[i].plan);
+        }
+    }
+    throw ZoneInconnue();
+}
+
+bool ParagrapheDessine::EstProtegee() {
+    return Texte()->EstProtege();
+}
+
+void ParagrapheDessine::Applique(CorrectionPrete const& correction) {
+    std::shared_ptr<TexteDessine> const texte = Texte();
+    if (!texte->Remplace(rang_, correction.debut, correction.avant, correction.apres)) {
+        throw Refuse("the range cannot be changed without harm to its format");
+    }
+    if (!texte->SAnnuleSeul()) {
+        AjouteAnnulation(texte, rang_, correction);
+    }
+}
+
+void ParagrapheDessine::Selectionne(PlanDePortions const& plan, std::size_t debut,
+                                    std::size_t fin) {
+    Texte()->Selectionne(rang_, plan, debut, fin);
+}
+
+bool ParagrapheDessine::EstCelleDe(uno::Reference<uno::XInterface> const& /*objet*/) {
+    return false;
+}
+
+bool ParagrapheDessine::EstVoisineDe(uno::Reference<uno::XInterface> const& /*objet*/) {
+    return false;
+}
+
+compagnon::PlaceDansPortion
+ParagrapheDessine::PlaceDe(uno::Reference<text::XTextRange> const& /*position*/) {
+    return {};
+}
+
+void ParcoursTexteDessine(uno::Reference<uno::XInterface> const& objet,
+                          std::function<std::shared_ptr<TexteDessine>()> const& fabrique,
+                          CarnetDeZones& carnet, TexteDessine::Recueil const& recueil) {
+    uno::Reference<uno::XInterface> const identite(objet, uno::UNO_QUERY);
+    std::shared_ptr<TexteDessine> texte = carnet.RetrouveTexte(identite);
+    if (!texte) {
+        texte = fabrique();
+        carnet.InscrisTexte(identite, texte);
+    }
+    std::vector<ParagrapheLu> lus = texte->Relis(carnet);
+    std::vector<std::shared_ptr<ParagrapheDessine>> const zones = texte->Zones();
+    for (std::size_t i = 0; i < lus.size(); ++i) {
+        recueil(zones[i], std::move(lus[i].plan));
+    }
+}
+
+} // namespace bureau

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "CarnetDeZones.h"
+#include "Contenant.h"
+#include "LecteurPortions.h"
+#include "ZoneOuverte.h"
+
+#include <com/sun/star/frame/XModel.hpp>
+#include <com/sun/star/text/XText.hpp>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace bureau {
+
+class ParagrapheDessine;
+
+/// A text of the office's drawing engine: in a shape, a comment, a spreadsheet cell. Its paragraphs
+/// have no objects that last: they are known again by their words. Main thread only.
+class TexteDessine : public std::enable_shared_from_this<TexteDessine> {
+  public:
+    using Recueil =
+        std::function<void(std::shared_ptr<ZoneOuverte> const&, compagnon::PlanDePortions&&)>;
+
+    TexteDessine(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet,
+                 com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& modele,
+                 std::shared_ptr<Contenant const> contenant);
+    TexteDessine(TexteDessine const&) = delete;
+    TexteDessine& operator=(TexteDessine const&) = delete;
+    virtual ~TexteDessine();
+
+    /// Reads all paragraphs and settles which zone each is; new ones get keys from the book.
+    std::vector<ParagrapheLu> Relis(CarnetDeZones& carnet);
+    std::vector<std::shared_ptr<ParagrapheDessine>> const& Zones() const noexcept { return zones_; }
+    /// Takes all zones out of the book.
+    void Vide(CarnetDeZones& carnet);
+
+    /// Puts one text in place of another, letter for letter as `PlanDePortions::Prepare` says;
+    /// false when what stands there is another text, or it cannot be done safely.
+    virtual bool Remplace(std::size_t rang, std::size_t debut, std::u16string const& avant,
+                          std::u16string const& apres);
+    /// Does the office make an undo step of its own for a change of this text?
+    virtual bool SAnnuleSeul() const = 0;
+    virtual bool EstProtege() const { return contenant_ && contenant_->EstProtege(); }
+    /// Selects what can be selected of it, at least the object that holds it.
+    virtual void Selectionne(std::size_t rang, compagnon::PlanDePortions const& plan,
+                             std::size_t debut, std::size_t fin) = 0;
+
+    com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& Modele() const noexcept {
+        return modele_;
+    }
+    com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& Objet() const noexcept {
+        return objet_;
+    }
+
+  protected:
+    virtual com::sun::star::uno::Reference<com::sun::star::text::XText> Texte() const = 0;
+    std::vector<ParagrapheLu> LisTout() const;
+
+  private:
+    com::sun::star::uno::Reference<com::sun::star::uno::XInterface> objet_;
+    com::sun::star::uno::Reference<com::sun::star::frame::XModel> modele_;
+    std::shared_ptr<Contenant const> contenant_;
+    LecteurPortions lecteur_;
+    std::vector<std::shared_ptr<ParagrapheDessine>> zones_;
+    std::vector<std::u16string> textes_;
+};
+
+/// One paragraph of such a text.
+class ParagrapheDessine : public ZoneOuverte {
+  public:
+    ParagrapheDessine(std::string cle, std::weak_ptr<TexteDessine> texte, CarnetDeZones& carnet);
+
+    compagnon::PlanDePortions Lis() override;
+    bool EstProtegee() override;
+    void Applique(CorrectionPrete const& correction) override;
+    void Selectionne(compagnon::PlanDePortions const& plan, std::size_t debut,
+                     std::size_t fin) override;
+    bool EstCelleDe(
+        com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet) override;
+    bool EstVoisineDe(
+        com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet) override;
+    compagnon::PlaceDansPortion PlaceDe(
+        com::sun::star::uno::Reference<com::sun::star::text::XTextRange> const& position) override;
+
+  private:
+    std::shared_ptr<TexteDessine> Texte() const;
+
+    std::weak_ptr<TexteDessine> texte_; // which owns this zone
+    CarnetDeZones& carnet_;
+    std::size_t rang_ = 0; // since the last reading
+};
+
+/// Hands out the zones of such a text; `fabrique` makes it when it is met for the first time.
+void ParcoursTexteDessine(
+    com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet,
+    std::function<std::shared_ptr<TexteDessine>()> const& fabrique, CarnetDeZones& carnet,
+    TexteDessine::Recueil const& recueil);
+
+} // namespace bureau

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "TextesDessines.h"
+
+#include "Chaines.h"
+
+#include <com/sun/star/beans/XPropertySet.hpp>
+#include <com/sun/star/text/XTextContent.hpp>
+#include <com/sun/star/view/XSelectionSupplier.hpp>
+
+#include <utility>
+
+using namespace com::sun::star;
+
+namespace bureau {
+
+namespace {
+
+class Forme : public TexteDessine {
+  public:
+    using TexteDessine::TexteDessine;
+
+    bool SAnnuleSeul() const override { return false; }
+
+    void Selectionne(std::size_t /*rang*/, compagnon::PlanDePortions const& /*plan*/,
+                     std::size_t /*debut*/, std::size_t /*fin*/) override {
+        uno::Reference<view::XSelectionSupplier> const vue(Modele()->getCurrentController(),
+                                                           uno::UNO_QUERY_THROW);
+        vue->select(uno::Any(Objet()));
+    }
+
+  protected:
+    uno::Reference<text::XText> Texte() const override {
+        return uno::Reference<text::XText>(Objet(), uno::UNO_QUERY_THROW);
+    }
+};
+
+class Commentaire : public TexteDessine {
+  public:
+    using TexteDessine::TexteDessine;
+
+    bool SAnnuleSeul() const override { return true; }
+
+    bool Remplace(std::size_t rang, std::size_t debut, std::u16string const& avant,
+                  std::u16string const& apres) override {
+        std::vector<ParagrapheLu> const lus = LisTout();
+        std::u16string tout;
+        for (std::size_t i = 0; i < lus.size(); ++i) {
+            compagnon::PlanDePortions const& plan = lus[i].plan;
+            if (plan.DonnePortions().size() > 1 || !plan.DonneStyles().empty()) {
+                return false;
+            }
+            std::u16string paragraphe =
+                plan.DonnePortions().empty() ? std::u16string() : plan.DonnePortions()[0].source;
+            if (i == rang) {
+                auto const etapes = plan.Prepare(debut, debut + avant.size(), apres);
+                if (!etapes || plan.DonneTexte().compare(debut, avant.size(), avant) != 0) {
+                    return false;
+                }
+                for (compagnon::EtapeEdition const& etape : *etapes) {
+                    paragraphe.replace(etape.debut, etape.fin - etape.debut, etape.ajout);
+                }
+            }
+            tout += (i == 0 ? u"" : u"\n") + paragraphe;
+        }
+        Champ()->setPropertyValue("Content", uno::Any(EnUno(tout)));
+        return true;
+    }
+
+    void Selectionne(std::size_t /*rang*/, compagnon::PlanDePortions const& /*plan*/,
+                     std::size_t /*debut*/, std::size_t /*fin*/) override {
+        uno::Reference<text::XTextContent> const contenu(Objet(), uno::UNO_QUERY_THROW);
+        uno::Reference<view::XSelectionSupplier> const vue(Modele()->getCurrentController(),
+                                                           uno::UNO_QUERY_THROW);
+        vue->select(uno::Any(contenu->getAnchor()));
+    }
+
+  protected:
+    uno::Reference<text::XText> Texte() const override {
+        uno::Reference<text::XText> texte;
+        Champ()->getPropertyValue("TextRange") >>= texte;
+        return uno::Reference<text::XText>(texte, uno::UNO_SET_THROW);
+    }
+
+  private:
+    uno::Reference<beans::XPropertySet> Champ() const {
+        return uno::Reference<beans::XPropertySet>(Objet(), uno::UNO_QUERY_THROW);
+    }
+};
+
+} // namespace
+
+std::shared_ptr<TexteDessine> TexteDeForme(uno::Reference<uno::XInterface> const& forme,
+                                           uno::Reference<frame::XModel> const& modele,
+                                           std::shared_ptr<Contenant const> contenant) {
+    return std::make_shared<Forme>(forme, modele, std::move(contenant));
+}
+
+std::shared_ptr<TexteDessine> TexteDeCommentaire(uno::Reference<uno::XInterface> const& champ,
+                                                 uno::Reference<frame::XModel> const& modele,
+                                                 std::shared_ptr<Contenant const> contenant) {
+    return std::make_shared<Commentaire>(champ, modele, std::move(contenant));
+}
+
+} // namespace bureau

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "TexteDessine.h"
+
+namespace bureau {
+
+/// The text in a shape.
+std::shared_ptr<TexteDessine>
+TexteDeForme(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& forme,
+             com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& modele,
+             std::shared_ptr<Contenant const> contenant);
+
+/// A Writer comment: can be changed only while it has no format of its own, for the office takes
+/// new words for a comment as plain text.
+std::shared_ptr<TexteDessine>
+TexteDeCommentaire(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& champ,
+                   com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& modele,
+                   std::shared_ptr<Contenant const> contenant);
+
+} // namespace bureau

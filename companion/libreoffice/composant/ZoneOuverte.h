@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "PlanDePortions.h"
+
+#include <com/sun/star/text/XTextRange.hpp>
+
+#include <cstddef>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace bureau {
+
+/// A correction whose every condition has been checked.
+struct CorrectionPrete {
+    std::size_t debut = 0; ///< in the zone's text
+    std::u16string avant;  ///< what stands there
+    std::u16string apres;  ///< what is to stand there
+    std::u16string nom;    ///< the undo step's, in the user's language
+    std::vector<compagnon::EtapeEdition> etapes;
+};
+
+/// One paragraph of an open document, as long as it lives there. Main thread only. Every operation
+/// may throw a UNO exception, or `Erreur` when the paragraph has left the document.
+class ZoneOuverte {
+  public:
+    explicit ZoneOuverte(std::string cle)
+        : cle_(std::move(cle)) {}
+    ZoneOuverte(ZoneOuverte const&) = delete;
+    ZoneOuverte& operator=(ZoneOuverte const&) = delete;
+    virtual ~ZoneOuverte() = default;
+
+    /// The `idZone` of the wire; opaque.
+    std::string const& Cle() const noexcept { return cle_; }
+
+    /// The paragraph as it stands now. The plan's portions are those that `Applique` and
+    /// `Selectionne` refer to until the next call.
+    virtual compagnon::PlanDePortions Lis() = 0;
+
+    /// Is it protected from typing (section, cell, frame)? Says nothing of the whole document.
+    virtual bool EstProtegee() = 0;
+
+    /// Carries out a correction of the last plan read.
+    virtual void Applique(CorrectionPrete const& correction) = 0;
+
+    /// Selects the range of the last plan read and brings it into view.
+    virtual void Selectionne(compagnon::PlanDePortions const& plan, std::size_t debut,
+                             std::size_t fin) = 0;
+
+    /// Is it the zone of that object of the office?
+    virtual bool
+    EstCelleDe(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet) = 0;
+    /// Does it stand in the same text (body, cell, note) as that object?
+    virtual bool
+    EstVoisineDe(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet) = 0;
+
+    /// The place, in the last plan read, of a range of the document; what lies outside counts as
+    /// the nearest end.
+    virtual compagnon::PlaceDansPortion
+    PlaceDe(com::sun::star::uno::Reference<com::sun::star::text::XTextRange> const& position) = 0;
+
+  private:
+    std::string cle_;
+};
+
+} // namespace bureau
