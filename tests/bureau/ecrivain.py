@@ -1,0 +1,75 @@
+# SPDX-License-Identifier: MPL-2.0
+"""Builds Writer documents through UNO, element by element."""
+
+import uno
+from com.sun.star.awt import Size
+
+ANCRE = "com.sun.star.text.TextContentAnchorType"
+
+
+class Ecrivain:
+    """Writes at the end of a text."""
+
+    def __init__(self, document, texte=None):
+        self.document = document
+        self.texte = texte or document.Text
+
+    def fin(self):
+        return self.texte.createTextCursorByRange(self.texte.End)
+
+    def ecrit(self, chaine, **format_):
+        curseur = self.fin()
+        for nom, valeur in format_.items():
+            curseur.setPropertyValue(nom, valeur)
+        self.texte.insertString(curseur, chaine, False)
+        return self
+
+    def paragraphe(self):
+        self.texte.insertControlCharacter(self.fin(), 0, False)
+        return self
+
+    def met(self, service, absorbe=None, **proprietes):
+        contenu = self.document.createInstance(service)
+        for nom, valeur in proprietes.items():
+            if nom == "Name" and hasattr(contenu, "setName"):
+                contenu.setName(valeur)
+            else:
+                contenu.setPropertyValue(nom, valeur)
+        self.texte.insertTextContent(absorbe or self.fin(), contenu, absorbe is not None)
+        return contenu
+
+    def note(self, chaine, service="com.sun.star.text.Footnote"):
+        note = self.met(service)
+        note.Text.setString(chaine)
+        return note
+
+    def cadre(self, chaine, ancrage="AS_CHARACTER"):
+        cadre = self.met("com.sun.star.text.TextFrame", AnchorType=uno.Enum(ANCRE, ancrage))
+        cadre.Text.setString(chaine)
+        return cadre
+
+    def forme(self, chaine, ancrage="AT_PARAGRAPH"):
+        forme = self.document.createInstance("com.sun.star.drawing.RectangleShape")
+        forme.setSize(Size(5000, 2000))
+        forme.AnchorType = uno.Enum(ANCRE, ancrage)
+        self.texte.insertTextContent(self.fin(), forme, False)
+        forme.setString(chaine)
+        return forme
+
+    def tableau(self, lignes, colonnes):
+        tableau = self.document.createInstance("com.sun.star.text.TextTable")
+        tableau.initialize(lignes, colonnes)
+        self.texte.insertTextContent(self.fin(), tableau, False)
+        return tableau
+
+    def section(self, debut, fin, **proprietes):
+        """A section around the characters debut to fin of the body."""
+        return self.met("com.sun.star.text.TextSection", absorbe=self.plage(debut, fin),
+                        **proprietes)
+
+    def plage(self, debut, fin):
+        curseur = self.texte.createTextCursor()
+        curseur.gotoStart(False)
+        curseur.goRight(debut, False)
+        curseur.goRight(fin - debut, True)
+        return curseur
