@@ -76,9 +76,10 @@ Descripteur CreeCopie(std::string const& chemin, std::string& copie) {
     bool const avecSuffixe = point != std::string::npos && point > 0 && nom.size() - point < 20;
     std::string const suffixe = avecSuffixe ? nom.substr(point) : std::string();
     std::string const debut = chemin.substr(0, chemin.size() - nom.size()) +
-                              Raccourcis(nom.substr(0, nom.size() - suffixe.size()));
+                              Raccourcis(nom.substr(0, nom.size() - suffixe.size())) + ".corrige-";
     for (int numero = 1; numero < 1000; ++numero) {
-        copie = debut + ".corrige-" + std::to_string(numero) + suffixe;
+        copie = debut;
+        copie.append(std::to_string(numero)).append(suffixe);
         Descripteur fichier(
             ::open(copie.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0600));
         if (fichier || errno != EEXIST) {

@@ -134,9 +134,16 @@ void Dereglements::Applique(Regle const& regle, QDBusMessage const& appel,
     switch (regle.comment) {
     case Comment::Muet:
         break;
-    case Comment::Lent:
-        QTimer::singleShot(regle.nombre, this, [connexion, sers] { connexion.send(sers()); });
+    case Comment::Lent: {
+        auto* const minuterie = new QTimer(this);
+        minuterie->setSingleShot(true);
+        connect(minuterie, &QTimer::timeout, this, [minuterie, connexion, sers] {
+            connexion.send(sers());
+            minuterie->deleteLater();
+        });
+        minuterie->start(regle.nombre);
         break;
+    }
     case Comment::Erreur:
         connexion.send(appel.createErrorReply(
             QStringLiteral("com.ombrel.vocalyne.Erreur.Commandee"), regle.detail));

@@ -103,6 +103,13 @@ TEST_F(Corrections, AfterARefusalWhatFollowsIsOnlyRightOnceSynchronised) {
     EXPECT_EQ(Document(), "Des chien mord ici.\n");
 }
 
+TEST_F(Corrections, AfterOneRefusedForItsLineEndWhatFollowsIsNotSureEither) {
+    EXPECT_EQ(client.Corrige(zone, 4, 8, "un\ndeux"), "com.ombrel.vocalyne.Erreur.FinDeLigne");
+    EXPECT_EQ(client.Corrige(zone, 9, 13, "dorment"), kRefusee);
+    EXPECT_EQ(client.Corrige(zone, 0, 3, "Des"), "");
+    EXPECT_EQ(Document(), "Des chat dort ici.\n");
+}
+
 TEST_F(Corrections, AreRefusedToACallerThatWasNeverGivenTheZone) {
     ClientBureau const autre(bureau.Instance());
     EXPECT_FALSE(autre.PeutCorriger(zone, 4, 8, "chat"));

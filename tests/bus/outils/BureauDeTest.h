@@ -29,9 +29,9 @@ class BureauDeTest {
 
     /// The files are written to a temporary folder, in this order: the first is "doc1". `options`
     /// stand before them on the command line, after "--commande".
-    explicit BureauDeTest(std::initializer_list<Fichier> fichiers,
-                          std::vector<std::string> const& options = {},
-                          std::map<std::string, std::string> const& environnement = {});
+    BureauDeTest(std::initializer_list<Fichier> fichiers,
+                 std::vector<std::string> const& options = {},
+                 std::map<std::string, std::string> const& environnement = {});
     /// Ends the office, which must come out with the code 0, unless `Finis` or `Tue` was called or
     /// the test has awaited its end.
     ~BureauDeTest();

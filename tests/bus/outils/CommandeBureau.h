@@ -34,7 +34,7 @@ class CommandeBureau {
     void FermeDocument(std::string const& cle);
     std::string DonneTexte(std::string const& cle);
     SelectionVue DonneSelection(std::string const& cle);
-    /// Objects with "methode", "arguments" and "appelant".
+    /// One object a call, with its members as the interface describes them.
     QJsonArray DonneJournal();
     void VideJournal();
     /// The methods called, in order, joined by spaces.

@@ -23,7 +23,7 @@ DossierTemporaire::~DossierTemporaire() {
 }
 
 fs::path DossierTemporaire::Ecris(std::string const& nom, std::string_view octets) const {
-    fs::path const chemin = chemin_ / nom;
+    fs::path chemin = chemin_ / nom;
     std::ofstream fichier(chemin, std::ios::binary | std::ios::trunc);
     fichier.write(octets.data(), static_cast<std::streamsize>(octets.size()));
     if (!fichier.flush()) {

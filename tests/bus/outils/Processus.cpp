@@ -27,7 +27,7 @@ std::vector<std::string> Environnement(std::map<std::string, std::string> const&
     }
     for (auto const& [nom, valeur] : ajouts) {
         if (!valeur.empty()) {
-            variables.push_back(nom + "=" + valeur);
+            variables.emplace_back(nom).append("=").append(valeur);
         }
     }
     return variables;
@@ -35,6 +35,7 @@ std::vector<std::string> Environnement(std::map<std::string, std::string> const&
 
 std::vector<char*> Pointeurs(std::vector<std::string>& textes) {
     std::vector<char*> pointeurs;
+    pointeurs.reserve(textes.size() + 1);
     for (std::string& texte : textes) {
         pointeurs.push_back(texte.data());
     }
