@@ -137,6 +137,7 @@ void Dereglements::Applique(Regle const& regle, QDBusMessage const& appel,
     case Comment::Lent: {
         auto* const minuterie = new QTimer(this);
         minuterie->setSingleShot(true);
+        minuterie->setTimerType(Qt::PreciseTimer); // others may go off early
         connect(minuterie, &QTimer::timeout, this, [minuterie, connexion, sers] {
             connexion.send(sers());
             minuterie->deleteLater();
