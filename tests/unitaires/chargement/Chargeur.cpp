@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MPL-2.0
+// A host reduced to loading and unloading: `chargeur PLUGIN [WORD...]` does what the words say, in
+// order, and tells on standard output what it saw.
+//   application | console   make a QApplication, a QCoreApplication, before anything else
+//   charge | decharge       dlopen, dlclose
+//   cent                    load and unload a hundred times
+//   langue1 | langue2       fix the display language anew
+//   ressources              do the catalogs' paths resolve, how are they stored, what do they hold
+//   noms                    the application's identity
+//   sors                    end the process with the plug-in still loaded
+#include "InitialisationGenerale.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QResource>
+
+#include <dlfcn.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <memory>
+#include <string>
+
+namespace {
+
+void* leGreffon = nullptr;
+
+void Charge(char const* chemin) {
+    leGreffon = dlopen(chemin, RTLD_NOW | RTLD_LOCAL);
+    if (leGreffon == nullptr) {
+        std::printf("dlopen: %s\n", dlerror());
+        std::exit(3);
+    }
+}
+
+void Decharge() {
+    if (dlclose(leGreffon) != 0)
+        std::exit(4);
+}
+
+/// Resident memory, in KiB.
+long Memoire() {
+    std::ifstream etat("/proc/self/status");
+    for (std::string mot; etat >> mot;) {
+        long valeur = 0;
+        if (mot == "VmRSS:" && etat >> valeur)
+            return valeur;
+    }
+    return 0;
+}
+
+void Cent(char const* chemin) {
+    long apresVingt = 0;
+    for (int i = 0; i < 100; ++i) {
+        Charge(chemin);
+        Decharge();
+        if (i == 19)
+            apresVingt = Memoire();
+    }
+    // A leak of one catalog a cycle would show; what the allocator keeps does not count.
+    std::printf("growth below 4 MiB: %s\n", Memoire() - apresVingt < 4096 ? "yes" : "no");
+}
+
+void DisRessource(char const* chemin) {
+    QResource const ressource(QString::fromLatin1(chemin));
+    QFile fichier(QString::fromLatin1(chemin));
+    if (!fichier.open(QIODevice::ReadOnly)) {
+        std::printf("%s missing\n", chemin);
+        return;
+    }
+    auto const octets = fichier.readAll();
+    auto const mode = ressource.compressionAlgorithm();
+    std::printf("%s %s ", chemin,
+                mode == QResource::NoCompression     ? "plain"
+                : mode == QResource::ZlibCompression ? "zlib"
+                                                     : "other");
+    std::ifstream original(qgetenv("DOSSIER_CATALOGUES").toStdString() +
+                               QString::fromLatin1(chemin)
+                                   .section(QLatin1Char('/'), -1)
+                                   .prepend(QLatin1Char('/'))
+                                   .toStdString(),
+                           std::ios::binary);
+    std::string const attendu{std::istreambuf_iterator<char>(original), {}};
+    std::printf("%s\n",
+                octets.toStdString() == attendu && !attendu.empty() ? "whole" : "different");
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    std::unique_ptr<QCoreApplication> application;
+    for (int i = 2; i < argc; ++i) {
+        std::string const mot = argv[i];
+        if (mot == "application")
+            application = std::make_unique<QApplication>(argc, argv);
+        else if (mot == "console")
+            application = std::make_unique<QCoreApplication>(argc, argv);
+        else if (mot == "charge")
+            Charge(argv[1]);
+        else if (mot == "decharge")
+            Decharge();
+        else if (mot == "cent")
+            Cent(argv[1]);
+        else if (mot == "langue1" || mot == "langue2")
+            InitialisationGenerale::InitLePlusTotPossible(mot == "langue1" ? kLangueFrancais
+                                                                           : kLangueAnglais);
+        else if (mot == "ressources") {
+            DisRessource(":/fichiers/TexteurEn.mo");
+            DisRessource(":/fichiers/TexteurFr.mo");
+        } else if (mot == "noms")
+            std::printf("application %s of %s\n", qPrintable(QCoreApplication::applicationName()),
+                        qPrintable(QCoreApplication::organizationName()));
+        else if (mot == "sors")
+            std::exit(0);
+        else
+            return 2;
+        std::printf("-- %s: application %s\n", mot.c_str(),
+                    QCoreApplication::instance() == nullptr ? "none"
+                    : application && application.get() == QCoreApplication::instance()
+                        ? "the host's"
+                        : "its own");
+        std::fflush(stdout);
+    }
+    return 0;
+}
