@@ -23,6 +23,8 @@ if(VOCALYNE_ASSAINISSEURS)
   target_compile_options(vocalyne_options INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(vocalyne_options INTERFACE -fsanitize=address,undefined)
+  target_sources(vocalyne_options INTERFACE
+    "$<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:${CMAKE_CURRENT_LIST_DIR}/FuitesConnues.cpp>")
 endif()
 
 # One layout for the build tree and for an installed prefix, so that programs find the plug-in and

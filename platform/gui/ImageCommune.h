@@ -5,7 +5,8 @@
 
 #include <QPixmap>
 
-/// An image as the host hands it around. Main thread (it holds a QPixmap).
+/// An image as the host hands it around. Main thread, while a Qt application object exists: it
+/// holds a QPixmap.
 class VOCALYNE_GUI ImageCommune {
   public:
     /// No image.

@@ -1,37 +1,19 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "InitialisationGenerale.h"
 
+#include "PlateformeQt.h"
+
 #include <QApplication>
-#include <QByteArray>
-#include <QFileInfo>
 #include <QTextCodec>
 
 #include <clocale>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace {
 
-constexpr char kHorsEcran[] = "offscreen";
-
-/// The platforms to try, in Qt's notation. Qt ends the process when none of them comes up, so the
-/// last one is always the one that needs no display. It goes on the command line because the
-/// environment belongs to the host.
-QByteArray DonnePlateformes() {
-    auto const demandee = qgetenv("QT_QPA_PLATFORM");
-    QByteArray plateformes;
-    if (!demandee.isEmpty()) {
-        plateformes = demandee + ';';
-    } else {
-        if (!qEnvironmentVariableIsEmpty("DISPLAY"))
-            plateformes += "xcb;";
-        if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
-            plateformes += "wayland;";
-    }
-    return plateformes + kHorsEcran;
-}
-
-/// Puts the process's locale back: QApplication's constructor sets every category from the
+/// Puts the process's locale back: Qt's first application object sets every category from the
 /// environment, and a host that reads or writes numbers in the C locale would begin to use commas.
 class GardeLocale {
   public:
@@ -50,26 +32,48 @@ class GardeLocale {
     std::string locale_;
 };
 
+/// What an application object is made from. Qt keeps references to all of it for as long as the
+/// object lives, and takes the arguments that it understands out of the list.
+struct LigneDeCommande {
+    QByteArrayList textes;
+    std::vector<char*> arguments;
+    int nombre = 0;
+
+    void Mets(QByteArrayList const& options) {
+        textes = QByteArrayList{"vocalyne"} + options;
+        arguments.clear();
+        for (auto& texte : textes)
+            arguments.push_back(texte.data());
+        nombre = static_cast<int>(arguments.size());
+        arguments.push_back(nullptr);
+    }
+};
+
+LigneDeCommande& DonneLigneDeCommande() {
+    static auto* const ligne = new LigneDeCommande; // outlives every application object
+    return *ligne;
+}
+
 } // namespace
 
+// The application is left to whoever unloads the connector, who finds it through Qt: no pointer to
+// it is kept here, and the analyzer takes it for lost.
+// NOLINTBEGIN(clang-analyzer-cplusplus.NewDeleteLeaks)
 void InitQApplication() {
     if (QCoreApplication::instance() != nullptr)
         return;
-    // Qt keeps references to these for as long as the application lives, and removes the arguments
-    // that it understands: they are static, and set anew for each application.
-    static char nom[] = "vocalyne";
-    static char option[] = "-platform";
-    static QByteArray plateformes;
-    static char* arguments[4];
-    static int nombre;
-    plateformes = DonnePlateformes();
-    arguments[0] = nom;
-    arguments[1] = option;
-    arguments[2] = plateformes.data();
-    arguments[3] = nullptr;
-    nombre = 3;
-
     GardeLocale const garde;
-    // Whoever unloads the connector deletes it.
-    static_cast<void>(std::make_unique<QApplication>(nombre, arguments).release());
+    auto& ligne = DonneLigneDeCommande();
+    ligne.Mets({});
+    auto simple = std::make_unique<QCoreApplication>(ligne.nombre, ligne.arguments.data());
+    if (!PlateformeQt::HorsEcranEstInstalle()) {
+        static_cast<void>(simple.release());
+        return;
+    }
+    simple.reset();
+    // On the command line, because the environment is the host's.
+    ligne.Mets(PlateformeQt::DonneArguments());
+    static_cast<void>(
+        std::make_unique<QApplication>(ligne.nombre, ligne.arguments.data()).release());
 }
+// NOLINTEND(clang-analyzer-cplusplus.NewDeleteLeaks)

@@ -23,7 +23,11 @@ class VOCALYNE_OUTILS InitialisationGenerale {
 
 /// Makes a QApplication where no Qt application object exists yet, and does nothing where one does.
 ///
-/// Never ends the process: without a display, or with one that cannot be reached, the application
-/// runs on Qt's offscreen platform (a platform named in QT_QPA_PLATFORM is tried first). The object
-/// belongs to whoever deletes it; it lives until then. The calling thread becomes Qt's main thread.
+/// Never ends the process. The platforms of QT_QPA_PLATFORM are tried first (but for eglfs and
+/// minimalegl, which end the process themselves when they fail), without it the X or Wayland
+/// display of the environment; where none comes up the application runs on Qt's offscreen platform.
+/// Where Qt's installation lacks even that one, a QCoreApplication is made: no window can be shown.
+///
+/// The environment and the process's locale are left as they were. The object belongs to whoever
+/// deletes it; it lives until then. The calling thread becomes Qt's main thread.
 VOCALYNE_OUTILS void InitQApplication();

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "StockageReponse.h"
+
+#include "DossierTemporaire.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+UniChaine U(char const* texte) {
+    return UniChaine(texte, UniChaine::kCodageUtf8);
+}
+
+class RememberedAnswers : public testing::Test {
+  protected:
+    ~RememberedAnswers() override {
+        for (auto& [type, stockeur] : StockageReponse::laListeStockeurDefaut)
+            delete stockeur;
+        StockageReponse::laListeStockeurDefaut.clear();
+    }
+
+    StockeurReponse& Fais(DDialogue::eTypStockeur type) const {
+        StockageReponse::Initialise(type, chemin_, QSettings::NativeFormat);
+        return *StockageReponse::laListeStockeurDefaut.at(type);
+    }
+
+    DossierTemporaire dossier_;
+    UniChaine const chemin_ = dossier_.Chemin("vocalyne.conf");
+};
+
+TEST_F(RememberedAnswers, TheKindsHaveTheHostsNumbers) {
+    EXPECT_EQ(1, DDialogue::kStockeurReglages);
+}
+
+TEST_F(RememberedAnswers, MakingAStorerTouchesNoFile) {
+    Fais(DDialogue::kStockeurReglages);
+    EXPECT_TRUE(dossier_.EstVide());
+}
+
+TEST_F(RememberedAnswers, AskingForAnAnswerCreatesNoFile) {
+    auto& stockeur = Fais(DDialogue::kStockeurReglages);
+    EXPECT_EQ(std::nullopt, stockeur.Donne(U("a")));
+    stockeur.Oublie(U("a"));
+    EXPECT_TRUE(dossier_.EstVide());
+}
+
+TEST_F(RememberedAnswers, EachKindHasOneStorerAndANewOneTakesItsPlace) {
+    EXPECT_TRUE(Fais(DDialogue::kStockeurMemoire).Mets(U("a"), 1));
+    Fais(DDialogue::kStockeurReglages);
+    EXPECT_EQ(2u, StockageReponse::laListeStockeurDefaut.size());
+    EXPECT_EQ(std::nullopt, Fais(DDialogue::kStockeurMemoire).Donne(U("a")));
+    EXPECT_EQ(2u, StockageReponse::laListeStockeurDefaut.size());
+}
+
+TEST_F(RememberedAnswers, BothKindsRememberReplaceAndForget) {
+    for (auto const type : {DDialogue::kStockeurMemoire, DDialogue::kStockeurReglages}) {
+        auto& stockeur = Fais(type);
+        EXPECT_TRUE(stockeur.Mets(U("a/b"), 3));
+        EXPECT_TRUE(stockeur.Mets(U("a"), -1));
+        EXPECT_TRUE(stockeur.Mets(U("a/b"), 4));
+        EXPECT_EQ(4, stockeur.Donne(U("a/b")));
+        EXPECT_EQ(-1, stockeur.Donne(U("a")));
+        stockeur.Oublie(U("a/b"));
+        EXPECT_EQ(std::nullopt, stockeur.Donne(U("a/b")));
+        EXPECT_EQ(-1, stockeur.Donne(U("a")));
+    }
+}
+
+TEST_F(RememberedAnswers, NamesThatASettingsKeyCannotHoldAreKeptApart) {
+    auto& stockeur = Fais(DDialogue::kStockeurReglages);
+    char const* const noms[] = {"", "/", "//", "a/", "/a", "a", "A", "é 😀", "a\\b", "%2F", "a\nb"};
+    int reponse = 0;
+    for (auto const* nom : noms)
+        EXPECT_TRUE(stockeur.Mets(U(nom), ++reponse));
+    auto& relu = Fais(DDialogue::kStockeurReglages);
+    reponse = 0;
+    for (auto const* nom : noms)
+        EXPECT_EQ(++reponse, relu.Donne(U(nom))) << nom;
+}
+
+TEST_F(RememberedAnswers, TheSettingsFileKeepsWhatElseStandsInIt) {
+    dossier_.Ecris("vocalyne.conf", "[Adaptateurs2]\nlangue=2\n");
+    EXPECT_TRUE(Fais(DDialogue::kStockeurReglages).Mets(U("a"), 1));
+    EXPECT_NE(std::string::npos, dossier_.Lis("vocalyne.conf").find("[Adaptateurs2]\nlangue=2\n"));
+}
+
+TEST_F(RememberedAnswers, AnAnswerThatIsNoNumberIsNone) {
+    auto& stockeur = Fais(DDialogue::kStockeurReglages);
+    EXPECT_TRUE(stockeur.Mets(U("a"), 1));
+    auto contenu = QByteArray::fromStdString(dossier_.Lis("vocalyne.conf"));
+    dossier_.Ecris("vocalyne.conf", contenu.replace("=1", "=oui"));
+    EXPECT_EQ(std::nullopt, stockeur.Donne(U("a")));
+}
+
+TEST_F(RememberedAnswers, AnAnswerThatCannotBeKeptIsReported) {
+    dossier_.Ecris("vocalyne.conf", "no setting at all\n");
+    EXPECT_FALSE(Fais(DDialogue::kStockeurReglages).Mets(U("a"), 1));
+    EXPECT_EQ("no setting at all\n", dossier_.Lis("vocalyne.conf"));
+}
+
+} // namespace
