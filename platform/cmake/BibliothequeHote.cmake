@@ -10,6 +10,9 @@ function(vocalyne_bibliotheque_hote nom)
   add_library(Vocalyne::${nom} ALIAS ${nom})
   target_compile_features(${nom} PUBLIC cxx_std_17)
   target_link_libraries(${nom} PUBLIC ${ARG_LIBS} PRIVATE vocalyne_options ${ARG_PRIVEES})
+  # What these libraries share with a connector by accident (template instances of the standard
+  # library) they take from themselves: bound to the connector's, it could never be unloaded.
+  target_link_options(${nom} PRIVATE LINKER:-Bsymbolic)
   target_include_directories(${nom} PUBLIC
     "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>"
     "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/vocalyne>")

@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "FichierReglages.h"
 
+#include "CopieDurable.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryFile>
 
 #include <utility>
 
-FichierReglages::FichierReglages(QString chemin, QSettings::Format format)
-    : chemin_(std::move(chemin))
+FichierReglages::FichierReglages(QString const& chemin, QSettings::Format format)
+    : chemin_(CopieDurable(chemin))
     , format_(format) {}
 
 std::optional<QVariant> FichierReglages::Lis(QString const& cle, bool relis) {
@@ -29,8 +31,11 @@ bool FichierReglages::Ecris(Changements const& changements) {
         return false;
     QSettings ecriture(chemin_, format_);
     for (auto const& [cle, valeur] : changements) {
+        // QSettings keeps what it wrote in a cache that lives as long as the process.
         if (valeur)
-            ecriture.setValue(cle, *valeur);
+            ecriture.setValue(CopieDurable(cle), valeur->type() == QVariant::String
+                                                     ? CopieDurable(valeur->toString())
+                                                     : *valeur);
         else
             ecriture.remove(cle);
     }

@@ -16,7 +16,7 @@ class FichierReglages {
     /// What to write: a value for a key, or nothing to take the key out.
     using Changements = std::map<QString, std::optional<QVariant>>;
 
-    FichierReglages(QString chemin, QSettings::Format format);
+    FichierReglages(QString const& chemin, QSettings::Format format);
 
     /// The value of a key. `relis` looks whether the file changed since it was last read.
     std::optional<QVariant> Lis(QString const& cle, bool relis);

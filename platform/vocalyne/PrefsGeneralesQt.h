@@ -26,8 +26,8 @@ enum ePrefsGenAcces : int {
 /// One object on one thread at a time.
 class VOCALYNE_OUTILS PrefsGeneralesQt {
   public:
-    /// Opens the file at `chemin` (kept as given, not cleaned). A missing or unreadable file reads as
-    /// having no keys; in a damaged one, the lines that are no settings are passed over.
+    /// Opens the file at `chemin` (kept as given, not cleaned). A missing or unreadable file reads
+    /// as having no keys; in a damaged one, the lines that are no settings are passed over.
     PrefsGeneralesQt(UniChaine const& chemin, ePrefsGenMode mode, ePrefsGenAcces acces,
                      QSettings::Format format);
     ~PrefsGeneralesQt();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "StockageReponse.h"
 
+#include "CopieDurable.h"
 #include "FichierReglages.h"
 
 #include <QUrl>
@@ -16,7 +17,7 @@ class StockeurMemoire final : public StockeurReponse {
         return reponse != reponses_.end() ? std::make_optional(reponse->second) : std::nullopt;
     }
     bool Mets(UniChaine const& dialogue, int reponse) override {
-        reponses_[dialogue] = reponse;
+        reponses_[UniChaine(CopieDurable(dialogue.VersQString()))] = reponse;
         return true;
     }
     void Oublie(UniChaine const& dialogue) override { reponses_.erase(dialogue); }

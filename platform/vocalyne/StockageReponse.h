@@ -24,8 +24,8 @@ class VOCALYNE_OUTILS StockeurReponse {
     virtual ~StockeurReponse();
     /// The answer remembered for a dialogue, if any.
     virtual std::optional<int> Donne(UniChaine const& dialogue) const = 0;
-    /// Remembers an answer; false when it could not be kept (a settings file that cannot be written,
-    /// or is damaged: see PrefsGeneralesQt::Enregistre).
+    /// Remembers an answer; false when it could not be kept (a settings file that cannot be
+    /// written, or is damaged: see PrefsGeneralesQt::Enregistre).
     virtual bool Mets(UniChaine const& dialogue, int reponse) = 0;
     /// Forgets a dialogue's answer.
     virtual void Oublie(UniChaine const& dialogue) = 0;
@@ -35,8 +35,8 @@ class VOCALYNE_OUTILS StockeurReponse {
 class VOCALYNE_OUTILS StockageReponse {
   public:
     /// Makes the storer of a kind, in place of the one there was, which is deleted; an unknown kind
-    /// remembers until the process ends. `chemin` and `format` say where
-    /// the settings file is; the file is opened only when an answer is asked for or given.
+    /// remembers until the process ends. `chemin` and `format` say where the settings file is; the
+    /// file is opened only when an answer is asked for or given.
     static void Initialise(DDialogue::eTypStockeur type, UniChaine const& chemin,
                            QSettings::Format format);
 

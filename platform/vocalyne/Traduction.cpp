@@ -3,6 +3,7 @@
 
 #include "CatalogueMo.h"
 #include "ChargeursDeTraduction.h"
+#include "CopieDurable.h"
 #include "InitialisationGenerale.h"
 #include "RechargeDomaines.h"
 
@@ -71,7 +72,7 @@ void InitLocaleAvecQRC(DomaineDeTraduction** domaine, UniChaine const& chemin, e
         return;
     try {
         cible.locale = catalogue.FaisLocale();
-        cible.paire.second = chemin;
+        cible.paire.second = UniChaine(CopieDurable(chemin.VersQString()));
     } catch (std::exception const&) {
         // Sound as a file, but in an encoding or with a plural rule that Boost does not know.
     }
