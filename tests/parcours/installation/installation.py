@@ -7,12 +7,10 @@ import shutil
 import subprocess
 import unittest
 
-from commun import bureau, bus_prive, dialogue, dossier_neuf, environnement, lance
+from commun import bureau, bus_prive, dialogue, lance
+from prefixe import CMAKE, CONSTRUCTION, SOURCES, PrefixeInstalle
 
-SOURCES = pathlib.Path(os.environ["VOCALYNE_SOURCES"])
-CONSTRUCTION = pathlib.Path(os.environ["VOCALYNE_CONSTRUCTION"])
 LIB = os.environ["VOCALYNE_LIBDIR"]
-CMAKE = os.environ["CMAKE_COMMAND"]
 ICI = pathlib.Path(__file__).resolve().parent
 
 PROGRAMMES = ["bin/vocalyne-hote", "bin/vocalyne-bureau-texte"]
@@ -29,29 +27,6 @@ def symboles_exportes(elf: pathlib.Path) -> set[str]:
     sortie = subprocess.run(["nm", "--dynamic", "--defined-only", "--format=posix", elf],
                             capture_output=True, text=True, check=True).stdout
     return {ligne.split()[0].split("@")[0] for ligne in sortie.splitlines()}
-
-
-class PrefixeInstalle(unittest.TestCase):
-    """Each test has a prefix of its own, installed at one place and moved to another."""
-
-    composants: tuple[str, ...] = ("runtime", "sdk")
-
-    def setUp(self):
-        dossier = dossier_neuf()
-        self.addCleanup(dossier.cleanup)
-        self.dossier = pathlib.Path(dossier.name)
-        self.env = environnement(self.dossier)
-        provisoire = self.dossier / "provisoire"
-        for composant in self.composants:
-            lance(CMAKE, "--install", CONSTRUCTION, "--prefix", provisoire, "--component", composant,
-                  env=self.env)
-        self.prefixe = self.dossier / "ailleurs" / "vocalyne"
-        self.prefixe.parent.mkdir()
-        provisoire.rename(self.prefixe)
-
-    def elfs(self) -> list[pathlib.Path]:
-        return [c for c in self.prefixe.rglob("*")
-                if c.is_file() and not c.is_symlink() and c.read_bytes()[:4] == b"\x7fELF"]
 
 
 class Disposition(PrefixeInstalle):
@@ -73,7 +48,8 @@ class Disposition(PrefixeInstalle):
                         self.assertRegex(chemin, r"^\$ORIGIN(/|$)")
 
     def test_no_text_names_the_folders_it_was_made_in(self):
-        textes = [c for c in self.prefixe.rglob("*") if c.is_file() and c not in self.elfs()
+        elfs = self.elfs()
+        textes = [c for c in self.prefixe.rglob("*") if c.is_file() and c not in elfs
                   and c.suffix != ".a"]
         self.assertGreater(len(textes), 10)
         for texte in textes:
@@ -81,22 +57,6 @@ class Disposition(PrefixeInstalle):
             for dossier in (SOURCES, CONSTRUCTION, self.dossier / "provisoire"):
                 with self.subTest(texte.name):
                     self.assertNotIn(os.fsencode(dossier), contenu)
-
-    def test_each_public_class_has_a_header_of_its_own_that_stands_alone(self):
-        entetes = sorted((self.prefixe / "include/vocalyne").iterdir())
-        self.assertGreater(len(entetes), 20)
-        (self.dossier / "seuls").mkdir()
-        for entete in entetes:
-            self.assertEqual(entete.suffix, ".h")
-            (self.dossier / "seuls" / (entete.stem + ".cpp")).write_text(f"#include <{entete.name}>\n")
-        (self.dossier / "seuls" / "CMakeLists.txt").write_text(
-            "cmake_minimum_required(VERSION 3.25)\nproject(Seuls LANGUAGES CXX)\n"
-            "find_package(VocalyneConnecteur REQUIRED)\nfile(GLOB fichiers *.cpp)\n"
-            "add_library(seuls OBJECT ${fichiers})\n"
-            "target_link_libraries(seuls PRIVATE Vocalyne::toolkit)\n")
-        lance(CMAKE, "-G", "Ninja", "-S", self.dossier / "seuls", "-B", self.dossier / "objets",
-              f"-DCMAKE_PREFIX_PATH={self.prefixe}", env=self.env)
-        lance(CMAKE, "--build", self.dossier / "objets", env=self.env)
 
 
 class Programmes(PrefixeInstalle):
@@ -151,7 +111,7 @@ class Sdk(PrefixeInstalle):
             shutil.copy(self.prefixe / bibliotheque, autre / "lib")
         construction = self.dossier / "greffon"
         lance(CMAKE, "-G", "Ninja", "-S", SOURCES, "-B", construction, f"-DVOCALYNE_SDK={autre}",
-              "-DCMAKE_BUILD_TYPE=Release", "-DBUILD_TESTING=OFF", env=self.env)
+              "-DBUILD_TESTING=OFF", env=self.env)
         lance(CMAKE, "--build", construction, "--target", "TexteurOOo", env=self.env)
         [greffon] = construction.rglob("libTexteurOOo.so")
         self.assertEqual(symboles_exportes(greffon), symboles_exportes(self.prefixe / GREFFON))
