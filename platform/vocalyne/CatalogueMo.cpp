@@ -15,6 +15,7 @@ constexpr std::size_t kMotNombre = 8;
 constexpr std::size_t kMotIdentificateurs = 12;
 constexpr std::size_t kMotTraductions = 16;
 constexpr std::size_t kMotTailleHachage = 20;
+constexpr std::size_t kMotHachage = 24;
 constexpr std::size_t kTailleEntete = 28;
 constexpr std::size_t kTailleEntree = 8; // of a table: length, then offset
 
@@ -25,6 +26,16 @@ std::uint32_t MotNatif(char const* octets) {
     std::uint32_t mot;
     std::memcpy(&mot, octets, sizeof mot);
     return mot;
+}
+
+bool EstPremier(std::uint32_t nombre) {
+    if (nombre < 2)
+        return false;
+    for (std::uint32_t diviseur = 2; diviseur <= nombre / diviseur; ++diviseur) {
+        if (nombre % diviseur == 0)
+            return false;
+    }
+    return true;
 }
 
 } // namespace
@@ -80,6 +91,26 @@ bool CatalogueMo::EnteteEstSaine(std::uint32_t traductions) const {
     return finPluriel - pluriel <= kLongueurPlurielMax;
 }
 
+/// Boost follows the hash table without looking: each entry must be free or name a message. A
+/// search ends where some entry is free and the size is a prime above 2, since it comes by all
+/// entries then.
+bool CatalogueMo::HachageEstSain() const {
+    std::uint64_t const taille = Mot(kMotTailleHachage);
+    auto const table = Mot(kMotHachage);
+    if (taille < 3 || table + taille * sizeof(std::uint32_t) > octets_.size() ||
+        !EstPremier(static_cast<std::uint32_t>(taille)))
+        return false;
+    auto const nombre = Mot(kMotNombre);
+    bool libre = false;
+    for (std::size_t rang = 0; rang < taille; ++rang) {
+        auto const entree = Mot(table + rang * sizeof(std::uint32_t));
+        if (entree > nombre)
+            return false;
+        libre = libre || entree == 0;
+    }
+    return libre;
+}
+
 std::locale CatalogueMo::FaisLocale() const {
     boost::locale::gnu_gettext::messages_info infos;
     infos.language = "C";
@@ -88,8 +119,9 @@ std::locale CatalogueMo::FaisLocale() const {
     infos.domains.emplace_back("catalogue");
     infos.callback = [this](std::string const&, std::string const&) {
         auto octets = octets_;
-        // Without its hash table Boost makes one of its own, in which a search always ends.
-        std::fill_n(octets.begin() + kMotTailleHachage, sizeof(std::uint32_t), '\0');
+        // Without its hash table Boost converts every message into one of its own: slow, but sure.
+        if (!HachageEstSain())
+            std::fill_n(octets.begin() + kMotTailleHachage, sizeof(std::uint32_t), '\0');
         return octets;
     };
     auto* const messages = boost::locale::gnu_gettext::create_messages_facet<char>(infos);

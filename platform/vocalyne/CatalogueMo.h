@@ -30,6 +30,7 @@ class CatalogueMo {
     std::uint32_t Mot(std::size_t position) const;
     bool TableEstSaine(std::uint32_t position, std::uint32_t nombre) const;
     bool EnteteEstSaine(std::uint32_t traductions) const;
+    bool HachageEstSain() const;
 
     std::vector<char> octets_;
 };
