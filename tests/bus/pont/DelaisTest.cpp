@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MPL-2.0
+// How long calls wait, and that a special time-out is theirs alone.
+#include "AgentDeTest.h"
+#include "BureauDeTest.h"
+#include "BusPrive.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+
+namespace {
+
+using Horloge = std::chrono::steady_clock;
+
+long MillisecondesDepuis(Horloge::time_point depart) {
+    return std::chrono::duration_cast<std::chrono::milliseconds>(Horloge::now() - depart).count();
+}
+
+class BridgeTimeouts : public testing::Test {
+  protected:
+    BusPrive bus;
+    BureauDeTest bureau{{"lettre.txt", "Les chat dort.\n"}};
+    AgentDeTest agent{bureau.Identifiant()};
+};
+
+} // namespace
+
+TEST_F(BridgeTimeouts, DocEstMortGivesASilentCompanion1500MillisecondsAndReadsAlive) {
+    bureau.DonneCommande().Deregle("DocEstMort", "muet");
+    auto const depart = Horloge::now();
+    EXPECT_FALSE(agent.DocEstMort());
+    // QtDBus keeps the time with a coarse timer, which may fire a twentieth early.
+    EXPECT_GE(MillisecondesDepuis(depart), 1400);
+    EXPECT_LT(MillisecondesDepuis(depart), 15000);
+    EXPECT_EQ(agent.DonneProxy()->timeout(), -1);
+}
+
+TEST_F(BridgeTimeouts, AnEarlierTimeoutIsBackAfterASuccessAndAnErrorAndATimeout) {
+    agent.DonneProxy()->setTimeout(12345);
+    EXPECT_TRUE(agent.Initialise());
+    EXPECT_EQ(agent.DonneProxy()->timeout(), 12345);
+    bureau.DonneCommande().Deregle("*", "erreur", "true");
+    EXPECT_FALSE(agent.Initialise());
+    EXPECT_FALSE(agent.DocEstMort());
+    EXPECT_EQ(agent.DonneProxy()->timeout(), 12345);
+    bureau.DonneCommande().Deregle("*", "muet");
+    EXPECT_FALSE(agent.DocEstMort());
+    EXPECT_EQ(agent.DonneProxy()->timeout(), 12345);
+}
+
+TEST_F(BridgeTimeouts, AWaitedCallEndsAtTheProxysOwnTimeout) {
+    bureau.DonneCommande().Deregle("DonneTitreDocument", "muet");
+    agent.DonneProxy()->setTimeout(300);
+    EXPECT_EQ(S(agent.DonneTitreDocument()), "");
+    agent.DonneProxy()->setTimeout(-1);
+    bureau.DonneCommande().Retablis();
+    EXPECT_EQ(S(agent.DonneTitreDocument()), "");
+    EXPECT_TRUE(agent.Initialise());
+    EXPECT_EQ(S(agent.DonneTitreDocument()), "lettre.txt");
+}
+
+TEST_F(BridgeTimeouts, AFrozenBusHoldsDocEstMortNoLongerThanItsTimeout) {
+    ASSERT_TRUE(agent.Initialise());
+    bus.Fige();
+    EXPECT_FALSE(agent.DocEstMort());
+    bus.Degele();
+    EXPECT_EQ(S(agent.DonneTitreDocument()), "lettre.txt");
+}
