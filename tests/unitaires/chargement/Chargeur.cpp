@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MPL-2.0
 // A host reduced to loading and unloading: `chargeur PLUGIN [WORD...]` does what the words say, in
 // order, and tells on standard output what it saw.
-//   application | console   make a QApplication, a QCoreApplication, before anything else
-//   charge | decharge       dlopen, dlclose
-//   cent                    load and unload a hundred times
-//   langue1 | langue2       fix the display language anew
-//   ressources              do the catalogs' paths resolve, how are they stored, what do they hold
-//   noms                    the application's identity
-//   sors                    end the process with the plug-in still loaded
+//   `application` | `console`  make a QApplication, a QCoreApplication, before anything else
+//   `charge` | `decharge`  dlopen, dlclose
+//   `cent`  load and unload a hundred times
+//   `langue1` | `langue2`  fix the display language anew
+//   `ressources`  do the catalogs' paths resolve, how are they stored, what do they hold
+//   `noms`  the application's identity
+//   `sors`  end the process with the plug-in still loaded
 #include "InitialisationGenerale.h"
 
 #include <QApplication>
