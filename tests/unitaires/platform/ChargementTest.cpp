@@ -16,7 +16,8 @@ TEST(Loading, AConnectorComesAndGoesAHundredTimesInAHostWithoutQt) {
     EXPECT_TRUE(enfant.termineSeul) << enfant.erreurs.toStdString();
     EXPECT_EQ(0, enfant.code) << enfant.erreurs.toStdString();
     EXPECT_EQ(QStringLiteral("100"), enfant["charges"]);
-    EXPECT_EQ(QStringLiteral("0"), enfant["restes"]); // it was truly unloaded each time
+    EXPECT_EQ(QStringLiteral("0"), enfant["restes"]);    // it was truly unloaded each time
+    EXPECT_EQ(QStringLiteral("restee"), enfant["hote"]); // and Qt with it
     EXPECT_EQ(QStringLiteral("atteinte"), enfant["fin"]);
 }
 

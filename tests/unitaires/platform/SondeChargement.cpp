@@ -23,5 +23,8 @@ int main(int nombre, char** arguments) {
             dlclose(reste);
         }
     }
-    std::cout << "charges=" << charges << "\nrestes=" << restes << "\nfin=atteinte" << std::endl;
+    // By its name alone: found only where it is still mapped.
+    void* const hote = dlopen("libOutilsVocalyne.so", RTLD_NOW | RTLD_NOLOAD);
+    std::cout << "hote=" << (hote != nullptr ? "restee" : "partie") << "\ncharges=" << charges
+              << "\nrestes=" << restes << "\nfin=atteinte" << std::endl;
 }
