@@ -5,7 +5,6 @@ import unittest
 
 import uno
 from com.sun.star.lang import Locale
-from com.sun.star.style.BreakType import PAGE_BEFORE
 
 import banc
 from ecrivain import Ecrivain
