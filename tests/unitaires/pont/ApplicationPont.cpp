@@ -12,10 +12,15 @@ DomaineDeTraduction* domaineTexteur = nullptr;
 
 namespace {
 
-/// The Qt application object, from the first test to the last.
+/// The Qt application object, from the first test to the last, and no bus: neither an address,
+/// unless the tests are given one of their own, nor a place where one would be looked for.
 class ApplicationPont : public testing::Environment {
   public:
     void SetUp() override {
+        for (auto const* nom : {"DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR", "DISPLAY"})
+            qunsetenv(nom);
+        if (auto const adresse = qgetenv("VOCALYNE_BUS_ESSAI"); !adresse.isEmpty())
+            qputenv("DBUS_SESSION_BUS_ADDRESS", adresse);
         static char nom[] = "essai";
         static char* arguments[] = {nom, nullptr};
         static int nombre = 1;
