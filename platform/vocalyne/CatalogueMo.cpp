@@ -3,8 +3,6 @@
 
 #include <QFile>
 
-#include <boost/locale/gnu_gettext.hpp>
-
 #include <algorithm>
 #include <cstring>
 
@@ -14,7 +12,6 @@ namespace {
 constexpr std::size_t kMotNombre = 8;
 constexpr std::size_t kMotIdentificateurs = 12;
 constexpr std::size_t kMotTraductions = 16;
-constexpr std::size_t kMotTailleHachage = 20;
 constexpr std::size_t kMotHachage = 24;
 constexpr std::size_t kTailleEntete = 28;
 constexpr std::size_t kTailleEntree = 8; // of a table: length, then offset
@@ -43,7 +40,7 @@ bool EstPremier(std::uint32_t nombre) {
 CatalogueMo CatalogueMo::DepuisRessource(std::string const& chemin) {
     QFile fichier(QString::fromStdString(chemin));
     if (!fichier.open(QIODevice::ReadOnly))
-        return CatalogueMo({});
+        return {};
     auto const octets = fichier.readAll();
     return CatalogueMo(std::vector<char>(octets.cbegin(), octets.cend()));
 }
@@ -109,22 +106,4 @@ bool CatalogueMo::HachageEstSain() const {
         libre = libre || entree == 0;
     }
     return libre;
-}
-
-std::locale CatalogueMo::FaisLocale() const {
-    boost::locale::gnu_gettext::messages_info infos;
-    infos.language = "C";
-    infos.encoding = "UTF-8";
-    infos.paths.emplace_back();
-    infos.domains.emplace_back("catalogue");
-    infos.callback = [this](std::string const&, std::string const&) {
-        auto octets = octets_;
-        // Without its hash table Boost converts every message into one of its own: slow, but sure.
-        if (!HachageEstSain())
-            std::fill_n(octets.begin() + kMotTailleHachage, sizeof(std::uint32_t), '\0');
-        return octets;
-    };
-    auto* const messages = boost::locale::gnu_gettext::create_messages_facet<char>(infos);
-    return messages != nullptr ? std::locale(std::locale::classic(), messages)
-                               : std::locale::classic();
 }

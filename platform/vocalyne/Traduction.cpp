@@ -5,22 +5,24 @@
 #include "ChargeursDeTraduction.h"
 #include "CopieDurable.h"
 #include "InitialisationGenerale.h"
+#include "MoteurTraduction.h"
 #include "RechargeDomaines.h"
 
-#include <boost/locale/message.hpp>
-
 #include <algorithm>
-#include <exception>
 #include <map>
 #include <memory>
+#include <mutex>
 #include <utility>
 
 namespace {
 
-/// A domain and the locale that its pair points to.
+/// A domain and the locale that its pair points to. A catalog that was taken waits here until the
+/// first message is asked for.
 struct Domaine {
     std::locale locale = std::locale::classic();
     DomaineDeTraduction paire{&locale, UniChaine()};
+    CatalogueMo enAttente;
+    UniChaine cheminPrecedent; ///< of the catalog that serves until then
 };
 
 /// What lives until the process ends: libraries may translate while they are being unloaded, after
@@ -28,6 +30,7 @@ struct Domaine {
 struct Registre {
     ChargeursDeTraduction chargeurs;
     std::map<DomaineDeTraduction**, std::unique_ptr<Domaine>> domaines; ///< by their slot
+    std::mutex verrou; ///< messages may be asked for on any thread, and the first one builds
 };
 
 Registre& DonneRegistre() {
@@ -50,6 +53,20 @@ Domaine& DonneDomaine(DomaineDeTraduction** emplacement) {
     return *domaine;
 }
 
+/// Puts the catalog that waits in the domain to use. One that turns out to be of no use leaves the
+/// domain as it was.
+void PrepareDomaine(DomaineDeTraduction const* paire) {
+    auto& registre = DonneRegistre();
+    std::lock_guard<std::mutex> const garde(registre.verrou);
+    for (auto& [emplacement, domaine] : registre.domaines) {
+        if (&domaine->paire != paire || domaine->enAttente.EstVide())
+            continue;
+        if (!moteurTraduction::FaisLocale(domaine->enAttente, domaine->locale))
+            domaine->paire.second = domaine->cheminPrecedent;
+        domaine->enAttente = CatalogueMo();
+    }
+}
+
 } // namespace
 
 void AjouterAuxDomainesDeTraduction(std::function<void()> chargeur) {
@@ -67,28 +84,27 @@ void InitLocaleAvecQRC(DomaineDeTraduction** domaine, UniChaine const& chemin, e
     auto& cible = DonneDomaine(domaine);
     if (!quelleQueSoitLaLangue && langue != InitialisationGenerale::DonneLangue())
         return;
-    auto const catalogue = CatalogueMo::DepuisRessource(chemin.VersUtf8());
+    auto catalogue = CatalogueMo::DepuisRessource(chemin.VersUtf8());
     if (!catalogue.EstSain())
         return;
-    try {
-        cible.locale = catalogue.FaisLocale();
-        cible.paire.second = UniChaine(CopieDurable(chemin.VersQString()));
-    } catch (std::exception const&) {
-        // Sound as a file, but in an encoding or with a plural rule that Boost does not know.
-    }
+    std::lock_guard<std::mutex> const garde(DonneRegistre().verrou);
+    if (cible.enAttente.EstVide())
+        cible.cheminPrecedent = cible.paire.second;
+    cible.enAttente = std::move(catalogue);
+    cible.paire.second = UniChaine(CopieDurable(chemin.VersQString()));
 }
 
 // The name is the host library's own, reserved or not.
 // NOLINTNEXTLINE(bugprone-reserved-identifier)
 UniChaine _Tr(DomaineDeTraduction* domaine, char const* message, char const* contexte) {
-    using Messages = boost::locale::message_format<char>;
     // The empty message is the key of the catalog's description of itself: not for showing.
     if (message == nullptr || *message == '\0')
         return {};
     char const* traduction = nullptr;
-    if (domaine != nullptr && domaine->first != nullptr &&
-        std::has_facet<Messages>(*domaine->first))
-        traduction = std::use_facet<Messages>(*domaine->first).get(0, contexte, message);
+    if (domaine != nullptr && domaine->first != nullptr) {
+        PrepareDomaine(domaine);
+        traduction = moteurTraduction::Traduis(*domaine->first, contexte, message);
+    }
     bool const estTraduit = traduction != nullptr && *traduction != '\0';
     return UniChaine(estTraduit ? traduction : message, UniChaine::kCodageUtf8);
 }
