@@ -9,14 +9,15 @@ namespace {
 
 constexpr char kVariable[] = "DBUS_SESSION_BUS_ADDRESS";
 
-// The limits are those of the stock session bus: without them one message could have 32 MiB only.
+// An abstract socket is reached from another file-system root too (32-bit programs in theirs). The
+// limits are those of the stock session bus: without them one message could have 32 MiB only.
 std::string Reglages(std::string const& dossier) {
     return R"(<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-BUS Bus Configuration 1.0//EN"
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
 <busconfig>
   <type>session</type>
-  <listen>unix:tmpdir=)" +
-           dossier + R"(</listen>
+  <listen>unix:abstract=)" +
+           dossier + R"(/bus</listen>
   <auth>EXTERNAL</auth>
   <policy context="default">
     <allow send_destination="*" eavesdrop="true"/>
