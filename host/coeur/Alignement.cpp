@@ -30,18 +30,30 @@ std::optional<int> Alignement::Retrouve(int debut, int fin) const {
     auto const premier =
         std::upper_bound(anciens_.begin(), anciens_.end(), gauche,
                          [](int position, Morceau const& m) { return position < m.fin; });
-    std::optional<int> place;
-    int attendu = -1;
-    for (auto m = premier; m != anciens_.end() && m->debut < droite; ++m) {
-        if (m->correspondant < 0 || (attendu >= 0 && m->correspondant != attendu))
+    auto dernier = premier;
+    for (; dernier != anciens_.end() && dernier->debut < droite; ++dernier) {
+        int const attendu = premier->correspondant + static_cast<int>(dernier - premier);
+        if (dernier->correspondant < 0 || dernier->correspondant != attendu)
             return std::nullopt;
-        if (!place)
-            place = nouveaux_[m->correspondant].debut + debut - m->debut;
-        attendu = m->correspondant + 1;
     }
-    if (!place && anciens_.empty() && nouveaux_.empty())
-        return 0;
-    return place;
+    if (dernier == premier)
+        return anciens_.empty() && nouveaux_.empty() ? std::optional<int>(0) : std::nullopt;
+    auto const rang = static_cast<std::size_t>(premier - anciens_.begin());
+    auto const rangDernier = static_cast<std::size_t>(dernier - anciens_.begin()) - 1;
+    if (!EstAppuye(rang, rangDernier))
+        return std::nullopt;
+    return nouveaux_[premier->correspondant].debut + debut - premier->debut;
+}
+
+bool Alignement::EstAppuye(std::size_t premier, std::size_t dernier) const {
+    // Both versions' ends are neighbours too.
+    int const avant = premier > 0 ? anciens_[premier - 1].correspondant : -1;
+    bool const avantConnu = premier == 0 || avant >= 0;
+    bool const finAncienne = dernier + 1 == anciens_.size();
+    int const apres =
+        finAncienne ? static_cast<int>(nouveaux_.size()) : anciens_[dernier + 1].correspondant;
+    return (avantConnu && anciens_[premier].correspondant == avant + 1) ||
+           apres == anciens_[dernier].correspondant + 1;
 }
 
 int Alignement::RetrouveAvant(int position) const {

@@ -18,7 +18,8 @@ class Alignement {
     Alignement(QString const& ancien, QString const& nouveau);
 
     /// Where [debut, fin) of the old version begins in the new one: when everything in it has a
-    /// counterpart there, in one piece. Of an empty range, the neighbours must have one.
+    /// counterpart there, in one piece with that of a neighbour (a lone word could be another one
+    /// that is spelt alike). Of an empty range, both neighbours must have one.
     std::optional<int> Retrouve(int debut, int fin) const;
 
     /// The place in the new version just behind the last thing before `position` that has a
@@ -33,6 +34,7 @@ class Alignement {
     };
     using Morceaux = std::vector<Morceau>;
 
+    bool EstAppuye(std::size_t premier, std::size_t dernier) const;
     static Morceaux Decoupe(QString const& texte);
     void Apparie(QString const& ancien, QString const& nouveau);
     void ApparieMilieu(QString const& ancien, QString const& nouveau, int debut, int finAncien,

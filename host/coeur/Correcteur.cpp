@@ -49,7 +49,7 @@ void Correcteur::Parcours() {
     Curseur curseur{0, 0};
     bilan_.zones = document_.DonneNombre();
     while (!bilan_.interrompu && curseur.zone < document_.DonneNombre()) {
-        interlocuteur_.ApprendsProgres(curseur.zone, document_.DonneNombre());
+        AnnonceProgres(curseur.zone);
         curseur = TraiteZone(curseur);
     }
     CompteLeReste(curseur);
@@ -66,6 +66,7 @@ Correcteur::Curseur Correcteur::TraiteZone(Curseur depart) {
     int const zone = depart.zone;
     auto const fautes =
         orthographe_.Cherche(document_.DonneTextes()[zone], document_.DonnePlages(zone));
+    bool const apostropheCourbe = Orthographe::AUneApostropheCourbe(document_.DonneTextes()[zone]);
     int decalage = 0; // of what lies behind the corrections made here
     for (Faute const& faute : fautes) {
         if (faute.debut < depart.position)
@@ -74,10 +75,11 @@ Correcteur::Curseur Correcteur::TraiteZone(Curseur depart) {
         std::size_t const rang = Note(zone, faute, place);
         if (ignores_.contains(DonneForme(faute.mot)))
             continue;
-        QString const& texte = document_.DonneTextes()[zone];
-        bilan_.fautes[rang].suggestions = orthographe_.Suggere(texte, place);
-        Decision const decision = interlocuteur_.Decide(
-            {zone, document_.DonneNombre(), texte, place, bilan_.fautes[rang].suggestions});
+        bilan_.fautes[rang].suggestions = orthographe_.Suggere(place, apostropheCourbe);
+        AnnonceProgres(zone);
+        Decision const decision =
+            interlocuteur_.Decide({zone, document_.DonneNombre(), document_.DonneTextes()[zone],
+                                   place, bilan_.fautes[rang].suggestions});
         if (decision.genre == Decision::Genre::Quitte) {
             bilan_.interrompu = true;
             return {zone, place.fin};
@@ -98,13 +100,18 @@ Correcteur::Curseur Correcteur::TraiteZone(Curseur depart) {
 
 void Correcteur::CompteLeReste(Curseur depart) {
     for (; depart.zone < document_.DonneNombre(); depart = {depart.zone + 1, 0}) {
-        interlocuteur_.ApprendsProgres(depart.zone, document_.DonneNombre());
+        AnnonceProgres(depart.zone);
         QString const& texte = document_.DonneTextes()[depart.zone];
         for (Faute const& faute : orthographe_.Cherche(texte, document_.DonnePlages(depart.zone))) {
             if (faute.debut >= depart.position)
                 Note(depart.zone, faute, faute);
         }
     }
+}
+
+void Correcteur::AnnonceProgres(int zone) {
+    interlocuteur_.ApprendsProgres(zone, document_.DonneNombre(),
+                                   static_cast<int>(bilan_.fautes.size()));
 }
 
 std::size_t Correcteur::Note(int zone, Faute const& faute, Faute const& place) {
@@ -160,7 +167,7 @@ bool Correcteur::Envoie(std::size_t rang, int zone, Faute const& place,
     if (!document_.PeutCorriger(zone, place.debut, place.fin, place.mot))
         return false;
     document_.Corrige(zone, place.debut, place.fin, remplacement, automatique_);
-    envois_.Ajoute(rang, zone, place.debut, place.debut + remplacement.size());
+    envois_.Ajoute(rang, zone, {place.debut, place.debut + remplacement.size(), place.mot});
     relectures_.ApprendsSucces();
     return true;
 }

@@ -42,6 +42,7 @@ class Correcteur {
     void Parcours();
     Curseur TraiteZone(Curseur depart);
     void CompteLeReste(Curseur depart);
+    void AnnonceProgres(int zone);
     std::size_t Note(int zone, Faute const& faute, Faute const& place);
     Issue Applique(std::size_t rang, int zone, Faute const& place, QString const& remplacement);
     Issue AppliqueAilleurs(std::size_t rang, int zone, Faute const& place,

@@ -7,27 +7,35 @@ namespace hote {
 
 void Envois::Verifie(Recalage const& recalage, std::vector<QString> const& anciens,
                      std::vector<QString> const& nouveaux, Bilan& bilan) {
-    for (std::size_t i = 0; i < envois_.size();) {
-        int const zone = envois_[i].zone;
-        auto const nouvelle = recalage.Retrouve(zone);
-        bool const pareille = nouvelle && anciens[zone] == nouveaux[*nouvelle];
-        std::optional<Alignement> alignement;
-        if (nouvelle && !pareille)
-            alignement.emplace(anciens[zone], nouveaux[*nouvelle]);
-        for (; i < envois_.size() && envois_[i].zone == zone; ++i) {
-            Envoi const& envoi = envois_[i];
-            bool const montree =
-                pareille || (alignement && alignement->Retrouve(envoi.debut, envoi.fin));
-            bilan.fautes[envoi.rang].etat = montree ? EtatFaute::Corrigee : EtatFaute::Refusee;
-        }
+    for (auto const& [rang, zone] : zones_) {
+        auto const nouveau = recalage.Retrouve(rang);
+        auto const faits = nouveau ? DonneFaits(zone, anciens[rang], nouveaux[*nouveau])
+                                   : std::vector<bool>(zone.rangs.size(), false);
+        for (std::size_t i = 0; i < faits.size(); ++i)
+            bilan.fautes[zone.rangs[i]].etat = faits[i] ? EtatFaute::Corrigee : EtatFaute::Refusee;
     }
-    envois_.clear();
+    zones_.clear();
 }
 
 void Envois::Abandonne(Bilan& bilan) {
-    for (Envoi const& envoi : envois_)
-        bilan.fautes[envoi.rang].etat = EtatFaute::NonVerifiee;
-    envois_.clear();
+    for (auto const& [rang, zone] : zones_) {
+        for (std::size_t faute : zone.rangs)
+            bilan.fautes[faute].etat = EtatFaute::NonVerifiee;
+    }
+    zones_.clear();
+}
+
+std::vector<bool> Envois::DonneFaits(Zone const& zone, QString const& cru, QString const& reel) {
+    if (cru == reel)
+        return std::vector<bool>(zone.rangs.size(), true);
+    if (auto const faits = Explique(cru, zone.remplacements, reel))
+        return *faits;
+    // Somebody wrote in it meanwhile.
+    std::vector<bool> faits;
+    Alignement const alignement(cru, reel);
+    for (Remplacement const& r : zone.remplacements)
+        faits.push_back(alignement.Retrouve(r.debut, r.fin).has_value());
+    return faits;
 }
 
 } // namespace hote

@@ -2,8 +2,10 @@
 #pragma once
 
 #include "Bilan.h"
+#include "Explication.h"
 #include "Recalage.h"
 
+#include <map>
 #include <vector>
 
 namespace hote {
@@ -12,13 +14,15 @@ namespace hote {
 /// document, read again, shows whether it was made.
 class Envois {
   public:
-    /// A correction: `rang` is its mistake's in the result, [debut, fin) its text's place in the
-    /// zone as we believe it to be now. Within a zone, later ones stand behind earlier ones.
-    void Ajoute(std::size_t rang, int zone, int debut, int fin) {
-        envois_.push_back({rang, zone, debut, fin});
+    /// A correction: `rang` is its mistake's in the result; `remplacement` stands in the zone's
+    /// text as we believe it to be now, behind all those before it in that zone.
+    void Ajoute(std::size_t rang, int zone, Remplacement remplacement) {
+        Zone& z = zones_[zone];
+        z.rangs.push_back(rang);
+        z.remplacements.push_back(std::move(remplacement));
     }
 
-    bool EstVide() const noexcept { return envois_.empty(); }
+    bool EstVide() const noexcept { return zones_.empty(); }
 
     /// Settles all of them against the document read again, and forgets them: `anciens` is what we
     /// believed, `nouveaux` what it holds.
@@ -29,13 +33,13 @@ class Envois {
     void Abandonne(Bilan& bilan);
 
   private:
-    struct Envoi {
-        std::size_t rang;
-        int zone;
-        int debut;
-        int fin;
+    struct Zone {
+        std::vector<std::size_t> rangs;
+        std::vector<Remplacement> remplacements;
     };
-    std::vector<Envoi> envois_;
+    static std::vector<bool> DonneFaits(Zone const& zone, QString const& cru, QString const& reel);
+
+    std::map<int, Zone> zones_;
 };
 
 } // namespace hote

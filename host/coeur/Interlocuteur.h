@@ -33,8 +33,8 @@ class Interlocuteur {
     virtual Decision Decide(Question const& question) = 0;
     /// The correction just decided was sent, or refused.
     virtual void ApprendsIssue(FauteTraitee const& faute, bool envoyee) = 0;
-    /// The work has reached a zone.
-    virtual void ApprendsProgres(int zone, int nombreZones) = 0;
+    /// The work has reached a zone, after so many mistakes.
+    virtual void ApprendsProgres(int zone, int nombreZones, int nombreFautes) = 0;
 };
 
 } // namespace hote

@@ -4,6 +4,8 @@
 #include "ErreurHote.h"
 #include "Messages.h"
 
+#include <sys/auxv.h>
+
 #include <cstdlib>
 #include <filesystem>
 
@@ -15,11 +17,13 @@ namespace fs = std::filesystem;
 
 constexpr char const* kNomGreffon = "libTexteurOOo.so";
 
-/// The program's own folder, through symbolic links; empty when the system does not tell.
+/// The program's own folder, through symbolic links.
 fs::path DonneDossierProgramme() {
     std::error_code erreur;
-    fs::path const programme = fs::read_symlink("/proc/self/exe", erreur);
-    return erreur ? fs::path() : programme.parent_path();
+    fs::path programme = fs::read_symlink("/proc/self/exe", erreur);
+    if (erreur) // a root without /proc
+        programme = fs::weakly_canonical(reinterpret_cast<char const*>(getauxval(AT_EXECFN)));
+    return programme.parent_path();
 }
 
 } // namespace

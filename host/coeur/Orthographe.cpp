@@ -57,13 +57,17 @@ std::vector<Faute> Orthographe::Cherche(QString const& texte, Plages const& plag
     return fautes;
 }
 
-QStringList Orthographe::Suggere(QString const& texte, Faute const& faute) const {
+QStringList Orthographe::Suggere(Faute const& faute, bool apostropheCourbe) const {
     QStringList suggestions = lexique_.Suggere(DonneForme(faute.mot));
-    if (texte.contains(QChar(kApostropheCourbe)))
+    if (apostropheCourbe)
         suggestions.replaceInStrings(QStringLiteral("'"), QString(QChar(kApostropheCourbe)));
     suggestions.removeDuplicates();
     suggestions.removeAll(faute.mot);
     return suggestions;
+}
+
+bool Orthographe::AUneApostropheCourbe(QString const& texte) {
+    return texte.contains(QChar(kApostropheCourbe));
 }
 
 void Orthographe::Juge(QString const& texte, int debut, int fin, std::vector<Faute>& fautes) const {

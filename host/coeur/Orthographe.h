@@ -33,9 +33,12 @@ class Orthographe {
     /// reported where the parts can stand alone.
     std::vector<Faute> Cherche(QString const& texte, Plages const& plages) const;
 
-    /// What may stand in the place of a mistake of `texte`, best first, with the apostrophe that
-    /// the text itself uses.
-    QStringList Suggere(QString const& texte, Faute const& faute) const;
+    /// What may stand in the place of a mistake, best first; with the typographic apostrophe
+    /// (U+2019) where `apostropheCourbe`, as its text has it, else with the typewriter's.
+    QStringList Suggere(Faute const& faute, bool apostropheCourbe) const;
+
+    /// Does a text use the typographic apostrophe?
+    static bool AUneApostropheCourbe(QString const& texte);
 
   private:
     void Juge(QString const& texte, int debut, int fin, std::vector<Faute>& fautes) const;

@@ -19,8 +19,9 @@ void InterlocuteurRegle::ApprendsIssue(FauteTraitee const& faute, bool envoyee) 
     Ecris(presentation_.Issue(faute, envoyee));
 }
 
-void InterlocuteurRegle::ApprendsProgres(int zone, int nombreZones) {
-    progression_.Montre([&] { return Tr("Zone {1} sur {2}", zone + 1, nombreZones); });
+void InterlocuteurRegle::ApprendsProgres(int zone, int nombreZones, int nombreFautes) {
+    progression_.Montre(
+        [&] { return Tr("Zone {1} sur {2}, fautes : {3}", zone + 1, nombreZones, nombreFautes); });
 }
 
 void InterlocuteurRegle::Ecris(std::string const& texte) {

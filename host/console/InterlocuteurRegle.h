@@ -21,7 +21,7 @@ class InterlocuteurRegle : public Interlocuteur {
 
     Decision Decide(Question const& question) override;
     void ApprendsIssue(FauteTraitee const& faute, bool envoyee) override;
-    void ApprendsProgres(int zone, int nombreZones) override;
+    void ApprendsProgres(int zone, int nombreZones, int nombreFautes) override;
 
   private:
     void Ecris(std::string const& texte);

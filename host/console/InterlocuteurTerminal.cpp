@@ -27,8 +27,9 @@ void InterlocuteurTerminal::ApprendsIssue(FauteTraitee const& faute, bool envoye
     sortie_.Ecris(presentation_.Issue(faute, envoyee));
 }
 
-void InterlocuteurTerminal::ApprendsProgres(int zone, int nombreZones) {
-    progression_.Montre([&] { return Tr("Zone {1} sur {2}", zone + 1, nombreZones); });
+void InterlocuteurTerminal::ApprendsProgres(int zone, int nombreZones, int nombreFautes) {
+    progression_.Montre(
+        [&] { return Tr("Zone {1} sur {2}, fautes : {3}", zone + 1, nombreZones, nombreFautes); });
 }
 
 std::optional<QString> InterlocuteurTerminal::Demande(std::string const& invite) {
@@ -63,7 +64,8 @@ std::optional<Decision> InterlocuteurTerminal::DemandeTexte() {
     auto const texte = Demande(Tr("remplacer par (rien pour renoncer)"));
     if (!texte)
         return Decision{Decision::Genre::Quitte, {}};
-    if (texte->trimmed().isEmpty())
+    // What did not decode must not go into the document either.
+    if (texte->trimmed().isEmpty() || texte->contains(QChar::ReplacementCharacter))
         return std::nullopt;
     return Decision{Decision::Genre::Corrige, texte->trimmed()};
 }

@@ -25,7 +25,7 @@ class InterlocuteurTerminal : public Interlocuteur {
 
     Decision Decide(Question const& question) override;
     void ApprendsIssue(FauteTraitee const& faute, bool envoyee) override;
-    void ApprendsProgres(int zone, int nombreZones) override;
+    void ApprendsProgres(int zone, int nombreZones, int nombreFautes) override;
 
   private:
     std::optional<QString> Demande(std::string const& invite);

@@ -53,7 +53,7 @@ class Terminal:
         return bool(octets)
 
     def tape(self, texte: str):
-        os.write(self.maitre, texte.encode())
+        os.write(self.maitre, texte.encode(errors="surrogateescape"))
 
     def finis(self) -> tuple[int, str]:
         while self._lis():
@@ -105,6 +105,11 @@ class SurUnTerminal(Corrige):
     def test_giving_up_ones_own_text_puts_the_question_again(self):
         self.joue(["la maisso noir"])
         self.reponds("r", "", "1")
+        self.assertEqual(self.zones(), ["la maison noir"])
+
+    def test_a_text_that_does_not_decode_goes_into_no_document(self):
+        self.joue(["la maisso noir"])
+        self.reponds("r", "\udce9cole", "1")
         self.assertEqual(self.zones(), ["la maison noir"])
 
     def test_a_mistake_without_suggestions_can_be_replaced(self):

@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
+#include <random>
+
 using hote::DecoupeEnMots;
 using hote::DonneForme;
 
@@ -121,6 +124,28 @@ TEST(Decoupeur, LettersOutsideTheBasicPlaneAreNotSplit) {
 TEST(Decoupeur, ALoneSurrogatePartsWords) {
     EXPECT_EQ(Mots(S("mot") + QChar(0xD83D) + S("fin") + QChar(0xDE00)), "mot|fin");
     EXPECT_EQ(Mots(QString(QChar(0xD83D))), "");
+}
+
+TEST(Decoupeur, WordsOfAnyTextAreWholeAndInOrder) {
+    static char16_t const unites[] =
+        u"aéZ'’-\u2011 \t.@/_\u00ad\u0301\u0007\u200d7·\U0001f600\U0001d400中";
+    std::mt19937 hasard(5);
+    for (int essai = 0; essai < 20000; ++essai) {
+        QString texte;
+        for (auto i = hasard() % 30; i > 0; --i)
+            texte += QChar(unites[hasard() % (std::size(unites) - 1)]); // pairs come apart, too
+        int fin = 0;
+        for (hote::Mot const& mot : DecoupeEnMots(texte)) {
+            ASSERT_LE(fin, mot.debut);
+            ASSERT_LT(mot.debut, mot.fin);
+            ASSERT_LE(mot.fin, texte.size());
+            fin = mot.fin;
+            ASSERT_FALSE(texte.at(mot.debut).isLowSurrogate());
+            ASSERT_FALSE(texte.at(mot.fin - 1).isHighSurrogate());
+            ASSERT_FALSE(texte.at(mot.debut).isMark());
+            ASSERT_FALSE(mot.fin < texte.size() && texte.at(mot.fin).isMark());
+        }
+    }
 }
 
 TEST(Decoupeur, TheFormAskedForIsComposedWithPlainSigns) {

@@ -77,13 +77,15 @@ TEST_F(OrthographeFrancaise, SuggestionsTakeTheApostropheOfTheText) {
     lexique_.suggestions[S("lecole")] = QStringList{S("l'école"), S("lécole")};
     Orthographe const orthographe(lexique_);
     Faute const faute{0, 6, S("lecole")};
-    EXPECT_EQ(orthographe.Suggere(S("lecole d'été"), faute).first(), S("l'école"));
-    EXPECT_EQ(orthographe.Suggere(S("lecole d’été"), faute).first(), S("l’école"));
+    EXPECT_EQ(orthographe.Suggere(faute, false).first(), S("l'école"));
+    EXPECT_EQ(orthographe.Suggere(faute, true).first(), S("l’école"));
+    EXPECT_TRUE(Orthographe::AUneApostropheCourbe(S("lecole d’été")));
+    EXPECT_FALSE(Orthographe::AUneApostropheCourbe(S("lecole d'été")));
 }
 
 TEST_F(OrthographeFrancaise, TheMistakeItselfIsNoSuggestion) {
     lexique_.suggestions[S("chta")] = QStringList{S("chta"), S("chat"), S("chat")};
-    EXPECT_EQ(Orthographe(lexique_).Suggere(S("chta"), {0, 4, S("chta")}), QStringList{S("chat")});
+    EXPECT_EQ(Orthographe(lexique_).Suggere({0, 4, S("chta")}, false), QStringList{S("chat")});
 }
 
 TEST_F(OrthographeAnglaise, APossessiveIsJudgedByItsOwner) {
