@@ -1,58 +1,11 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Emplacement.h"
-#include "InterfaceZoneDeTexte.h"
+#include "ZoneDeTexteOOoProxy.h"
+#include "ZoneEspion.h"
 
 #include <gtest/gtest.h>
 
-#include <string>
-
 namespace {
-
-/// A zone whose every operation leaves its name and arguments.
-class ZoneEspion : public InterfaceZoneDeTexte {
-  public:
-    std::string nom;
-
-    bool AccepteIntervalles(int a, int b, int c, int d) override {
-        nom = "AccepteIntervalles" + Liste({a, b, c, d});
-        return true;
-    }
-    bool CorrigeDansTexteur(int debut, int fin, UniChaine const& texte, bool drapeau) override {
-        nom = "CorrigeDansTexteur" + Liste({debut, fin, texte.Longueur(), drapeau ? 1 : 0});
-        return true;
-    }
-    int DonneDebutSelection() override { return 31; }
-    int DonneFinSelection() override { return 41; }
-    UniChaine DonneChaineAuxiliaire() override { return {"aux", UniChaine::kCodageLitteral}; }
-    TexteAvecAttributs DonneTexte() override {
-        TexteAvecAttributs texte(sdd::ChaineN(6, u'x'));
-        texte.MetsAttribut(1, 2, 3);
-        return texte;
-    }
-    int DonneLongueur() override { return 71; }
-    bool PeutCorriger(int debut, int fin, UniChaine const& texte) override {
-        nom = "PeutCorriger" + Liste({debut, fin, texte.Longueur()});
-        return true;
-    }
-    void AjusteIntervalle(int debut, int fin, int* debutAjuste, int* finAjustee,
-                          bool drapeau) override {
-        *debutAjuste = debut + 1;
-        *finAjustee = fin + 1;
-        nom = "AjusteIntervalle" + Liste({drapeau ? 1 : 0});
-    }
-    bool SelectionneIntervalle(int debut, int fin) override {
-        nom = "SelectionneIntervalle" + Liste({debut, fin});
-        return true;
-    }
-
-  private:
-    static std::string Liste(std::initializer_list<int> valeurs) {
-        std::string texte;
-        for (int const valeur : valeurs)
-            texte += " " + std::to_string(valeur);
-        return texte;
-    }
-};
 
 TEST(ZoneSlots, EachNumberReachesItsOperationWithItsArguments) {
     ZoneEspion espion;
@@ -78,7 +31,28 @@ TEST(ZoneSlots, EachNumberReachesItsOperationWithItsArguments) {
     EXPECT_EQ(31, fin);
     EXPECT_TRUE(AppelleEmplacement<bool>(objet, 11, 9, 10));
     EXPECT_EQ("SelectionneIntervalle 9 10", espion.nom);
-    EXPECT_FALSE(AppelleEmplacement<bool>(objet, 12)) << "no zone is marked by default";
+    EXPECT_TRUE(AppelleEmplacement<bool>(objet, 12));
+    EXPECT_EQ("EstMarquee", espion.nom);
+}
+
+TEST(ZoneSlots, TheSecondEntryDeletesTheWholeZone) {
+    bool detruite = false;
+    auto* const espion = new ZoneEspion;
+    espion->aDetruire = &detruite;
+    AppelleEmplacement<void>(static_cast<InterfaceZoneDeTexte*>(espion), 1);
+    EXPECT_TRUE(detruite);
+}
+
+TEST(ZoneSlots, AZoneOfALibreOfficeDocumentAnswersAtTheSameNumbers) {
+    ZoneDeTexteOOoProxy zone(nullptr, nullptr, UniChaine("un texte", UniChaine::kCodageLitteral),
+                             UniChaine("nom", UniChaine::kCodageLitteral), 3, 5);
+    void* const objet = static_cast<InterfaceZoneDeTexte*>(&zone);
+    EXPECT_TRUE(AppelleEmplacement<bool>(objet, 2, 0, 0, 0, 0));
+    EXPECT_EQ(3, AppelleEmplacement<int>(objet, 4));
+    EXPECT_EQ(5, AppelleEmplacement<int>(objet, 5));
+    EXPECT_EQ(8, AppelleEmplacement<TexteAvecAttributs>(objet, 7).Longueur());
+    EXPECT_EQ(8, AppelleEmplacement<int>(objet, 8));
+    EXPECT_FALSE(AppelleEmplacement<bool>(objet, 12));
 }
 
 } // namespace

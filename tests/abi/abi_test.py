@@ -14,53 +14,57 @@ import unittest
 ICI = pathlib.Path(__file__).resolve().parent
 GREFFON = os.environ.get("VOCALYNE_GREFFON", "")
 TABLES = os.environ.get("VOCALYNE_TABLES", "")
-CLASSES = ["InterfaceTexteur", "InterfaceAgentTexteur", "InterfaceZoneDeTexte", "ImplAgentTexteur",
-           "ImplZoneDeTexteTEMP", "ModuleProxyOOo", "ZoneDeTexteOOoProxy"]
+CLASSES = ["AgentEspion", "ConnecteurEspion", "ImplAgentTexteur", "ImplZoneDeTexteTEMP",
+           "InterfaceAgentTexteur", "InterfaceTexteur", "InterfaceZoneDeTexte", "ModuleProxyOOo",
+           "VocalyneOpenOfficeProxyQDBUS", "ZoneDeTexteOOoProxy", "ZoneEspion"]
 
 
 def sortie(*commande: str) -> str:
     return subprocess.run(commande, check=True, capture_output=True, text=True).stdout
 
 
-def fonction(entree: str) -> str:
-    """The function of one line of a class dump, thunks told from what they lead to."""
-    if "__cxa_pure_virtual" in entree:
-        return "(pure)"
-    if entree.endswith(")0"):
-        return "(none: abstract)"
-    # A thunk: its mangled name holds an offset that depends on the architecture.
-    thunk = re.search(r"::_ZT(?:v0_n|hn)\d+_N(\w+)$", entree)
-    if thunk:
-        noms, reste = [], thunk.group(1)
-        while reste and reste[0].isdigit():
-            longueur = re.match(r"\d+", reste).group()
-            reste = reste[len(longueur):]
-            noms.append(reste[:int(longueur)])
-            reste = reste[int(longueur):]
-        if reste.startswith("D"):
-            noms.append("~" + noms[-1])
-        return "thunk to " + "::".join(noms)
-    return re.sub(r"^.*\(\.\.\.\)\)", "", entree)
+def demanglees(noms: set[str]) -> dict[str, str]:
+    """Each mangled name as it reads in the sources: a thunk tells what it leads to."""
+    ordre = sorted(noms)
+    lus = subprocess.run(["c++filt"], input="\n".join(ordre), check=True, capture_output=True, text=True)
+    return dict(zip(ordre, lus.stdout.splitlines(), strict=True))
+
+
+def parties(entrees: list[str]) -> list[list[str]]:
+    """The places of a class's tables, a table from each type mark on.
+
+    Offsets, which no source speaks of and which differ with the architecture, are left out; a place
+    that no function has (an abstract class's destructors) shows as "-" where a used one follows.
+    """
+    tables = []
+    for entree in entrees:
+        nom = entree.split(None, 1)[1].removeprefix("(int (*)(...))")
+        if nom.startswith("(& _ZTI"):
+            tables.append([])
+        elif tables:
+            # The name of a thunk follows that of the class which needs it.
+            tables[-1].append("-" if re.fullmatch(r"-?\d+", nom) else nom[max(nom.find("_ZT"), 0):])
+    for table in tables:
+        while table[-1] == "-":
+            table.pop()
+    return tables
 
 
 def tables(vidage: str) -> str:
-    """The functions of each class's virtual tables, in slot order, a table after each type mark.
-
-    Where a class is abstract, its destructors have no entry of their own.
-    """
-    lignes = []
+    """The functions of each class's virtual tables by their place, the two destructors first."""
+    vues = {}
     for classe in CLASSES:
         trouve = re.search(rf"^Vtable for {classe}\n.*\n((?:\d.*\n)+)", vidage, re.M)
+        vues[classe] = parties(trouve.group(1).splitlines())
+    lisibles = demanglees({nom for classe in vues.values() for table in classe for nom in table
+                           if nom.startswith("_Z")})
+    lisibles["__cxa_pure_virtual"] = "(pure)"
+    lignes = []
+    for classe, siennes in vues.items():
         lignes.append(f"class {classe}")
-        entrees = [ligne.split(None, 1)[1] for ligne in trouve.group(1).splitlines()]
-        for entree, suivante in zip(entrees, entrees[1:] + [""]):
-            if "_ZTI" in entree:
-                lignes.append("  table")
-                rang = 0
-            # What stands before a type mark is a distance, the rest without a cast are offsets.
-            elif "(*)(...))" in entree and "_ZTI" not in suivante:
-                lignes.append(f"    {rang:2} {fonction(entree)}")
-                rang += 1
+        for table in siennes:
+            lignes.append("  table")
+            lignes += [f"    {rang:2} {lisibles.get(nom, nom)}" for rang, nom in enumerate(table)]
     return "\n".join(lignes) + "\n"
 
 
