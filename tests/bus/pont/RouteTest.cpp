@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 namespace {
 
 class BridgeRoad : public testing::Test {
@@ -132,4 +134,23 @@ TEST_F(BridgeRoad, ACompanionThatComesBackUnderItsNameIsAcceptedAgain) {
     EXPECT_FALSE(agent.Initialise());
     bureau.DonneCommande().ReprendsLeNom();
     EXPECT_TRUE(agent.Initialise());
+}
+
+TEST_F(BridgeRoad, ACompanionStartedAnewUnderTheSameNameIsAcceptedWithoutANewAgent) {
+    auto const ancien = std::make_unique<BureauDeTest>(
+        std::initializer_list<BureauDeTest::Fichier>{{"ancienne.txt", "Avant.\n"}},
+        std::vector<std::string>{"--instance", "meme"});
+    AgentDeTest fidele("meme~doc1");
+    ASSERT_TRUE(fidele.Initialise());
+    EXPECT_EQ(S(fidele.DonneTitreDocument()), "ancienne.txt");
+    ancien->Tue();
+    EXPECT_EQ(S(fidele.DonneTitreDocument()), "");
+    // Another process: another unique name than the one that the proxy remembers.
+    BureauDeTest nouveau({{"nouvelle.txt", "Apr\u00E8s.\n"}}, {"--instance", "meme"});
+    EXPECT_TRUE(fidele.Initialise());
+    EXPECT_EQ(S(fidele.DonneTitreDocument()), "nouvelle.txt");
+    CollectionZonesDeTexte zones;
+    ASSERT_TRUE(fidele.SynchronisePositions(zones));
+    ASSERT_EQ(zones.DonneNombre(), 1);
+    EXPECT_TRUE(zones.DonneZone(0)->PeutCorriger(0, 5, Uc("Apr\u00E8s")));
 }
