@@ -9,8 +9,11 @@
 DomaineDeTraduction* domaineTexteur = nullptr;
 
 AgentDeTest::AgentDeTest(std::string const& identifiant)
-    : InterfaceTexteur(Uc(identifiant))
-    , ModuleProxyOOo(Uc(identifiant)) {}
+    : AgentDeTest(Uc(identifiant)) {}
+
+AgentDeTest::AgentDeTest(UniChaine const& identifiant)
+    : InterfaceTexteur(identifiant)
+    , ModuleProxyOOo(identifiant) {}
 
 bool AgentDeTest::Initialise() {
     UniChaine message;

@@ -13,6 +13,7 @@ class AgentDeTest : public ModuleProxyOOo {
     using ModuleProxyOOo::LibereProxy;
 
     explicit AgentDeTest(std::string const& identifiant);
+    explicit AgentDeTest(UniChaine const& identifiant);
 
     /// First contact, as the creation of an agent makes it.
     bool Initialise();

@@ -4,9 +4,12 @@
 #include "BureauDeTest.h"
 #include "BusPrive.h"
 
+#include <QThread>
+
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <thread>
 
 namespace {
 
@@ -65,4 +68,52 @@ TEST_F(BridgeTimeouts, AFrozenBusHoldsDocEstMortNoLongerThanItsTimeout) {
     EXPECT_FALSE(agent.DocEstMort());
     bus.Degele();
     EXPECT_EQ(S(agent.DonneTitreDocument()), "lettre.txt");
+}
+
+TEST_F(BridgeTimeouts, FirstContactWaits240SecondsAndTheEarlierTimeoutIsBackAfterwards) {
+    agent.DonneProxy()->setTimeout(12345);
+    bureau.DonneCommande().Deregle("InitialiseTexteur", "muet");
+    auto& commande = bureau.DonneCommande();
+    int pendant = 0;
+    std::thread temoin([&] {
+        commande.AttendsAppels("InitialiseTexteur", 1);
+        pendant = agent.DonneProxy()->timeout();
+        bureau.Tue(); // ends the wait
+    });
+    EXPECT_FALSE(agent.Initialise());
+    temoin.join();
+    EXPECT_EQ(pendant, 240000);
+    EXPECT_EQ(agent.DonneProxy()->timeout(), 12345);
+}
+
+TEST_F(BridgeTimeouts, FirstContactOutlivesTheTimeoutThatEndsTheOtherCalls) {
+    agent.DonneProxy()->setTimeout(200);
+    bureau.DonneCommande().Deregle("*", "lent", "1000");
+    EXPECT_EQ(S(agent.DonneTitreDocument()), "");
+    EXPECT_TRUE(agent.Initialise());
+    EXPECT_EQ(agent.DonneProxy()->timeout(), 200);
+}
+
+TEST_F(BridgeTimeouts, AnExtensionTooOldToKnowFirstContactIsRefusedAtOnce) {
+    auto const service = QStringLiteral("com.ombrel.vocalyne.texteurs.OpenOffice.ancienne");
+    auto const objet = QStringLiteral("/com/ombrel/vocalyne/texteurs/OpenOffice/ancienne");
+    LienBus const lien(service, objet, QString());
+    QThread fil; // the calling thread does not serve while it waits
+    QObject extension;
+    extension.moveToThread(&fil);
+    fil.start();
+    auto connexion = lien.Connexion();
+    ASSERT_TRUE(connexion.registerObject(
+        objet, QStringLiteral("com.ombrel.vocalyne.texteurs.openoffice.proxy.interface"),
+        &extension, QDBusConnection::ExportAllSlots));
+    ASSERT_TRUE(connexion.registerService(service));
+    AgentDeTest vieux("ancienne~doc1");
+    auto const depart = Horloge::now();
+    EXPECT_FALSE(vieux.Initialise());
+    EXPECT_LT(MillisecondesDepuis(depart), 15000);
+    auto appel = vieux.DonneProxy()->InitialiseTexteur(QStringLiteral("doc1"));
+    appel.waitForFinished();
+    EXPECT_EQ(appel.error().type(), QDBusError::UnknownMethod);
+    fil.quit();
+    fil.wait();
 }
