@@ -154,4 +154,19 @@ TEST(ZoneCutting, FindsWhatTheParserFindsInADocumentWithSomeBytesChanged) {
     }
 }
 
+TEST(ZoneCutting, FindsWhatTheParserFindsWhereCommentsHoldQuotesAndBraces) {
+    // The parser leaves out what follows a value: a piece cut too long would parse all the same.
+    static constexpr char const* kMots[] = {
+        "/*\"*/",   "/*}*/", "/*{*/", "//\"\n",      "//}\n",          "/**/",
+        "{}",       "{",     "}",     ",",           "\"DebutSel\":1", "\"Nom\":\"/*\"",
+        "{/*\"*/}", "},{",   "]}",    "\"\\\"/*\":1"};
+    std::mt19937 hasard(9);
+    for (int essai = 0; essai < 20000; ++essai) {
+        std::string document = "{\"Zones\":[{";
+        for (auto reste = 1 + hasard() % 6; reste > 0; --reste)
+            document += kMots[hasard() % std::size(kMots)];
+        CompareLesDeux(document + "}]}");
+    }
+}
+
 } // namespace
