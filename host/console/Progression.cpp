@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Progression.h"
 
+#include <QtGlobal>
+
 #include <unistd.h>
 
 #include <cstdio>
@@ -12,11 +14,19 @@ namespace {
 constexpr std::chrono::milliseconds kPeriodeTerminal{200};
 constexpr std::chrono::seconds kPeriodeFichier{5};
 
+std::chrono::milliseconds DonnePeriode(bool terminal) {
+    bool estNombre = false;
+    int const reglee = qEnvironmentVariableIntValue("VOCALYNE_PROGRESSION_MS", &estNombre);
+    if (estNombre && reglee >= 0)
+        return std::chrono::milliseconds(reglee);
+    return terminal ? kPeriodeTerminal : kPeriodeFichier;
+}
+
 } // namespace
 
 Progression::Progression()
     : terminal_(isatty(STDERR_FILENO) == 1)
-    , periode_(terminal_ ? Horloge::duration(kPeriodeTerminal) : Horloge::duration(kPeriodeFichier))
+    , periode_(DonnePeriode(terminal_))
     , prochaine_(Horloge::now() + periode_) {}
 
 void Progression::Efface() {

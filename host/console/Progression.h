@@ -7,7 +7,8 @@
 namespace hote {
 
 /// Shows on standard error how far a long work is: on a terminal one line that changes in place,
-/// elsewhere a line every few seconds. Short works show nothing.
+/// elsewhere a line every few seconds. Short works show nothing. VOCALYNE_PROGRESSION_MS in the
+/// environment sets another period, in ms.
 class Progression {
   public:
     Progression();
