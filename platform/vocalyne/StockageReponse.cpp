@@ -57,7 +57,9 @@ class StockeurReglages final : public StockeurReponse {
 
 } // namespace
 
-std::map<DDialogue::eTypStockeur, StockeurReponse*> StockageReponse::laListeStockeurDefaut;
+// Never destroyed: a process may end with a connector loaded, and storers still in the map.
+std::map<DDialogue::eTypStockeur, StockeurReponse*>& StockageReponse::laListeStockeurDefaut =
+    *new std::map<DDialogue::eTypStockeur, StockeurReponse*>;
 
 StockeurReponse::~StockeurReponse() = default;
 

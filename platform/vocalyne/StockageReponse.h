@@ -42,5 +42,5 @@ class VOCALYNE_OUTILS StockageReponse {
 
     /// The storers, owned by the map's entries. Whoever unloads the libraries deletes them and
     /// empties the map. Entries may be null.
-    static std::map<DDialogue::eTypStockeur, StockeurReponse*> laListeStockeurDefaut;
+    static std::map<DDialogue::eTypStockeur, StockeurReponse*>& laListeStockeurDefaut;
 };
