@@ -9,13 +9,14 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <cstdint>
 #include <thread>
 
 namespace {
 
 using Horloge = std::chrono::steady_clock;
 
-long MillisecondesDepuis(Horloge::time_point depart) {
+std::int64_t MillisecondesDepuis(Horloge::time_point depart) {
     return std::chrono::duration_cast<std::chrono::milliseconds>(Horloge::now() - depart).count();
 }
 
