@@ -9,14 +9,20 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QPointer>
 
 namespace {
 
 constexpr char const* kCleLangueAffichage =
     "Adaptateurs2/preferences/interfaceGenerale/langueAffichage";
 
-/// The application object that this module had made, while it is loaded.
-QCoreApplication* lApplicationDuModule = nullptr;
+/// The application object that this module had made, as long as it stands. The host may have
+/// deleted it and put one of its own in its place, even at the same address. A function's, as the
+/// set-up runs before this unit's own objects are constructed.
+QPointer<QCoreApplication>& ApplicationDuModule() {
+    static QPointer<QCoreApplication> application;
+    return application;
+}
 
 } // namespace
 
@@ -40,7 +46,7 @@ void InitialiseModule() {
     auto* const applicationDeLHote = QCoreApplication::instance();
     InitQApplication();
     if (applicationDeLHote == nullptr)
-        lApplicationDuModule = QCoreApplication::instance();
+        ApplicationDuModule() = QCoreApplication::instance();
     StockageReponse::Initialise(DDialogue::kStockeurReglages, CheminReglages(),
                                 QSettings::NativeFormat);
     InitialisationGenerale::InitApresQApp();
@@ -56,7 +62,5 @@ void LibereModule() {
     }
     StockageReponse::laListeStockeurDefaut.clear();
     sdd::ChaineN::LibereConvertisseurPourCodage();
-    if (lApplicationDuModule != nullptr && lApplicationDuModule == QCoreApplication::instance())
-        delete lApplicationDuModule;
-    lApplicationDuModule = nullptr;
+    delete ApplicationDuModule().data();
 }
