@@ -8,4 +8,11 @@ extern "C" __attribute__((visibility("default"))) char const* __lsan_default_sup
 extern "C" char const* __lsan_default_suppressions() {
     return "leak:libqoffscreen.so\n";
 }
+
+extern "C" __attribute__((visibility("default"))) char const* __lsan_default_options();
+
+/// What is passed over is not told: programs under test are judged by what they print.
+extern "C" char const* __lsan_default_options() {
+    return "print_suppressions=0";
+}
 // NOLINTEND(bugprone-reserved-identifier)

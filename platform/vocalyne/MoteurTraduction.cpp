@@ -5,7 +5,19 @@
 
 #include <dlfcn.h>
 
+#include <string>
+
 namespace {
+
+/// The library stands beside this one. Asked for by its whole path: the run path that would find it
+/// is this library's, and a sanitizer's dlopen looks along its own.
+std::string Chemin() {
+    Dl_info infos;
+    std::string ici;
+    if (dladdr(reinterpret_cast<void const*>(&moteurTraduction::Traduis), &infos) != 0)
+        ici = infos.dli_fname;
+    return ici.substr(0, ici.rfind('/') + 1) + "libOutilsTraduction.so";
+}
 
 /// The library's two functions; null where it cannot be loaded. Loaded once, and never unloaded:
 /// locales hold objects of its classes.
@@ -14,8 +26,7 @@ struct Moteur {
     decltype(&vocalyneTraduis) traduis = nullptr;
 
     Moteur() {
-        // Found beside this library, by its run path.
-        auto* const bibliotheque = dlopen("libOutilsTraduction.so", RTLD_NOW | RTLD_LOCAL);
+        auto* const bibliotheque = dlopen(Chemin().c_str(), RTLD_NOW | RTLD_LOCAL);
         if (bibliotheque == nullptr)
             return;
         faisLocale =
