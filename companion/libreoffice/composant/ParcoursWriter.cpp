@@ -70,7 +70,7 @@ void ParcoursWriter::Parcours() {
     if (aDesCadres_) {
         ParcoursPages();
     }
-    auto const notes = std::move(notesDeFin_);
+    auto const notes = std::exchange(notesDeFin_, {});
     for (auto const& [note, contenant] : notes) {
         auto dedans = Contient(uno::Reference<text::XText>(note.objet, uno::UNO_QUERY_THROW));
         dedans->parent = contenant;
