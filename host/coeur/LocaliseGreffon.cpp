@@ -21,8 +21,11 @@ constexpr char const* kNomGreffon = "libTexteurOOo.so";
 fs::path DonneDossierProgramme() {
     std::error_code erreur;
     fs::path programme = fs::read_symlink("/proc/self/exe", erreur);
-    if (erreur) // a root without /proc
+    if (erreur) { // a root without /proc
+        // The kernel hands the name's address over as a number.
+        // NOLINTNEXTLINE(performance-no-int-to-ptr)
         programme = fs::weakly_canonical(reinterpret_cast<char const*>(getauxval(AT_EXECFN)));
+    }
     return programme.parent_path();
 }
 
