@@ -9,6 +9,9 @@ bureauExemples() { printf '%s\n' "$DEPOT/exemples/francais.txt" "$DEPOT/exemples
 # Sections of outils/paquets.liste that it takes besides [construction] and [execution].
 bureauPaquets() { :; }
 
+# Options that the bus's daemon takes: who may come to it.
+bureauBus() { echo --session; }
+
 # CMake targets that it takes besides the host and the plug-in.
 bureauCibles() { echo vocalyne-bureau-texte; }
 
@@ -36,11 +39,5 @@ bureauFerme() {
     grep -vE ': (saved|enregistré)$' "$temporaire/bureau.erreurs" >&2 || true
 }
 
-# bureauCompare BEFORE AFTER: the changed words in their paragraphs, in colour on a terminal.
-bureauCompare() {
-    local couleur=never mots=plain
-    if [ -t 1 ] && [ -z "${NO_COLOR:-}" ]; then couleur=always mots=color; fi
-    LC_ALL=C.UTF-8 git --no-pager -c color.diff.old="red strike" diff --no-index --no-ext-diff --color="$couleur" --word-diff="$mots" \
-        --word-diff-regex='[[:alpha:]]+|[^[:space:]]' --unified=0 -- "$1" "$2" |
-        sed -E '1,/^(\x1b\[[0-9;]*m)*@@ /d; s/^(\x1b\[[0-9;]*m)*@@ .*//' || true
-}
+# bureauCompare BEFORE AFTER: shows what changed in one of the files.
+bureauCompare() { compareTextes "$@"; }

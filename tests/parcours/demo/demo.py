@@ -1,53 +1,12 @@
 # SPDX-License-Identifier: MPL-2.0
 """./demo as a person types it, on programs that are built already."""
-import fcntl
-import os
-import pathlib
-import pty
-import select
-import signal
-import subprocess
-import termios
-import time
 import unittest
 
-from commun import PATIENCE, dossier_neuf, environnement, lance
-
-SOURCES = pathlib.Path(os.environ["VOCALYNE_SOURCES"])
-CONSTRUCTION = os.environ["VOCALYNE_CONSTRUCTION"]
-DEMO = SOURCES / "demo"
+from commun import lance
+from essai import DEMO, SOURCES, Essai
 
 
-class Demo(unittest.TestCase):
-
-    def setUp(self):
-        dossier = dossier_neuf()
-        self.addCleanup(dossier.cleanup)
-        self.dossier = pathlib.Path(dossier.name)
-        (self.dossier / "tmp").mkdir()
-        self.env = environnement(self.dossier, VOCALYNE_DEMO_CONSTRUCTION=CONSTRUCTION,
-                                 TMPDIR=str(self.dossier / "tmp"))
-
-    def tearDown(self):
-        self.assertEqual(list((self.dossier / "tmp").iterdir()), [], "temporary files stay behind")
-        self.assertEqual(self.survivants(), [], "processes stay behind")
-
-    def survivants(self) -> list[str]:
-        """The command lines of processes that work in this test's folder."""
-        trouves = []
-        for proc in pathlib.Path("/proc").glob("[0-9]*/environ"):
-            try:
-                if f"TMPDIR={self.dossier}".encode() in proc.read_bytes():
-                    trouves.append((proc.parent / "cmdline").read_text())
-            except OSError:
-                continue
-        return trouves
-
-    def fichier(self, nom: str, contenu: bytes | str) -> pathlib.Path:
-        chemin = self.dossier / nom
-        chemin.parent.mkdir(exist_ok=True)
-        chemin.write_bytes(contenu.encode() if isinstance(contenu, str) else contenu)
-        return chemin
+class Demo(Essai):
 
     def test_without_a_file_both_examples_are_corrected_and_stay_as_they_were(self):
         avant = {c: c.read_bytes() for c in (SOURCES / "exemples").iterdir()}
@@ -103,19 +62,8 @@ class Demo(unittest.TestCase):
 
     def test_on_a_terminal_the_person_is_asked_and_an_interruption_leaves_nothing_behind(self):
         lettre = self.fichier("lettre.txt", "Un bel acceuil.\n")
-        maitre, esclave = pty.openpty()
-        tenu = subprocess.Popen([DEMO, "--langue", "fr", lettre], env=self.env, stdin=esclave,
-                                stdout=esclave, stderr=esclave, start_new_session=True,
-                                preexec_fn=lambda: fcntl.ioctl(0, termios.TIOCSCTTY, 0))
-        os.close(esclave)
-        lu, limite = b"", time.monotonic() + PATIENCE
         # The mistake and its correction are shown, and then the host waits for an answer.
-        while b"accueil" not in lu:
-            self.assertTrue(select.select([maitre], [], [], limite - time.monotonic())[0], lu)
-            lu += os.read(maitre, 4096)
-        os.killpg(tenu.pid, signal.SIGINT)
-        self.assertNotEqual(tenu.wait(PATIENCE), 0)
-        os.close(maitre)
+        self.assertNotEqual(self.interrompue(DEMO, "--langue", "fr", lettre, apres=b"accueil"), 0)
         self.assertEqual(lettre.read_text(), "Un bel acceuil.\n")
 
 
