@@ -30,8 +30,8 @@ TEST(Proxy, DeclaresExactlyTheMethodsOfTheWireInTheirOrderWithTheirParameterName
         "QDBusPendingReply<> ActivePourCorrecteur()",
         "QDBusPendingReply<> ActivePourOutils()",
         "QDBusPendingReply<> AjusteSelectionPourOutils(int deltaDebut, int deltaFin)",
-        "QDBusPendingReply<> CorrigeDansTexteur(QString idZone, int leDebut, int laFin, "
-        "QString laChaine, bool automatique)",
+        ("QDBusPendingReply<> CorrigeDansTexteur(QString idZone, int leDebut, int laFin, "
+         "QString laChaine, bool automatique)"),
         "QDBusPendingReply<bool> DocEstMort(QString leId)",
         "QDBusPendingReply<QString> DonneCheminDocument()",
         "QDBusPendingReply<QString> DonneContenuSelection()",
@@ -45,8 +45,8 @@ TEST(Proxy, DeclaresExactlyTheMethodsOfTheWireInTheirOrderWithTheirParameterName
         "QDBusPendingReply<> InitialisePourOutils(bool estDico)",
         "QDBusPendingReply<> InitialiseTexteur(QString leId)",
         "QDBusPendingReply<bool> PermetsRetourDeCharriot()",
-        "QDBusPendingReply<bool> PeutCorriger(QString idZone, int leDebut, int laFin, "
-        "QString laGraphieOriginale)",
+        ("QDBusPendingReply<bool> PeutCorriger(QString idZone, int leDebut, int laFin, "
+         "QString laGraphieOriginale)"),
         "QDBusPendingReply<> RemplaceEtReselectionne(QString leMot)",
         "QDBusPendingReply<> RompsLienCorrecteur()",
         "QDBusPendingReply<> RompsLienTexteur()",

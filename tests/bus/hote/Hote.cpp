@@ -44,7 +44,10 @@ Fin LanceHote(QStringList const& arguments, QByteArray const& entree) {
     QEventLoop boucle;
     QObject::connect(&hote, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), &boucle,
                      &QEventLoop::quit);
-    QTimer::singleShot(Processus::kDelaiMs, &boucle, &QEventLoop::quit);
+    QTimer garde;
+    garde.setSingleShot(true);
+    QObject::connect(&garde, &QTimer::timeout, &boucle, &QEventLoop::quit);
+    garde.start(Processus::kDelaiMs);
     hote.start(QStringLiteral(CHEMIN_HOTE), arguments);
     hote.write(entree);
     hote.closeWriteChannel();

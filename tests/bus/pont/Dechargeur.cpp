@@ -132,7 +132,7 @@ int main(int argc, char** argv) {
         if (mot == "application")
             application = std::make_unique<QCoreApplication>(argc, argv);
         else if (!hote->Fais(mot))
-            return 100 + i; // which word it was
+            std::exit(100 + i); // which word it was
     }
     std::exit(0);
 }

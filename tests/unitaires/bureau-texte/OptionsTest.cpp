@@ -12,6 +12,7 @@ namespace {
 Options Lis(std::vector<std::string> mots) {
     mots.insert(mots.begin(), "vocalyne-bureau-texte");
     std::vector<char*> argv;
+    argv.reserve(mots.size() + 1);
     for (std::string& mot : mots) {
         argv.push_back(mot.data());
     }

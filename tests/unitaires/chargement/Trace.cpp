@@ -69,7 +69,7 @@ void tracePrefs(PrefsGeneralesQt* objet, UniChaine const& chemin, ePrefsGenMode 
 
 QVariant PrefsGeneralesQt::Donne(UniChaine const& cle, QVariant const& defaut,
                                  bool conserve) const {
-    auto const valeur =
+    auto valeur =
         Suivante<QVariant (*)(PrefsGeneralesQt const*, UniChaine const&, QVariant const&, bool)>(
             NOM_DONNE)(this, cle, defaut, conserve);
     Dis("Donne", QString::fromLatin1("(%1, %2, %3)")

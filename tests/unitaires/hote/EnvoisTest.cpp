@@ -71,8 +71,8 @@ TEST(Envois, OfAnyTextExactlyTheCorrectionsThatWereMadeCount) {
         QString nouveau;
         std::vector<bool> faites;
         for (auto i = 1 + hasard() % 12; i > 0; --i) {
-            QString const mot = mots.at(static_cast<int>(hasard() % 5));
-            QString const remplacement = mots.at(static_cast<int>(hasard() % 5));
+            QString const& mot = mots.at(static_cast<int>(hasard() % 5));
+            QString const& remplacement = mots.at(static_cast<int>(hasard() % 5));
             bool const envoyee = hasard() % 2 == 0 && mot != remplacement;
             bool const faite = envoyee && hasard() % 2 == 0;
             if (envoyee) {

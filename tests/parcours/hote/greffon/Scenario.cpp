@@ -37,7 +37,7 @@ QJsonObject Scenario::Joue(char const* operation) {
     int const appel = ++compte_[nom];
     appels_.append(nom);
     for (QJsonValue const valeur : evenements_) {
-        QJsonObject const e = valeur.toObject();
+        QJsonObject e = valeur.toObject();
         bool const lieu = e.value(QLatin1String("op")).toString() == nom &&
                           e.value(QLatin1String("appel")).toInt(appel) == appel;
         if (!lieu)
