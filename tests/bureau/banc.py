@@ -98,11 +98,12 @@ class Bureau:
         if not (DOSSIER / profil / "vocalyne").exists():
             self.unopkg("add", "--suppress-license", str(DOSSIER / "vocalyne-libreoffice.oxt"))
             (DOSSIER / profil / "vocalyne").touch()
-        self.journal = open(DOSSIER / f"{self.tuyau}.log", "w+", encoding="utf-8")
-        self.processus = subprocess.Popen(
-            ["soffice", *options, "--norestore", "--nologo", "--nodefault",
-             f"--accept=pipe,name={self.tuyau};urp;", self.profil],
-            env=self.env, stdout=self.journal, stderr=subprocess.STDOUT, start_new_session=True)
+        self.journal = DOSSIER / f"{self.tuyau}.log"
+        with open(self.journal, "wb") as journal:
+            self.processus = subprocess.Popen(
+                ["soffice", *options, "--norestore", "--nologo", "--nodefault",
+                 f"--accept=pipe,name={self.tuyau};urp;", self.profil],
+                env=self.env, stdout=journal, stderr=subprocess.STDOUT, start_new_session=True)
         self.contexte = attends(self._connecte, "the office's pipe")
         self.bureau = self.cree("com.sun.star.frame.Desktop")
 
@@ -123,8 +124,7 @@ class Bureau:
 
     def dit(self):
         """What the office wrote to its terminal."""
-        self.journal.flush()
-        return pathlib.Path(self.journal.name).read_text(encoding="utf-8")
+        return self.journal.read_text(encoding="utf-8")
 
     def cree(self, service):
         return self.contexte.ServiceManager.createInstanceWithContext(service, self.contexte)
@@ -150,7 +150,6 @@ class Bureau:
             except subprocess.TimeoutExpired:
                 self.tue()
                 raise AssertionError("the office did not end: " + self.dit()) from None
-        self.journal.close()
 
     def tue(self):
         """As a crash would end it: the launcher and the office it started are one session."""

@@ -2,7 +2,9 @@
 # SPDX-License-Identifier: MPL-2.0
 """Runs test modules against a real LibreOffice, as an ordinary user.
 
-usage: lance.py OXT MODULE...
+usage: lance.py [--hote BUILD] OXT MODULE...
+
+  --hote BUILD   also installs the host and the plug-in of this build folder, in "prefixe"
 
 An office refuses to keep a profile, and its package manager to work, for the superuser: a run as
 root goes on as the user "vocalyne-essai", made when missing. Everything the run makes stands in one
@@ -31,10 +33,13 @@ def utilisateur_ordinaire():
 
 
 def main():
-    if len(sys.argv) < 3 or sys.argv[1] in ("-h", "--help"):
+    arguments, construction = sys.argv[1:], None
+    if arguments[:1] == ["--hote"]:
+        construction, arguments = arguments[1:2], arguments[2:]
+    if len(arguments) < 2 or arguments[0] in ("-h", "--help"):
         print(__doc__, file=sys.stdout if "--help" in sys.argv else sys.stderr)
         return 0 if "--help" in sys.argv else 2
-    oxt, modules = pathlib.Path(sys.argv[1]), sys.argv[2:]
+    oxt, modules = pathlib.Path(arguments[0]), arguments[1:]
     if not oxt.is_file():
         print(f"{oxt}: no such package; build the target vocalyne_oxt first", file=sys.stderr)
         return 1
@@ -44,6 +49,11 @@ def main():
         for source in ici.glob("*.py"):
             shutil.copy(source, travail)
         shutil.copy(oxt, travail / "vocalyne-libreoffice.oxt")
+        if construction:
+            # Where the office's user can run them, whoever the build belongs to.
+            subprocess.run(["cmake", "--install", *construction, "--component", "runtime",
+                            "--prefix", str(travail / "prefixe")],
+                           check=True, stdout=subprocess.DEVNULL)
         environnement = {nom: valeur for nom, valeur in os.environ.items()
                          if nom in ("PATH", "LANG", "LC_ALL", "TERM", "VOCALYNE_IMAGES")}
         environnement.update(HOME=dossier, TMPDIR=dossier, XDG_RUNTIME_DIR=dossier,

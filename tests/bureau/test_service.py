@@ -318,7 +318,7 @@ class Fermeture(unittest.TestCase):
             arret.set()
             for fil in fils:
                 fil.join()
-        self.assertEqual(bureau.processus.returncode, 0, bureau.journal.name)
+        self.assertEqual(bureau.processus.returncode, 0, bureau.dit())
         banc.attends(lambda: banc.SERVICE + client.instance not in client.noms(), "a free name")
 
     def test_an_office_started_again_in_mid_correction_takes_no_stale_call(self):
