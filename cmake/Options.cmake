@@ -4,6 +4,7 @@ include_guard(GLOBAL)
 
 option(VOCALYNE_AVERTISSEMENTS_EN_ERREURS "Treat warnings as errors" OFF)
 option(VOCALYNE_ASSAINISSEURS "Build with the address and undefined-behaviour sanitizers" OFF)
+option(VOCALYNE_FUZZ "Build the probes of tests/fuzz for libFuzzer (needs clang)" OFF)
 
 # Said in full on the command line, for tools whose default standard is another.
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -16,7 +17,13 @@ target_compile_options(vocalyne_options INTERFACE
   -Wconversion -Wno-sign-conversion -Wimplicit-fallthrough
   $<$<BOOL:${VOCALYNE_AVERTISSEMENTS_EN_ERREURS}>:-Werror>
   -fvisibility=hidden -fvisibility-inlines-hidden)
-target_link_options(vocalyne_options INTERFACE LINKER:--no-undefined LINKER:--as-needed)
+target_link_options(vocalyne_options INTERFACE LINKER:--as-needed)
+if(VOCALYNE_FUZZ)
+  # What guides the search; clang's runtimes stand in the executable alone, not in our libraries.
+  target_compile_options(vocalyne_options INTERFACE -fsanitize=fuzzer-no-link)
+else()
+  target_link_options(vocalyne_options INTERFACE LINKER:--no-undefined)
+endif()
 target_compile_definitions(vocalyne_options INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS)
 if(VOCALYNE_ASSAINISSEURS)
