@@ -28,6 +28,11 @@ std::u16string Remplace(std::u16string_view texte, Intervalle plage, std::u16str
     return resultat;
 }
 
+/// Mostly they are one text shared (see Corrige), and a long one is then not read through.
+bool EstLeMemeTexte(std::u16string_view a, std::u16string_view b) noexcept {
+    return a.size() == b.size() && (a.data() == b.data() || a == b);
+}
+
 /// Has a cut that parted no visible character in the belief come to part one in the document?
 bool EstDevenueCoupure(std::u16string_view croyance, std::int32_t avant,
                        std::u16string_view document, std::int32_t apres) noexcept {
@@ -91,7 +96,7 @@ Localisation TexteSuivi::Localise(Intervalle plage, std::u16string_view document
     if (plage.Fin() > borneSure_) {
         return Refuse(Refus::Incertain);
     }
-    if (croyance == document) {
+    if (EstLeMemeTexte(croyance, document)) {
         return {Refus::Aucun, plage};
     }
     return RetrouveApresEdition(plage, croyance, document);
@@ -135,7 +140,7 @@ Localisation TexteSuivi::Corrige(Intervalle plage, std::u16string_view remplacem
         NoteRefus(plage);
         return trouvee;
     }
-    bool const memeTexte = Croyance() == avant;
+    bool const memeTexte = EstLeMemeTexte(Croyance(), avant);
     std::size_t const borne = borneSure_ - plage.Longueur() + remplacement.size();
     auto apres =
         std::make_shared<std::u16string const>(Remplace(avant, trouvee.plage, remplacement));
