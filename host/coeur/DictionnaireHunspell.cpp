@@ -56,18 +56,28 @@ QStringList DictionnaireHunspell::Suggere(QString const& forme) {
         return *memoire;
     QStringList suggestions;
     std::string octets;
-    if (Encode(forme, octets)) {
-        for (std::string const& suggestion : hunspell_->suggest(octets)) {
-            QString const texte =
-                codec_->toUnicode(suggestion.data(), static_cast<int>(suggestion.size()));
-            if (!texte.isEmpty() && texte != forme && !suggestions.contains(texte))
-                suggestions.append(texte);
-        }
-    }
+    if (Encode(forme, octets))
+        suggestions = Decode(hunspell_->suggest(octets), forme);
     if (suggestions_.size() >= kMemoireMax)
         suggestions_.clear();
     suggestions_.insert(forme, suggestions);
     return suggestions;
+}
+
+QStringList DictionnaireHunspell::DonneRacines(QString const& forme) {
+    std::string octets;
+    return Encode(forme, octets) ? Decode(hunspell_->stem(octets), {}) : QStringList();
+}
+
+QStringList DictionnaireHunspell::Decode(std::vector<std::string> const& mots,
+                                         QString const& sauf) const {
+    QStringList decodes;
+    for (std::string const& mot : mots) {
+        QString const texte = codec_->toUnicode(mot.data(), static_cast<int>(mot.size()));
+        if (!texte.isEmpty() && texte != sauf && !decodes.contains(texte))
+            decodes.append(texte);
+    }
+    return decodes;
 }
 
 std::unique_ptr<Lexique> OuvreDictionnaire(Langue langue,

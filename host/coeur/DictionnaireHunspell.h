@@ -7,6 +7,8 @@
 #include <QHash>
 
 #include <memory>
+#include <string>
+#include <vector>
 
 class Hunspell;
 class QTextCodec;
@@ -24,9 +26,11 @@ class DictionnaireHunspell : public Lexique {
     Langue DonneLangue() const override { return langue_; }
     bool Connait(QString const& forme) override;
     QStringList Suggere(QString const& forme) override;
+    QStringList DonneRacines(QString const& forme) override;
 
   private:
     bool Encode(QString const& forme, std::string& octets) const;
+    QStringList Decode(std::vector<std::string> const& mots, QString const& sauf) const;
 
     Langue langue_;
     std::unique_ptr<Hunspell> hunspell_;

@@ -2,17 +2,14 @@
 #include "Document.h"
 
 #include "ErreurHote.h"
-#include "InfosApplication.h"
 #include "Messages.h"
+#include "OuvreAgent.h"
 
 #include <utility>
 
 namespace hote {
 
 namespace {
-
-constexpr int kModeCorrecteur = 0;
-constexpr int kGenreCorrecteur = 1;
 
 ErreurHote DonneErreurMort() {
     return {kSortieDocumentMort, Tr("Le document a été fermé, ou ne répond plus.")};
@@ -21,24 +18,7 @@ ErreurHote DonneErreurMort() {
 } // namespace
 
 Document::Document(Greffon const& greffon, QString const& id) {
-    InfosApplication infos;
-    greffon.DonneNomsTexteurs(infos.Classe);
-    infos.ClasseInitialisation = infos.Classe;
-    infos.Id = UniChaine(id);
-    infos.Genre = kGenreCorrecteur;
-    UniChaine idDocument;
-    if (!greffon.DonneIdentificateurDocumentCourant(infos, idDocument))
-        throw ErreurHote(kSortieDocument, Tr("Le connecteur ne sert pas le document {1}.", id));
-    auto agent = greffon.CreeAgentTexteur(infos, idDocument);
-    if (!agent)
-        throw ErreurHote(kSortieDocument,
-                         Tr("Le document {1} n’est pas à portée : est-il ouvert, et son logiciel "
-                            "a-t-il l’extension de Vocalyne ? « vocalyne-hote documents » donne "
-                            "ceux qui le sont.",
-                            id));
-    tenu_.Tiens(std::move(agent));
-    // Not ActivePour, which would take the keyboard from the terminal that the person looks at.
-    tenu_.DonneAgent()->InitialisePour(kModeCorrecteur);
+    tenu_.Tiens(OuvreAgent(greffon, id, ModeAgent::Correcteur));
 }
 
 Document::~Document() {

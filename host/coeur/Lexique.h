@@ -18,6 +18,8 @@ class Lexique {
     virtual bool Connait(QString const& forme) = 0;
     /// What may have been meant, best first; empty when nothing comes near. Slow (milliseconds).
     virtual QStringList Suggere(QString const& forme) = 0;
+    /// The words that this one may be a form of ("chats": "chat"), itself perhaps among them.
+    virtual QStringList DonneRacines(QString const& forme) = 0;
 };
 
 } // namespace hote

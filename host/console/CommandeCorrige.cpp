@@ -11,6 +11,7 @@
 #include "InterlocuteurTerminal.h"
 #include "LocaliseGreffon.h"
 #include "Messages.h"
+#include "SurGreffon.h"
 
 #include <unistd.h>
 
@@ -102,16 +103,7 @@ eCodeSortie ExecuteCorrige(Options const& options) {
     auto lexique = options.langue ? OuvreDictionnaire(*options.langue) : nullptr;
     AlertesConsole alertes;
     auto const greffon = Greffon::Charge(LocaliseGreffon(options.greffon));
-    // Caught here: an exception of the plug-in must be gone before the plug-in is.
-    try {
-        return Seance(options, std::move(lexique), *greffon).Execute();
-    } catch (ErreurHote const&) {
-        throw;
-    } catch (std::exception const& erreur) {
-        throw ErreurHote(kSortieGreffon, Tr("Le connecteur a échoué : {1}", erreur.what()));
-    } catch (...) {
-        throw ErreurHote(kSortieGreffon, Tr("Le connecteur a échoué : {1}", "exception"));
-    }
+    return SurGreffon([&] { return Seance(options, std::move(lexique), *greffon).Execute(); });
 }
 
 } // namespace hote

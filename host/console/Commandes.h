@@ -10,6 +10,7 @@ namespace hote {
 /// application object exists.
 eCodeSortie ExecuteDocuments(Options const& options);
 eCodeSortie ExecuteCorrige(Options const& options);
+eCodeSortie ExecuteDictionnaire(Options const& options);
 eCodeSortie ExecutePilote(Options const& options);
 
 /// Says something beside the matter on standard error: one line, beginning with the program's name.

@@ -19,6 +19,8 @@ Options::Commande LisCommande(QString const& nom) {
         return Options::Commande::Documents;
     if (nom == QLatin1String("corrige"))
         return Options::Commande::Corrige;
+    if (nom == QLatin1String("dictionnaire"))
+        return Options::Commande::Dictionnaire;
     if (nom == QLatin1String("pilote"))
         return Options::Commande::Pilote;
     throw DonneErreurUsage(Tr("Commande inconnue : {1}", nom));
@@ -29,12 +31,14 @@ class Analyseur {
   public:
     explicit Analyseur(Options::Commande commande) {
         parseur_.addOptions({aide_, version_});
-        bool const corrige = commande == Options::Commande::Corrige;
-        if (corrige)
-            parseur_.addOptions({langue_, automatique_});
-        if (corrige || commande == Options::Commande::Documents)
+        bool const surDocument = PrendsDocument(commande);
+        if (surDocument)
+            parseur_.addOption(langue_);
+        if (commande == Options::Commande::Corrige)
+            parseur_.addOption(automatique_);
+        if (surDocument || commande == Options::Commande::Documents)
             parseur_.addOption(sortie_);
-        if (corrige || commande == Options::Commande::Pilote)
+        if (surDocument || commande == Options::Commande::Pilote)
             parseur_.addOption(greffon_);
     }
 
@@ -55,6 +59,11 @@ class Analyseur {
     }
 
   private:
+    static bool PrendsDocument(Options::Commande commande) {
+        return commande == Options::Commande::Corrige ||
+               commande == Options::Commande::Dictionnaire;
+    }
+
     static QString Nomme(QString const& option) {
         return QLatin1String(option.size() == 1 ? "-" : "--") + option;
     }
@@ -90,7 +99,7 @@ class Analyseur {
 
     void LisPositionnels(Options& options) const {
         QStringList positionnels = parseur_.positionalArguments();
-        if (options.commande == Options::Commande::Corrige && !positionnels.isEmpty())
+        if (PrendsDocument(options.commande) && !positionnels.isEmpty())
             options.id = positionnels.takeFirst();
         if (!positionnels.isEmpty())
             throw DonneErreurUsage(Tr("Argument en trop : {1}", positionnels.first()));

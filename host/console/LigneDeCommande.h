@@ -12,14 +12,14 @@ namespace hote {
 
 /// What the person asked for.
 struct Options {
-    enum class Commande { Aide, Version, Documents, Corrige, Pilote };
+    enum class Commande { Aide, Version, Documents, Corrige, Dictionnaire, Pilote };
 
     Commande commande = Commande::Aide;
-    QString id;                   ///< of `corrige`; empty when not given
-    std::optional<Langue> langue; ///< of `corrige`; found out when not given
+    QString id;                   ///< of `corrige` and `dictionnaire`; empty when not given
+    std::optional<Langue> langue; ///< of the same; found out when not given
     bool automatique = false;     ///< of `corrige`
-    bool json = false;            ///< of `documents` and `corrige`
-    std::string greffon;          ///< of `corrige` and `pilote`; empty when not given
+    bool json = false;            ///< of all but `pilote`
+    std::string greffon;          ///< of all but `documents`; empty when not given
 };
 
 /// Reads the arguments, the program's name first. Throws ErreurHote (kSortieUsage) when they are

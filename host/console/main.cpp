@@ -57,6 +57,8 @@ eCodeSortie Execute(QStringList const& arguments) {
         return ExecuteDocuments(options);
     case Options::Commande::Corrige:
         return ExecuteCorrige(options);
+    case Options::Commande::Dictionnaire:
+        return ExecuteDictionnaire(options);
     default:
         qInstallMessageHandler(nullptr);
         return ExecutePilote(options);

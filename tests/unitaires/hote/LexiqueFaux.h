@@ -20,8 +20,11 @@ class LexiqueFaux : public hote::Lexique {
     }
     QStringList Suggere(QString const& forme) override { return suggestions.value(forme); }
 
+    QStringList DonneRacines(QString const& forme) override { return racines.value(forme); }
+
     QStringList demandes; ///< every word that was asked for
     QHash<QString, QStringList> suggestions;
+    QHash<QString, QStringList> racines;
 
   private:
     hote::Langue langue_;

@@ -44,6 +44,15 @@ TEST(LigneDeCommande, OptionsStandBeforeOrBehindTheDocumentInEitherForm) {
     }
 }
 
+TEST(LigneDeCommande, TheDictionaryTakesTheOptionsOfAWorkThatChangesNothingByItself) {
+    Options const options = Lis("dictionnaire A~1 --langue fr --sortie json --greffon g.so");
+    EXPECT_EQ(options.commande, Options::Commande::Dictionnaire);
+    EXPECT_EQ(options.id, QStringLiteral("A~1"));
+    EXPECT_EQ(options.langue, Langue::Francais);
+    EXPECT_TRUE(options.json);
+    EXPECT_EQ(options.greffon, "g.so");
+}
+
 TEST(LigneDeCommande, TheLastOfSeveralWins) {
     EXPECT_EQ(Lis("corrige --langue en --langue fr").langue, Langue::Francais);
     EXPECT_FALSE(Lis("documents --sortie json --sortie texte").json);
@@ -64,7 +73,8 @@ TEST(LigneDeCommande, WhatIsWrongIsAnErrorOfUsage) {
     for (char const* ligne :
          {"", "inconnue", "--", "-", "--rien", "documents x", "documents --langue fr",
           "documents --automatique", "documents --greffon g", "corrige a b", "corrige --langue",
-          "corrige --langue FR", "corrige --sortie xml", "pilote --sortie json", "pilote x"}) {
+          "corrige --langue FR", "corrige --sortie xml", "pilote --sortie json", "pilote x",
+          "dictionnaire --automatique", "dictionnaire a b"}) {
         try {
             Lis(ligne);
             ADD_FAILURE() << ligne;

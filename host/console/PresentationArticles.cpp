@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "PresentationArticles.h"
+
+#include "Contexte.h"
+
+namespace hote {
+
+namespace {
+
+std::string Montre(QString const& texte) {
+    return PourTerminal(texte).toStdString();
+}
+
+} // namespace
+
+std::string DonneArticlesTexte(Recherche const& recherche, Couleurs const& couleurs,
+                               bool numerote) {
+    std::string texte;
+    int numero = 0;
+    for (Article const& article : recherche.articles) {
+        texte += '\n' + Montre(article.entree) + '\n';
+        for (Sens const& sens : article.sens) {
+            texte += "  ";
+            if (!sens.genre.isEmpty())
+                texte += couleurs.Discret('(' + Montre(sens.genre) + ')') + ' ';
+            bool premier = true;
+            for (Synonyme const& synonyme : sens.synonymes) {
+                texte += premier ? "" : numerote ? "  " : ", ";
+                premier = false;
+                if (numerote)
+                    texte += couleurs.Discret(std::to_string(++numero)) + ' ';
+                texte += couleurs.Correction(Montre(synonyme.mot));
+                if (!synonyme.note.isEmpty())
+                    texte += ' ' + couleurs.Discret('(' + Montre(synonyme.note) + ')');
+            }
+            texte += '\n';
+        }
+    }
+    return texte;
+}
+
+Synonyme const* TrouveSynonyme(Recherche const& recherche, int numero) {
+    for (Article const& article : recherche.articles) {
+        for (Sens const& sens : article.sens) {
+            int const nombre = static_cast<int>(sens.synonymes.size());
+            if (numero >= 1 && numero <= nombre)
+                return &sens.synonymes[static_cast<std::size_t>(numero - 1)];
+            numero -= nombre;
+        }
+    }
+    return nullptr;
+}
+
+int CompteSynonymes(Recherche const& recherche) {
+    std::size_t nombre = 0;
+    for (Article const& article : recherche.articles) {
+        for (Sens const& sens : article.sens)
+            nombre += sens.synonymes.size();
+    }
+    return static_cast<int>(nombre);
+}
+
+} // namespace hote
