@@ -1,45 +1,10 @@
 # SPDX-License-Identifier: MPL-2.0
 """The extension in an office with a window, drawn by its own toolkit and by GTK."""
 
-import os
-import pathlib
-import shutil
-import subprocess
 import unittest
 
 import banc
-
-
-class Ecran:
-    """A screen of the test's own."""
-
-    def __init__(self):
-        lecture, ecriture = os.pipe()
-        self.processus = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(ecriture), "-screen", "0", "1000x800x24", "-nolisten",
-             "tcp"], pass_fds=[ecriture], stderr=subprocess.DEVNULL)
-        os.close(ecriture)
-        with os.fdopen(lecture) as numero:
-            self.nom = ":" + numero.readline().strip()
-        # Without a window manager no window has a size or the keyboard.
-        self.gestionnaire = subprocess.Popen(["openbox"], env=dict(os.environ, DISPLAY=self.nom),
-                                             stderr=subprocess.DEVNULL)
-
-    def ferme(self):
-        banc.arrete(self.gestionnaire)
-        banc.arrete(self.processus)
-
-    def photographie(self, nom):
-        """A picture for people to look at, where the run was asked for them."""
-        dossier = os.environ.get("VOCALYNE_IMAGES")
-        if dossier and shutil.which("import"):
-            image = pathlib.Path(dossier, nom + ".png")
-
-            def dessine():
-                subprocess.run(["import", "-window", "root", "-display", self.nom,
-                                "-define", "png:exclude-chunk=date,time", image], check=True)
-                return image.stat().st_size > 20000  # a blank screen takes far less
-            banc.attends(dessine, "the window to be drawn")
+import ecran
 
 
 class Fenetre:
@@ -49,7 +14,7 @@ class Fenetre:
 
     @classmethod
     def setUpClass(cls):
-        cls.ecran = Ecran()
+        cls.ecran = ecran.Ecran()
         cls.addClassCleanup(cls.ecran.ferme)
         cls.bus = banc.Bus()
         cls.addClassCleanup(cls.bus.ferme)
@@ -94,32 +59,16 @@ class Fenetre:
         self.client.corrige(zone, "chat", "chien")
         self.assertEqual(self.doc.Text.String, "un chien noir")
 
-    def titres(self):
-        # A window that goes while the tree is read makes the reading fail: read again.
-        while True:
-            arbre = subprocess.run(["xwininfo", "-root", "-tree", "-display", self.ecran.nom],
-                                   capture_output=True, text=True, check=False)
-            if arbre.returncode == 0:
-                return arbre.stdout
-            self.assertIsNone(self.ecran.processus.poll(), "the screen is gone")
-
-    def touche(self, fenetre, touches):
-        """Types into the window, as the keyboard does: what is sent to one window GTK ignores."""
-        ecran = dict(os.environ, DISPLAY=self.ecran.nom)
-        for commande in (["search", "--onlyvisible", "--name", fenetre, "windowactivate", "%@"],
-                         ["key", "--clearmodifiers", touches]):
-            subprocess.run(["xdotool", *commande], check=False, capture_output=True, env=ecran)
-
     def demande(self, touches, dialogue):
         """Asks for a dialogue as a person does; a key that came before the window listens is lost."""
-        self.touche("LibreOffice Writer", touches)
-        banc.attends(lambda: dialogue in self.titres()
-                     or self.touche("LibreOffice Writer", touches), f"{dialogue} to show")
+        self.ecran.touche("LibreOffice Writer", touches)
+        banc.attends(lambda: dialogue in self.ecran.titres()
+                     or self.ecran.touche("LibreOffice Writer", touches), f"{dialogue} to show")
 
     def ferme(self, dialogue):
         def echappe():
-            self.touche(dialogue, "Escape")
-            return dialogue not in self.titres()
+            self.ecran.touche(dialogue, "Escape")
+            return dialogue not in self.ecran.titres()
         banc.attends(echappe, f"{dialogue} to close", 20)
 
 

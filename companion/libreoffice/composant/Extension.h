@@ -7,6 +7,7 @@
 #include <com/sun/star/frame/XModel.hpp>
 #include <com/sun/star/uno/XComponentContext.hpp>
 
+#include <cstddef>
 #include <memory>
 #include <string>
 
@@ -26,7 +27,10 @@ class Extension {
     /// Whole identifier of a document; empty when it is not of a kind that is served.
     std::string
     Identifiant(com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& modele);
-    std::string DonneEtat() const { return fil_->DonneEtat(); }
+    EtatDuBus DonneEtat() const { return fil_->DonneEtat(); }
+    std::string const& NomDuService() const noexcept { return fil_->Nom(); }
+    /// How many documents are served now. Main thread.
+    std::size_t NombreDeDocuments() { return service_->LesDocuments().Tous().size(); }
 
   private:
     explicit Extension(

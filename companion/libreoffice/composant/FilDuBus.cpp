@@ -23,8 +23,9 @@ struct Liberation {
 template <typename T>
 using Tenu = std::unique_ptr<T, Liberation>;
 
-/// The bus's address; empty without one. GLib would start a bus of its own then: not for us to do.
-std::string Adresse() {
+} // namespace
+
+std::string AdresseDuBus() {
     char const* const voulue = std::getenv("DBUS_SESSION_BUS_ADDRESS");
     if (voulue != nullptr && *voulue != '\0') {
         return voulue;
@@ -36,6 +37,8 @@ std::string Adresse() {
     Tenu<char> const echappee(g_dbus_address_escape_value(prise.get()));
     return std::string("unix:path=") + echappee.get();
 }
+
+namespace {
 
 /// Runs a member function on the bus thread after a pause.
 template <typename Objet, void (Objet::*Operation)()>
@@ -70,8 +73,7 @@ FilDuBus::FilDuBus(std::string const& instance, std::shared_ptr<Appels> appels,
     , delais_(delais)
     , contexte_(g_main_context_new())
     , boucle_(g_main_loop_new(contexte_, FALSE))
-    , arret_(g_cancellable_new())
-    , etat_("starting") {
+    , arret_(g_cancellable_new()) {
     fil_ = std::thread([this] { Tourne(); });
 }
 
@@ -95,15 +97,15 @@ FilDuBus::~FilDuBus() {
     g_main_context_unref(contexte_);
 }
 
-std::string FilDuBus::DonneEtat() const {
+EtatDuBus FilDuBus::DonneEtat() const {
     std::lock_guard<std::mutex> const verrou(mutex_);
     return etat_;
 }
 
-void FilDuBus::MetsEtat(std::string etat) {
+void FilDuBus::MetsEtat(EtatDuBus etat) {
     std::lock_guard<std::mutex> const verrou(mutex_);
-    if (etat != etat_) {
-        std::fprintf(stderr, "vocalyne: %s\n", etat.c_str());
+    if (etat.genre != etat_.genre || etat.precision != etat_.precision) {
+        std::fprintf(stderr, "vocalyne: %s\n", PourLeJournal(etat, nom_).c_str());
     }
     etat_ = std::move(etat);
 }
@@ -128,9 +130,9 @@ void FilDuBus::Connecte() {
     if (g_cancellable_is_cancelled(arret_) != FALSE) {
         return;
     }
-    std::string const adresse = Adresse();
+    std::string const adresse = AdresseDuBus();
     if (adresse.empty()) {
-        MetsEtat("there is no session bus (DBUS_SESSION_BUS_ADDRESS is not set); waiting for one");
+        MetsEtat({EtatDuBus::Genre::SansBus, {}});
         Reessaie();
         return;
     }
@@ -142,7 +144,7 @@ void FilDuBus::Connecte() {
         nullptr, arret_, &erreur);
     if (connexion_ == nullptr) {
         Tenu<GError> const tenue(erreur);
-        MetsEtat(std::string("the session bus does not answer: ") + tenue->message);
+        MetsEtat({EtatDuBus::Genre::BusMuet, tenue->message});
         Reessaie();
         return;
     }
@@ -151,7 +153,7 @@ void FilDuBus::Connecte() {
                      G_CALLBACK(+[](GDBusConnection*, gboolean, GError*, gpointer donnee) {
                          auto* const soi = static_cast<FilDuBus*>(donnee);
                          soi->Deconnecte();
-                         soi->MetsEtat("the session bus is gone; waiting for it");
+                         soi->MetsEtat({EtatDuBus::Genre::BusParti, {}});
                          soi->Reessaie();
                      }),
                      this);
@@ -168,7 +170,7 @@ void FilDuBus::DemandeLeNom() {
     GError* erreur = nullptr;
     if (!methodes_->Publie(connexion_, chemin_.c_str(), &erreur)) {
         Tenu<GError> const tenue(erreur);
-        MetsEtat(std::string("cannot publish the document service: ") + tenue->message);
+        MetsEtat({EtatDuBus::Genre::NonPublie, tenue->message});
         methodes_.reset();
         return;
     }
@@ -180,7 +182,7 @@ void FilDuBus::DemandeLeNom() {
     }
     if (resultat == kProprietaire || resultat == kDeja) {
         pause_ = 0;
-        MetsEtat("serving as " + nom_);
+        MetsEtat({EtatDuBus::Genre::Sert, {}});
         return;
     }
     methodes_.reset();
@@ -203,7 +205,7 @@ void FilDuBus::NomPris() {
             qui += " (process " + std::to_string(pid) + ")";
         }
     }
-    MetsEtat("the name " + nom_ + " is taken by " + qui + "; waiting for it to be free");
+    MetsEtat({EtatDuBus::Genre::NomPris, qui});
     garde_ = g_bus_watch_name_on_connection(
         connexion_, nom_.c_str(), G_BUS_NAME_WATCHER_FLAGS_NONE, nullptr,
         [](GDBusConnection*, char const*, gpointer donnee) {

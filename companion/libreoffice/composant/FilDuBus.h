@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Appels.h"
+#include "EtatDuBus.h"
 #include "Methodes.h"
 
 #include <gio/gio.h>
@@ -14,6 +15,10 @@
 
 namespace bureau {
 
+/// The session bus's address; empty without one. GLib would start a bus of its own then: not for us
+/// to do. Any thread.
+std::string AdresseDuBus();
+
 /// The extension's own connection to the session bus, on a thread and a GLib context of its own:
 /// the office's belong to its window system. Quiet without a bus, and back with it.
 class FilDuBus {
@@ -25,8 +30,10 @@ class FilDuBus {
     /// Stops the thread and waits for it: it never waits for the office. Any other thread.
     ~FilDuBus();
 
-    /// How things stand, for people. Any thread.
-    std::string DonneEtat() const;
+    /// How things stand. Any thread.
+    EtatDuBus DonneEtat() const;
+    /// The service's name on the bus, owned or not. Any thread.
+    std::string const& Nom() const noexcept { return nom_; }
 
   private:
     void Tourne();
@@ -36,7 +43,7 @@ class FilDuBus {
     void NomPris();
     void Reessaie();
     void SuisAppelant(char const* appelant);
-    void MetsEtat(std::string etat);
+    void MetsEtat(EtatDuBus etat);
 
     std::string const nom_;
     std::string const chemin_;
@@ -56,7 +63,7 @@ class FilDuBus {
     std::map<std::string, guint> appelants_;
 
     mutable std::mutex mutex_;
-    std::string etat_;
+    EtatDuBus etat_;
     std::thread fil_;
 };
 

@@ -36,6 +36,10 @@ void MetsLangue(bool vrai) {
     francais = vrai;
 }
 
+std::string Dis(char const* enFrancais, char const* enAnglais) {
+    return EstEnFrancais() ? enFrancais : enAnglais;
+}
+
 std::u16string NomDeCorrection(std::u16string const& avant, std::u16string const& apres) {
     if (EstEnFrancais()) {
         return u"Correction : \u00ab\u00a0" + Abrege(avant) + u"\u00a0\u00bb en \u00ab\u00a0" +

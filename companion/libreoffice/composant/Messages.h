@@ -9,6 +9,9 @@ namespace bureau {
 bool EstEnFrancais();
 void MetsLangue(bool francais);
 
+/// The one of the two texts (UTF-8) that is in that language.
+std::string Dis(char const* enFrancais, char const* enAnglais);
+
 /// The name of a correction in the undo list.
 std::u16string NomDeCorrection(std::u16string const& avant, std::u16string const& apres);
 

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "Commandes.h"
+
+#include "Avis.h"
+#include "Constat.h"
+#include "Environnement.h"
+#include "Extension.h"
+#include "Lance.h"
+#include "LigneDeTerminal.h"
+#include "Messages.h"
+
+#include <com/sun/star/frame/XController.hpp>
+#include <com/sun/star/frame/XModel.hpp>
+
+#include <string>
+#include <vector>
+
+using namespace com::sun::star;
+
+namespace bureau {
+
+namespace {
+
+Constat Constate(uno::Reference<frame::XFrame> const& cadre) {
+    Constat constat;
+    Reglages const reglages = ReglagesDeLEnvironnement();
+    constat.hote = ChercheHote(reglages, VOCALYNE_DOSSIER_PROGRAMMES);
+    constat.terminal = ChercheTerminal(reglages);
+    Extension* const extension = Extension::Donne();
+    if (extension == nullptr) {
+        return constat;
+    }
+    constat.service = extension->NomDuService();
+    constat.bus = extension->DonneEtat();
+    constat.documents = extension->NombreDeDocuments();
+    uno::Reference<frame::XController> const vue =
+        cadre.is() ? cadre->getController() : uno::Reference<frame::XController>();
+    if (vue.is() && vue->getModel().is()) {
+        constat.idDocument = extension->Identifiant(vue->getModel());
+    }
+    return constat;
+}
+
+/// Empty when the host was started, else what failed.
+std::string LanceHote(Constat const& constat, char const* operation) {
+    std::string const invite =
+        Dis("Appuyez sur Entrée pour fermer cette fenêtre.", "Press Enter to close this window.");
+    std::string const panne =
+        Lance(LigneDeTerminal(constat.terminal.commande, invite, constat.hote.chemin,
+                              {operation, constat.idDocument}),
+              EnvironnementEnfant(EnvironnementHerite(), AdresseDuBus()));
+    return panne.empty()
+               ? panne
+               : Dis("L’hôte n’a pas pu être lancé : ", "The host could not be started: ") + panne;
+}
+
+std::string Joins(std::vector<std::string> const& phrases) {
+    std::string texte;
+    for (std::string const& phrase : phrases) {
+        texte += (texte.empty() ? "" : "\n\n") + phrase;
+    }
+    return texte;
+}
+
+} // namespace
+
+std::optional<Commande> CommandeDeNom(std::u16string_view nom) {
+    if (nom == u"corrige") {
+        return Commande::Corrige;
+    }
+    if (nom == u"dictionnaire") {
+        return Commande::Dictionnaire;
+    }
+    if (nom == u"diagnostic") {
+        return Commande::Diagnostic;
+    }
+    return std::nullopt;
+}
+
+void ExecuteCommande(Commande commande, uno::Reference<uno::XComponentContext> const& contexte,
+                     uno::Reference<frame::XFrame> const& cadre) {
+    Constat const constat = Constate(cadre);
+    std::vector<std::string> const manques = Manques(constat);
+    if (commande == Commande::Diagnostic) {
+        Avise(contexte, cadre, Rapport(constat), !manques.empty());
+        return;
+    }
+    std::string ennui = Joins(manques);
+    if (ennui.empty()) {
+        ennui = LanceHote(constat, commande == Commande::Corrige ? "corrige" : "dictionnaire");
+    }
+    if (!ennui.empty()) {
+        Avise(contexte, cadre, ennui, true);
+    }
+}
+
+} // namespace bureau

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "EtatDuBus.h"
+#include "Recherche.h"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace bureau {
+
+/// All that it takes for a host to work on the document in front, as it stands now.
+struct Constat {
+    std::string service; ///< the service's name on the bus; empty when the extension did not start
+    EtatDuBus bus;
+    std::size_t documents = 0; ///< how many are served
+    std::string idDocument;    ///< whole identifier of the one in front; empty: it is not served
+    HoteTrouve hote;
+    TerminalTrouve terminal;
+};
+
+/// What is missing, and how to get it: a sentence or two each, in the person's language; none when
+/// nothing is. UTF-8, like the report.
+std::vector<std::string> Manques(Constat const& constat);
+
+/// What "About and diagnosis" says.
+std::string Rapport(Constat const& constat);
+
+} // namespace bureau

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include <string>
+
+namespace bureau {
+
+/// What the environment says about where programs are. Empty members: nothing was said.
+struct Reglages {
+    std::string hote;     ///< VOCALYNE_HOTE: the host to start, and no other
+    std::string terminal; ///< VOCALYNE_TERMINAL: a terminal emulator, with arguments as for a shell
+    std::string chemins;  ///< PATH
+    std::string maison;   ///< HOME
+};
+
+Reglages ReglagesDeLEnvironnement();
+
+} // namespace bureau

@@ -1,0 +1,84 @@
+# SPDX-License-Identifier: MPL-2.0
+"""What the tests of the menu share: its addresses, and a host and a terminal that take notes."""
+
+import json
+import pathlib
+import sys
+
+import banc
+
+PROTOCOLE = "com.ombrel.vocalyne:"
+
+HOTE = """#!{python}
+import json, os, pathlib, sys
+pathlib.Path({notes!r}).write_text(json.dumps(
+    {{"arguments": sys.argv[1:], "environnement": dict(os.environ)}}))
+print("the host was here")
+"""
+
+# A terminal as real ones are: a command after -e, on a pseudo-terminal that ends with it.
+TERMINAL = """#!{python}
+import json, os, pathlib, pty, sys
+option, *commande = sys.argv[1:]
+a_part = os.getsid(0) == os.getpid()
+assert option == "-e", option
+pid, maitre = pty.fork()
+if pid == 0:
+    os.execv(commande[0], commande)
+dit = b""
+while not any(invite.encode() in dit for invite in ("Entrée pour fermer", "Enter to close")):
+    dit += os.read(maitre, 4096)
+reste_ouvert = os.waitpid(pid, os.WNOHANG) == (0, 0)
+os.write(maitre, b"\\n")
+os.waitpid(pid, 0)
+pathlib.Path({notes!r} + ".neuf").write_text(json.dumps(
+    {{"dit": dit.decode(), "reste_ouvert": reste_ouvert, "a_part": a_part}}))
+os.rename({notes!r} + ".neuf", {notes!r})
+"""
+
+
+class Outils:
+    """A host and a terminal of the test's own, in a folder with a name that shells would trip over."""
+
+    def __init__(self, nom):
+        self.dossier = banc.DOSSIER / f"outils de l'essai; {nom}"
+        self.dossier.mkdir()
+        self.notes_hote = self.dossier / "hote.json"
+        self.notes_terminal = self.dossier / "terminal.json"
+        self.hote = self._programme("vocalyne-hote", HOTE, self.notes_hote)
+        self.terminal = self._programme("terminal", TERMINAL, self.notes_terminal)
+        self.environnement = {"VOCALYNE_HOTE": str(self.hote),
+                              "VOCALYNE_TERMINAL": f'"{self.terminal}"'}
+
+    def _programme(self, nom, modele, notes):
+        programme = self.dossier / nom
+        programme.write_text(modele.format(python=sys.executable, notes=str(notes)))
+        programme.chmod(0o755)
+        return programme
+
+    def attends(self):
+        """What host and terminal noted of one run, which is then forgotten."""
+        banc.attends(self.notes_terminal.exists, "the terminal to end")
+        notes = [json.loads(n.read_text()) for n in (self.notes_hote, self.notes_terminal)]
+        self.notes_hote.unlink()
+        self.notes_terminal.unlink()
+        return notes
+
+
+def demande(bureau, cadre, commande):
+    """Carries out what a menu entry would, on that window."""
+    bureau.cree("com.sun.star.frame.DispatchHelper").executeDispatch(
+        cadre, PROTOCOLE + commande, "_self", 0, ())
+
+
+def met_en_francais(profil):
+    """A profile whose office speaks French from its first start."""
+    dossier = pathlib.Path(banc.DOSSIER, profil, "user")
+    dossier.mkdir(parents=True)
+    (dossier / "registrymodifications.xcu").write_text(
+        """<?xml version="1.0" encoding="UTF-8"?>
+<oor:items xmlns:oor="http://openoffice.org/2001/registry">
+<item oor:path="/org.openoffice.Office.Linguistic/General">
+<prop oor:name="UILocale" oor:op="fuse"><value>fr</value></prop></item>
+</oor:items>
+""")
