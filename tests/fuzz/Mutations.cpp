@@ -27,7 +27,9 @@ class Deriveur {
     }
 
   private:
-    std::size_t Tire(std::size_t borne) { return borne == 0 ? 0 : hasard_() % borne; }
+    std::size_t Tire(std::size_t borne) {
+        return borne == 0 ? 0 : static_cast<std::size_t>(hasard_() % borne);
+    }
     std::string const& UnGerme() { return germes_[Tire(germes_.size())]; }
     std::string UnMorceau(std::string const& texte) {
         return texte.empty() ? texte : texte.substr(Tire(texte.size()), 1 + Tire(kMorceauMax));
