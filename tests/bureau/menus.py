@@ -8,6 +8,7 @@ import sys
 import banc
 
 PROTOCOLE = "com.ombrel.vocalyne:"
+BARRE = "private:resource/toolbar/addon_com.ombrel.vocalyne"
 
 HOTE = """#!{python}
 import json, os, pathlib, sys

@@ -14,7 +14,6 @@ TITRES = {
            "À propos et diagnostic…"],
 }
 FENETRES = {"swriter": "Writer", "scalc": "Calc", "simpress": "Impress", "sdraw": "Draw"}
-BARRE = "private:resource/toolbar/addon_com.ombrel.vocalyne"
 
 
 class Vus:
@@ -77,7 +76,7 @@ class Vus:
             with self.subTest(genre=genre):
                 doc = self.ouvre(genre)
                 disposition = doc.CurrentController.Frame.LayoutManager
-                banc.attends(lambda: disposition.isElementVisible(BARRE), "the toolbar")
+                banc.attends(lambda: disposition.isElementVisible(menus.BARRE), "the toolbar")
                 self.ecran.photographie(f"barre-{genre}-{self.interface}-{self.langue}")
 
     def test_the_entry_correct_starts_the_host(self):

@@ -6,7 +6,6 @@ import re
 import subprocess
 import threading
 import unittest
-import zipfile
 
 import gi
 gi.require_version("Gio", "2.0")
@@ -17,10 +16,6 @@ from com.sun.star.io import XOutputStream  # noqa: E402
 
 import banc  # noqa: E402
 from ecrivain import Ecrivain  # noqa: E402
-
-VIDE = """<description xmlns="http://openoffice.org/extensions/description/2006">
-<identifier value="org.example.vide"/><version value="1"/></description>"""
-MANIFESTE = """<manifest:manifest xmlns:manifest="http://openoffice.org/2001/manifest"/>"""
 
 METHODES = {
     "ActivePourCorrecteur": (), "ActivePourOutils": (), "AjusteSelectionPourOutils": (0, 0),
@@ -406,27 +401,6 @@ class SansBus(unittest.TestCase):
             check=True)
         self.assertTrue((banc.DOSSIER / "convertie.pdf").exists())
         self.assertNotIn("vocalyne: ", fait.stdout + fait.stderr)
-
-
-class Paquet(unittest.TestCase):
-    def test_removing_the_package_leaves_nothing_behind(self):
-        bus = banc.Bus()
-        self.addCleanup(bus.ferme)
-        bureau = banc.Bureau(bus.adresse, profil="a_vider")
-        bureau.ferme()
-        self.assertIn("com.ombrel.vocalyne.libreoffice", bureau.unopkg("list"))
-        bureau.unopkg("remove", "com.ombrel.vocalyne.libreoffice")
-        self.assertNotIn("vocalyne", bureau.unopkg("list"))
-        # The office's own package manager empties its waste when it next adds something.
-        vide = banc.DOSSIER / "vide.oxt"
-        with zipfile.ZipFile(vide, "w") as paquet:
-            paquet.writestr("description.xml", VIDE)
-            paquet.writestr("META-INF/manifest.xml", MANIFESTE)
-        bureau.unopkg("add", str(vide))
-        bureau.unopkg("remove", "org.example.vide")
-        profil = banc.DOSSIER / "a_vider"
-        restes = [f for f in profil.rglob("*") if "vocalyne-libre" in str(f.relative_to(profil))]
-        self.assertEqual(restes, [])
 
 
 if __name__ == "__main__":

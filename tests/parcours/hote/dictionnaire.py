@@ -138,9 +138,9 @@ class Dictionnaire(unittest.TestCase):
         self.ouvre("Chats noirs\n", 2, 2)
         terminal = self.terminal()
         terminal.attends(INVITE)
-        terminal.tape("1\n")
+        terminal.tape("3\n")
         self.assertEqual(terminal.finis()[0], 0)
-        self.assertEqual(self.zones()[0], "Félin noirs")
+        self.assertEqual(self.zones()[0], "Chien noirs")
 
     def test_quitting_leaves_all_as_it_is(self):
         self.ouvre("un chat noir\n", 3, 7)
