@@ -9,6 +9,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio> // which the library's header needs and does not include
 #include <cstring>
 #include <mythes.hxx>
@@ -63,8 +64,16 @@ std::vector<Sens> ThesaurusMyThes::Cherche(QString const& entree) {
     for (int i = 0; i < nombre; ++i) {
         mentry const& brut = bruts[i];
         Sens lu{DonneGenre(decode(brut.defn)), {}};
-        for (int j = 0; j < brut.count; ++j)
-            lu.synonymes.push_back(Separe(decode(brut.psyns[j])));
+        for (int j = 0; j < brut.count; ++j) {
+            Synonyme const synonyme = Separe(decode(brut.psyns[j]));
+            // Some dictionaries repeat themselves.
+            bool const connu =
+                std::any_of(lu.synonymes.begin(), lu.synonymes.end(), [&](Synonyme const& autre) {
+                    return autre.mot == synonyme.mot && autre.note == synonyme.note;
+                });
+            if (!connu)
+                lu.synonymes.push_back(synonyme);
+        }
         sens.push_back(std::move(lu));
     }
     if (bruts != nullptr)

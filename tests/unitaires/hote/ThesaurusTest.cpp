@@ -61,6 +61,17 @@ TEST_F(Synonymes, MeaningsAndNotesAreReadInTheDictionarysOwnEncoding) {
     EXPECT_EQ(sens[1].synonymes[0].mot, S("(secte)"));
 }
 
+TEST_F(Synonymes, WhatADictionaryRepeatsInOneMeaningIsToldOnce) {
+    Ecris("thes_fr.dat", "UTF-8\nchat|1\n(Nom)|félin|matou|félin|félin (sens proche)\n");
+    Ecris("thes_fr.idx", "UTF-8\n1\nchat|6\n");
+    auto const sens = Ouvre()->Cherche(S("chat"));
+    ASSERT_EQ(sens.size(), 1U);
+    QStringList mots;
+    for (Synonyme const& synonyme : sens[0].synonymes)
+        mots.append(synonyme.mot);
+    EXPECT_EQ(mots, (QStringList{S("félin"), S("matou"), S("félin")}));
+}
+
 TEST_F(Synonymes, FilesThatAreSomethingElseAreTold) {
     for (QByteArray const& contenu : {QByteArray(), QByteArray("\x7f"
                                                                "ELF\0\0",
