@@ -2,6 +2,7 @@
 #include "DocumentOuvert.h"
 
 #include "Chaines.h"
+#include "Erreur.h"
 
 #include <com/sun/star/awt/XTopWindow.hpp>
 #include <com/sun/star/awt/XWindow.hpp>
@@ -65,55 +66,62 @@ void DocumentOuvert::Active() const {
     }
 }
 
+std::unique_ptr<Choix> DocumentOuvert::LisChoix() {
+    std::unique_ptr<Choix> choix = LisChoixDuBureau();
+    if (retenue_) {
+        if (choix && EstEncore(*retenue_, *choix)) {
+            return std::make_unique<ChoixRetenu>(carnet_.ParCle(retenue_->cle), retenue_->plage);
+        }
+        retenue_.reset();
+    }
+    return choix;
+}
+
+bool DocumentOuvert::EstEncore(Retenue const& retenue, Choix& choix) const {
+    std::shared_ptr<ZoneOuverte> const zone = carnet_.ParCle(retenue.cle);
+    try {
+        return zone && choix.EstEntier(*zone) && zone->Lis().DonneTexte() == retenue.texte;
+    } catch (Erreur const&) {
+        return false; // it left the document
+    }
+}
+
 void DocumentOuvert::Parcours(Visiteur const& visiteur) {
-    std::optional<Selection> const selection = LisSelection();
-    bool commencee = false;
-    bool finie = !selection;
+    std::unique_ptr<Choix> const choix = LisChoix();
     carnet_.Commence();
     ParcoursZones([&](std::shared_ptr<ZoneOuverte> const& zone, compagnon::PlanDePortions&& plan) {
-        Intervalle choisi;
-        if (!finie) {
-            bool const debute = !commencee && zone->EstCelleDe(selection->objetDebut);
-            bool const finit = (commencee || debute) && zone->EstCelleDe(selection->objetFin);
-            commencee = commencee || debute;
-            if (debute || finit) {
-                zone->Lis(); // the ranges that a place is looked up in
-            }
-            if (commencee && (debute || finit || zone->EstVoisineDe(selection->objetDebut))) {
-                std::size_t const fin = plan.DonneTexte().size();
-                choisi.debut = static_cast<std::int32_t>(
-                    debute ? plan.DonneDecalage(zone->PlaceDe(selection->debut)) : 0);
-                choisi.fin = static_cast<std::int32_t>(
-                    finit ? plan.DonneDecalage(zone->PlaceDe(selection->fin)) : fin);
-            }
-            finie = finit;
-        }
+        auto const choisi = choix ? choix->Dans(*zone, plan) : std::nullopt;
         visiteur({zone, std::move(plan), choisi, false});
     });
     carnet_.Termine();
 }
 
 std::optional<ZoneLue> DocumentOuvert::DonneSelection() {
-    std::optional<Selection> const selection = LisSelection();
-    if (!selection) {
+    std::unique_ptr<Choix> choix = LisChoix();
+    if (!choix) {
         return std::nullopt;
     }
-    std::shared_ptr<ZoneOuverte> zone = carnet_.Retrouve(selection->objetDebut);
+    std::shared_ptr<ZoneOuverte> zone = choix->Premiere(carnet_);
+    bool deborde = zone && choix->Deborde();
     if (!zone) {
-        // Not met yet: only a walk knows what a paragraph stands in.
-        Parcours([](ZoneLue const&) {});
-        zone = carnet_.Retrouve(selection->objetDebut);
+        Parcours([&](ZoneLue const& lue) {
+            deborde = deborde || (zone && lue.selection);
+            zone = zone || !lue.selection ? zone : lue.zone;
+        });
+        choix = LisChoix();
     }
-    if (!zone) {
+    if (!zone || !choix) {
         return std::nullopt;
     }
     compagnon::PlanDePortions plan = zone->Lis();
-    std::size_t const debut = plan.DonneDecalage(zone->PlaceDe(selection->debut));
-    std::size_t const fin = selection->objetDebut == selection->objetFin
-                                ? plan.DonneDecalage(zone->PlaceDe(selection->fin))
-                                : plan.DonneTexte().size();
-    Intervalle const choisi{static_cast<std::int32_t>(debut), static_cast<std::int32_t>(fin)};
-    return ZoneLue{zone, std::move(plan), choisi, selection->objetDebut != selection->objetFin};
+    auto const choisi = choix->Dans(*zone, plan);
+    return ZoneLue{zone, std::move(plan), choisi.value_or(Intervalle()), deborde};
+}
+
+void DocumentOuvert::Selectionne(ZoneOuverte& zone, compagnon::PlanDePortions const& plan,
+                                 Intervalle plage) {
+    zone.Selectionne(plan, plage.Debut(), plage.Fin());
+    retenue_ = Retenue{zone.Cle(), plan.DonneTexte(), plage};
 }
 
 } // namespace bureau

@@ -2,10 +2,9 @@
 #pragma once
 
 #include "CarnetDeZones.h"
-#include "Intervalle.h"
+#include "Choix.h"
 
 #include <com/sun/star/frame/XModel.hpp>
-#include <com/sun/star/text/XTextRange.hpp>
 
 #include <functional>
 #include <memory>
@@ -18,7 +17,7 @@ namespace bureau {
 struct ZoneLue {
     std::shared_ptr<ZoneOuverte> zone;
     compagnon::PlanDePortions plan;
-    compagnon::Intervalle selection;
+    std::optional<compagnon::Intervalle> selection; ///< its part in here, if it reaches here
     bool deborde = false; ///< the selection goes on in another zone (told by `DonneSelection`)
 };
 
@@ -53,29 +52,38 @@ class DocumentOuvert {
     std::shared_ptr<ZoneOuverte> Zone(std::string const& cle) const { return carnet_.ParCle(cle); }
 
     /// The zone where the selection starts, and its part inside of it; nothing when no text is
-    /// selected and no caret stands in a text.
+    /// selected and no caret stands in a text. `selection` is set.
     std::optional<ZoneLue> DonneSelection();
 
+    /// Selects a range of a zone (of the plan just read) and brings it into view.
+    void Selectionne(ZoneOuverte& zone, compagnon::PlanDePortions const& plan,
+                     compagnon::Intervalle plage);
+
   protected:
-    /// A selection as the office has it.
-    struct Selection {
-        com::sun::star::uno::Reference<com::sun::star::uno::XInterface> objetDebut;
-        com::sun::star::uno::Reference<com::sun::star::uno::XInterface> objetFin;
-        com::sun::star::uno::Reference<com::sun::star::text::XTextRange> debut;
-        com::sun::star::uno::Reference<com::sun::star::text::XTextRange> fin;
-    };
     using Recueil =
         std::function<void(std::shared_ptr<ZoneOuverte> const&, compagnon::PlanDePortions&&)>;
 
     virtual void ParcoursZones(Recueil const& recueil) = 0;
-    virtual std::optional<Selection> LisSelection() = 0;
+    /// What is selected now; null for nothing with a text.
+    virtual std::unique_ptr<Choix> LisChoixDuBureau() = 0;
 
     CarnetDeZones& Carnet() noexcept { return carnet_; }
 
   private:
+    /// A range selected last, where the office itself selects no more than what holds it.
+    struct Retenue {
+        std::string cle;
+        std::u16string texte;
+        compagnon::Intervalle plage;
+    };
+
+    std::unique_ptr<Choix> LisChoix();
+    bool EstEncore(Retenue const& retenue, Choix& choix) const;
+
     com::sun::star::uno::Reference<com::sun::star::frame::XModel> modele_;
     std::string cle_;
     CarnetDeZones carnet_;
+    std::optional<Retenue> retenue_;
 };
 
 } // namespace bureau

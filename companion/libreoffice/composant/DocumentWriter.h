@@ -14,7 +14,7 @@ class DocumentWriter : public DocumentOuvert {
 
   protected:
     void ParcoursZones(Recueil const& recueil) override;
-    std::optional<Selection> LisSelection() override;
+    std::unique_ptr<Choix> LisChoixDuBureau() override;
 
   private:
     std::shared_ptr<FondWriter const> fond_;

@@ -2,16 +2,12 @@
 #include "LecteurPortions.h"
 
 #include "Chaines.h"
+#include "StyleDeLettres.h"
 
-#include <com/sun/star/awt/FontSlant.hpp>
-#include <com/sun/star/awt/FontStrikeout.hpp>
-#include <com/sun/star/awt/FontUnderline.hpp>
-#include <com/sun/star/awt/FontWeight.hpp>
 #include <com/sun/star/beans/PropertyValue.hpp>
 #include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/container/XContentEnumerationAccess.hpp>
-#include <com/sun/star/lang/Locale.hpp>
 #include <com/sun/star/lang/XServiceInfo.hpp>
 #include <com/sun/star/text/TextContentAnchorType.hpp>
 #include <com/sun/star/text/XTextField.hpp>
@@ -24,22 +20,6 @@ namespace bureau {
 
 namespace {
 
-// In the order in which the office looks properties up fastest: ascending.
-enum Propriete {
-    kExposant,
-    kMasque,
-    kLangue,
-    kInclinaison,
-    kBarre,
-    kSoulignement,
-    kGraisse,
-    kGenre,
-    kNombre
-};
-char const* const kNoms[kNombre] = {"CharEscapement", "CharHidden",     "CharLocale",
-                                    "CharPosture",    "CharStrikeout",  "CharUnderline",
-                                    "CharWeight",     "TextPortionType"};
-
 uno::Any Valeur(uno::Reference<beans::XPropertySet> const& objet, char const* nom) {
     return objet.is() ? objet->getPropertyValue(OUString::createFromAscii(nom)) : uno::Any();
 }
@@ -47,36 +27,6 @@ uno::Any Valeur(uno::Reference<beans::XPropertySet> const& objet, char const* no
 bool Vrai(uno::Any const& valeur) {
     bool vrai = false;
     return (valeur >>= vrai) && vrai;
-}
-
-std::uint16_t Style(uno::Any const* valeurs) {
-    std::uint16_t style = 0;
-    float graisse = 0;
-    if ((valeurs[kGraisse] >>= graisse) && graisse >= awt::FontWeight::SEMIBOLD) {
-        style |= compagnon::kStyleGras;
-    }
-    awt::FontSlant inclinaison = awt::FontSlant_NONE;
-    if ((valeurs[kInclinaison] >>= inclinaison) && inclinaison != awt::FontSlant_NONE &&
-        inclinaison != awt::FontSlant_DONTKNOW) {
-        style |= compagnon::kStyleItalique;
-    }
-    sal_Int16 nombre = 0;
-    if ((valeurs[kSoulignement] >>= nombre) && nombre != awt::FontUnderline::NONE &&
-        nombre != awt::FontUnderline::DONTKNOW) {
-        style |= compagnon::kStyleSouligne;
-    }
-    if ((valeurs[kBarre] >>= nombre) && nombre != awt::FontStrikeout::NONE &&
-        nombre != awt::FontStrikeout::DONTKNOW) {
-        style |= compagnon::kStyleBarre;
-    }
-    if ((valeurs[kExposant] >>= nombre) && nombre != 0) {
-        style |= nombre > 0 ? compagnon::kStyleExposant : compagnon::kStyleIndice;
-    }
-    lang::Locale langue;
-    if ((valeurs[kLangue] >>= langue) && langue.Language == "zxx") {
-        style |= compagnon::kStyleSansCorrection;
-    }
-    return style;
 }
 
 /// An image or frame in the line takes a step there; one that is only anchored takes none.
@@ -105,11 +55,7 @@ bool EstControleFerme(uno::Reference<beans::XPropertySet> const& controle) {
 } // namespace
 
 LecteurPortions::LecteurPortions()
-    : proprietes_(kNombre) {
-    for (int i = 0; i < kNombre; ++i) {
-        proprietes_[i] = OUString::createFromAscii(kNoms[i]);
-    }
-}
+    : proprietes_(NomsDesProprietesDeLettres()) {}
 
 ParagrapheLu LecteurPortions::Lis(uno::Reference<container::XEnumerationAccess> const& paragraphe,
                                   int& suppressions) const {
@@ -137,7 +83,7 @@ void LecteurPortions::LisSuite(uno::Reference<container::XEnumerationAccess> con
 
         if (genre == "Text") {
             ajoute(exclue ? GenrePortion::Exclue : GenrePortion::Texte, etendue,
-                   std::u16string(Vue(etendue->getString())), Style(v));
+                   std::u16string(Vue(etendue->getString())), StyleDeLettres(v));
             continue;
         }
         uno::Reference<beans::XPropertySet> const portion(etendue, uno::UNO_QUERY);
@@ -169,7 +115,7 @@ void LecteurPortions::LisSuite(uno::Reference<container::XEnumerationAccess> con
                 lu.rencontres.push_back({Rencontre::Genre::Commentaire, champ.get()});
             }
         } else if (genre == "Footnote") {
-            ajoute(GenrePortion::Substitut, etendue, {}, Style(v));
+            ajoute(GenrePortion::Substitut, etendue, {}, StyleDeLettres(v));
             uno::Reference<uno::XInterface> note;
             Valeur(portion, "Footnote") >>= note;
             uno::Reference<lang::XServiceInfo> const services(note, uno::UNO_QUERY);
@@ -193,7 +139,7 @@ void LecteurPortions::LisSuite(uno::Reference<container::XEnumerationAccess> con
             }
             ajoute(dansLaLigne ? GenrePortion::Substitut : GenrePortion::Ancre, etendue);
         } else if (genre == "LineBreak") {
-            ajoute(GenrePortion::Substitut, etendue, u"\n", Style(v));
+            ajoute(GenrePortion::Substitut, etendue, u"\n", StyleDeLettres(v));
         } else if (genre == "InContentMetadata") {
             uno::Reference<container::XEnumerationAccess> interieur;
             Valeur(portion, "InContentMetadata") >>= interieur;
@@ -215,7 +161,7 @@ void LecteurPortions::LisSuite(uno::Reference<container::XEnumerationAccess> con
             }
         } else {
             // A field, and whatever a later office may add: one thing, not letters.
-            ajoute(GenrePortion::Substitut, etendue, {}, Style(v));
+            ajoute(GenrePortion::Substitut, etendue, {}, StyleDeLettres(v));
         }
     }
 }

@@ -4,6 +4,7 @@
 #include "Chaines.h"
 #include "Curseur.h"
 #include "Erreur.h"
+#include "PlaceParmi.h"
 
 #include <com/sun/star/container/XEnumerationAccess.hpp>
 #include <com/sun/star/frame/XController.hpp>
@@ -99,38 +100,28 @@ void ParagrapheWriter::Selectionne(PlanDePortions const& plan, std::size_t debut
     vue->select(uno::Any(uno::Reference<text::XTextRange>(curseur, uno::UNO_QUERY_THROW)));
 }
 
-bool ParagrapheWriter::EstCelleDe(uno::Reference<uno::XInterface> const& objet) {
+bool ParagrapheWriter::EstCelleDe(uno::Reference<uno::XInterface> const& objet) const {
     return uno::Reference<uno::XInterface>(paragraphe_, uno::UNO_QUERY).get() == objet.get();
 }
 
-bool ParagrapheWriter::EstVoisineDe(uno::Reference<uno::XInterface> const& objet) {
+bool ParagrapheWriter::EstVoisineDe(uno::Reference<uno::XInterface> const& objet) const {
     uno::Reference<text::XTextRange> const etendue(objet, uno::UNO_QUERY);
     return etendue.is() && etendue->getText() == contenant_->texte;
 }
 
-PlaceDansPortion ParagrapheWriter::PlaceDe(uno::Reference<text::XTextRange> const& position) {
-    uno::Reference<text::XTextRangeCompare> const ordre(contenant_->texte, uno::UNO_QUERY_THROW);
-    // The last portion that starts at or before the position; 1 means "first one starts before".
-    std::size_t portion = 0;
-    for (std::size_t i = 0; i < etendues_.size(); ++i) {
-        if (ordre->compareRegionStarts(etendues_[i]->getStart(), position) < 0) {
-            break;
+bool ParagrapheWriter::EstDans(std::set<uno::XInterface*> const& textes) const {
+    for (Contenant const* autour = contenant_.get(); autour != nullptr;
+         autour = autour->parent.get()) {
+        uno::Reference<uno::XInterface> const identite(autour->texte, uno::UNO_QUERY);
+        if (textes.count(identite.get()) > 0) {
+            return true;
         }
-        portion = i;
     }
-    if (etendues_.empty() ||
-        ordre->compareRegionStarts(etendues_[portion]->getStart(), position) <= 0) {
-        return {portion, 0};
-    }
-    uno::Reference<text::XTextCursor> const curseur =
-        PlaceCurseur(contenant_->texte, etendues_[portion], 0);
-    if (ordre->compareRegionStarts(etendues_[portion]->getEnd(), position) > 0) {
-        curseur->gotoRange(etendues_[portion]->getEnd(), true);
-    } else {
-        curseur->gotoRange(position, true);
-    }
-    std::size_t const lettres = Vue(curseur->getString()).size();
-    return {portion, lettres};
+    return false;
+}
+
+PlaceDansPortion ParagrapheWriter::PlaceDe(uno::Reference<text::XTextRange> const& position) const {
+    return PlaceParmi(etendues_, contenant_->texte, position);
 }
 
 } // namespace bureau

@@ -10,6 +10,7 @@
 #include <com/sun/star/text/XTextContent.hpp>
 
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -38,12 +39,20 @@ class ParagrapheWriter : public ZoneOuverte {
     void Applique(CorrectionPrete const& correction) override;
     void Selectionne(compagnon::PlanDePortions const& plan, std::size_t debut,
                      std::size_t fin) override;
-    bool EstCelleDe(
-        com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet) override;
+
+    /// Is it the zone of that object of the office?
+    bool
+    EstCelleDe(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet) const;
+    /// Does it stand in the same text (body, cell, note) as that object?
     bool EstVoisineDe(
-        com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet) override;
-    compagnon::PlaceDansPortion PlaceDe(
-        com::sun::star::uno::Reference<com::sun::star::text::XTextRange> const& position) override;
+        com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet) const;
+    /// Does it stand in one of these texts, or in what is nested in one?
+    bool EstDans(std::set<com::sun::star::uno::XInterface*> const& textes) const;
+
+    /// The place, in the last plan read, of a range of the document; what lies outside counts as
+    /// the nearest end.
+    compagnon::PlaceDansPortion
+    PlaceDe(com::sun::star::uno::Reference<com::sun::star::text::XTextRange> const& position) const;
 
   private:
     com::sun::star::uno::Reference<com::sun::star::text::XTextRange>

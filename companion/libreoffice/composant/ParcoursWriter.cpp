@@ -211,7 +211,7 @@ void ParcoursWriter::ParcoursCadre(uno::Reference<uno::XInterface> const& objet,
             ParcoursTexte(dedans); // a shape whose text is a frame of Writer's own
         } else {
             ParcoursTexteDessine(
-                objet, [&] { return TexteDeForme(objet, fond_->modele, dedans); }, carnet_,
+                objet, [&] { return TexteDeForme(objet, objet, fond_->modele, dedans); }, carnet_,
                 recueil_);
         }
     }

@@ -91,7 +91,7 @@ bool Service::PermetsRetourDeCharriot(std::string const& appelant) {
         return false;
     }
     auto const lue = document->DonneSelection();
-    return lue && !lue->zone->EstProtegee();
+    return lue && lue->zone->PermetsRetour() && !lue->zone->EstProtegee();
 }
 
 std::string Service::SynchronisePositions(std::string const& appelant, std::string const& leId) {
@@ -110,7 +110,8 @@ std::string Service::SynchronisePositions(std::string const& appelant, std::stri
     std::unordered_map<std::string, compagnon::TexteSuivi> croyances;
     document->Parcours([&](ZoneLue const& lue) {
         std::u16string const& texte = lue.plan.DonneTexte();
-        ecrivain.Ajoute(lue.zone->Cle(), texte, lue.selection, lue.plan.DonneStyles());
+        ecrivain.Ajoute(lue.zone->Cle(), texte, lue.selection.value_or(Intervalle()),
+                        lue.plan.DonneStyles());
         croyances[lue.zone->Cle()].Donne(std::make_shared<std::u16string const>(texte));
     });
     std::optional<std::string> zones = ecrivain.Termine();
@@ -145,7 +146,7 @@ void Service::SelectionneIntervalle(std::string const& appelant, std::string con
     if (!trouve) {
         throw Refuse("the document has changed there");
     }
-    zone->Selectionne(plan, trouve.plage.Debut(), trouve.plage.Fin());
+    document->Selectionne(*zone, plan, trouve.plage);
 }
 
 std::u16string Service::DonneContenuSelection(std::string const& appelant) {
@@ -160,13 +161,14 @@ std::pair<std::u16string, Intervalle> Service::DonneContexte(std::string const& 
         session.contexte.reset();
         return {};
     }
-    session.contexte = Session::Contexte{lue->zone->Cle(), lue->plan.DonneTexte(), lue->selection};
-    return {lue->plan.DonneTexte(), lue->selection};
+    session.contexte = Session::Contexte{lue->zone->Cle(), lue->plan.DonneTexte(), *lue->selection};
+    return {lue->plan.DonneTexte(), *lue->selection};
 }
 
 void Service::AjusteSelectionPourOutils(std::string const& appelant, std::int32_t deltaDebut,
                                         std::int32_t deltaFin) {
-    auto lue = DocumentDe(appelant)->DonneSelection();
+    std::shared_ptr<DocumentOuvert> const document = DocumentDe(appelant);
+    auto lue = document->DonneSelection();
     if (!lue) {
         throw Refuse("no text is selected");
     }
@@ -175,9 +177,9 @@ void Service::AjusteSelectionPourOutils(std::string const& appelant, std::int32_
         return static_cast<std::int32_t>(std::clamp(position, minimum, taille));
     };
     Intervalle selection;
-    selection.debut = borne(std::int64_t{lue->selection.debut} + deltaDebut, 0);
-    selection.fin = borne(std::int64_t{lue->selection.fin} + deltaFin, selection.debut);
-    lue->zone->Selectionne(lue->plan, selection.Debut(), selection.Fin());
+    selection.debut = borne(std::int64_t{lue->selection->debut} + deltaDebut, 0);
+    selection.fin = borne(std::int64_t{lue->selection->fin} + deltaFin, selection.debut);
+    document->Selectionne(*lue->zone, lue->plan, selection);
     sessions_[appelant].contexte =
         Session::Contexte{lue->zone->Cle(), lue->plan.DonneTexte(), selection};
 }
@@ -198,16 +200,17 @@ void Service::RemplaceEtReselectionne(std::string const& appelant, std::u16strin
         throw Refuse("the selection spans several paragraphs");
     }
     std::optional<Session::Contexte>& contexte = sessions_[appelant].contexte;
-    if (contexte && (contexte->zone != lue->zone->Cle() || contexte->selection != lue->selection ||
+    if (contexte && (contexte->zone != lue->zone->Cle() || contexte->selection != *lue->selection ||
                      contexte->texte != lue->plan.DonneTexte())) {
         throw Refuse("the selection is another one than the caller was told");
     }
-    Remplace(*document, *lue->zone, lue->plan, lue->selection, mot);
-    Intervalle const resultat{lue->selection.debut,
-                              lue->selection.debut + static_cast<std::int32_t>(mot.size())};
+    Remplace(*document, *lue->zone, lue->plan, *lue->selection, mot);
     PlanDePortions const plan = lue->zone->Lis();
-    lue->zone->Selectionne(plan, resultat.Debut(),
-                           std::min(resultat.Fin(), plan.DonneTexte().size()));
+    auto const taille = static_cast<std::int32_t>(plan.DonneTexte().size());
+    Intervalle const resultat{
+        std::min(lue->selection->debut, taille),
+        std::min(lue->selection->debut + static_cast<std::int32_t>(mot.size()), taille)};
+    document->Selectionne(*lue->zone, plan, resultat);
     contexte = Session::Contexte{lue->zone->Cle(), plan.DonneTexte(), resultat};
 }
 

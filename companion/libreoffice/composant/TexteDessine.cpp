@@ -6,8 +6,10 @@
 #include "Chaines.h"
 #include "Curseur.h"
 #include "Erreur.h"
+#include "PlaceParmi.h"
 
 #include <com/sun/star/container/XEnumerationAccess.hpp>
+#include <com/sun/star/text/XTextRangeCompare.hpp>
 
 #include <algorithm>
 #include <utility>
@@ -45,6 +47,12 @@ bool VideUnePortion(PlanDePortions const& plan,
 
 } // namespace
 
+bool OuvreUneLigne(std::vector<compagnon::EtapeEdition> const& etapes) {
+    return std::any_of(etapes.begin(), etapes.end(), [](compagnon::EtapeEdition const& etape) {
+        return etape.ajout.find(u'\n') != std::u16string::npos;
+    });
+}
+
 TexteDessine::TexteDessine(uno::Reference<uno::XInterface> const& objet,
                            uno::Reference<frame::XModel> const& modele,
                            std::shared_ptr<Contenant const> contenant)
@@ -69,6 +77,11 @@ std::vector<ParagrapheLu> TexteDessine::LisTout() const {
 
 std::vector<ParagrapheLu> TexteDessine::Relis(CarnetDeZones& carnet) {
     std::vector<ParagrapheLu> lus = LisTout();
+    Accueille(lus, carnet);
+    return lus;
+}
+
+void TexteDessine::Accueille(std::vector<ParagrapheLu> const& lus, CarnetDeZones& carnet) {
     std::vector<std::u16string> textes;
     textes.reserve(lus.size());
     for (ParagrapheLu const& lu : lus) {
@@ -88,7 +101,28 @@ std::vector<ParagrapheLu> TexteDessine::Relis(CarnetDeZones& carnet) {
     Vide(carnet);
     zones_ = std::move(zones);
     textes_ = std::move(textes);
-    return lus;
+}
+
+std::vector<std::optional<compagnon::Intervalle>>
+TexteDessine::Partage(uno::Reference<text::XTextRange> const& plage) const {
+    uno::Reference<text::XText> const texte = Texte();
+    uno::Reference<text::XTextRangeCompare> const ordre(texte, uno::UNO_QUERY_THROW);
+    std::vector<std::optional<compagnon::Intervalle>> parts;
+    for (ParagrapheLu const& lu : LisTout()) {
+        auto const place = [&](uno::Reference<text::XTextRange> const& position) {
+            return static_cast<std::int32_t>(
+                lu.plan.DonneDecalage(PlaceParmi(lu.etendues, texte, position)));
+        };
+        // 1 means "the first one starts before the second".
+        bool const touche =
+            !lu.etendues.empty() &&
+            ordre->compareRegionStarts(plage->getStart(), lu.etendues.back()->getEnd()) >= 0 &&
+            ordre->compareRegionStarts(lu.etendues.front()->getStart(), plage->getEnd()) >= 0;
+        parts.push_back(touche ? std::make_optional(compagnon::Intervalle{place(plage->getStart()),
+                                                                          place(plage->getEnd())})
+                               : std::nullopt);
+    }
+    return parts;
 }
 
 void TexteDessine::Vide(CarnetDeZones& carnet) {
@@ -112,7 +146,8 @@ bool TexteDessine::Remplace(std::size_t rang, std::size_t debut, std::u16string 
         return false;
     }
     auto const etapes = plan.Prepare(debut, debut + avant.size(), apres);
-    if (!etapes || VideUnePortion(plan, *etapes) || lus[rang].etendues.empty()) {
+    if (!etapes || VideUnePortion(plan, *etapes) || OuvreUneLigne(*etapes) ||
+        lus[rang].etendues.empty()) {
         return false;
     }
     std::vector<std::size_t> const departs = Departs(plan);
@@ -172,22 +207,9 @@ void ParagrapheDessine::Applique(CorrectionPrete const& correction) {
     }
 }
 
-void ParagrapheDessine::Selectionne(PlanDePortions const& plan, std::size_t debut,
-                                    std::size_t fin) {
-    Texte()->Selectionne(rang_, plan, debut, fin);
-}
-
-bool ParagrapheDessine::EstCelleDe(uno::Reference<uno::XInterface> const& /*objet*/) {
-    return false;
-}
-
-bool ParagrapheDessine::EstVoisineDe(uno::Reference<uno::XInterface> const& /*objet*/) {
-    return false;
-}
-
-compagnon::PlaceDansPortion
-ParagrapheDessine::PlaceDe(uno::Reference<text::XTextRange> const& /*position*/) {
-    return {};
+void ParagrapheDessine::Selectionne(PlanDePortions const& /*plan*/, std::size_t /*debut*/,
+                                    std::size_t /*fin*/) {
+    Texte()->Selectionne();
 }
 
 void ParcoursTexteDessine(uno::Reference<uno::XInterface> const& objet,

@@ -3,6 +3,7 @@
 
 #include "CarnetDeZones.h"
 #include "Contenant.h"
+#include "Intervalle.h"
 #include "LecteurPortions.h"
 #include "ZoneOuverte.h"
 
@@ -11,6 +12,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -34,6 +36,8 @@ class TexteDessine : public std::enable_shared_from_this<TexteDessine> {
 
     /// Reads all paragraphs and settles which zone each is; new ones get keys from the book.
     std::vector<ParagrapheLu> Relis(CarnetDeZones& carnet);
+    /// The same for paragraphs that were just read.
+    void Accueille(std::vector<ParagrapheLu> const& lus, CarnetDeZones& carnet);
     std::vector<std::shared_ptr<ParagrapheDessine>> const& Zones() const noexcept { return zones_; }
     /// Takes all zones out of the book.
     void Vide(CarnetDeZones& carnet);
@@ -45,9 +49,15 @@ class TexteDessine : public std::enable_shared_from_this<TexteDessine> {
     /// Does the office make an undo step of its own for a change of this text?
     virtual bool SAnnuleSeul() const = 0;
     virtual bool EstProtege() const { return contenant_ && contenant_->EstProtege(); }
-    /// Selects what can be selected of it, at least the object that holds it.
-    virtual void Selectionne(std::size_t rang, compagnon::PlanDePortions const& plan,
-                             std::size_t debut, std::size_t fin) = 0;
+    /// Selects the object that holds it, which is all that the office offers, and shows it.
+    virtual void Selectionne() = 0;
+    /// The object that the office has as selected when this text is: a shape, a table, a cell.
+    virtual com::sun::star::uno::Reference<com::sun::star::uno::XInterface> Porteur() const {
+        return objet_;
+    }
+    /// By paragraph, the part of a range of this text in it.
+    std::vector<std::optional<compagnon::Intervalle>>
+    Partage(com::sun::star::uno::Reference<com::sun::star::text::XTextRange> const& plage) const;
 
     com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& Modele() const noexcept {
         return modele_;
@@ -58,7 +68,8 @@ class TexteDessine : public std::enable_shared_from_this<TexteDessine> {
 
   protected:
     virtual com::sun::star::uno::Reference<com::sun::star::text::XText> Texte() const = 0;
-    std::vector<ParagrapheLu> LisTout() const;
+    virtual std::vector<ParagrapheLu> LisTout() const;
+    LecteurPortions const& Lecteur() const noexcept { return lecteur_; }
 
   private:
     com::sun::star::uno::Reference<com::sun::star::uno::XInterface> objet_;
@@ -76,23 +87,23 @@ class ParagrapheDessine : public ZoneOuverte {
 
     compagnon::PlanDePortions Lis() override;
     bool EstProtegee() override;
+    bool PermetsRetour() const override { return false; }
     void Applique(CorrectionPrete const& correction) override;
     void Selectionne(compagnon::PlanDePortions const& plan, std::size_t debut,
                      std::size_t fin) override;
-    bool EstCelleDe(
-        com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet) override;
-    bool EstVoisineDe(
-        com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet) override;
-    compagnon::PlaceDansPortion PlaceDe(
-        com::sun::star::uno::Reference<com::sun::star::text::XTextRange> const& position) override;
+
+    /// The text that it is a paragraph of; throws `Erreur` when that has left the document.
+    std::shared_ptr<TexteDessine> Texte() const;
+    std::size_t Rang() const noexcept { return rang_; }
 
   private:
-    std::shared_ptr<TexteDessine> Texte() const;
-
     std::weak_ptr<TexteDessine> texte_; // which owns this zone
     CarnetDeZones& carnet_;
     std::size_t rang_ = 0; // since the last reading
 };
+
+/// Would a step part a paragraph in two? The paragraphs of these texts are zones of their own.
+bool OuvreUneLigne(std::vector<compagnon::EtapeEdition> const& etapes);
 
 /// Hands out the zones of such a text; `fabrique` makes it when it is met for the first time.
 void ParcoursTexteDessine(

@@ -4,6 +4,8 @@
 #include "Chaines.h"
 
 #include <com/sun/star/beans/XPropertySet.hpp>
+#include <com/sun/star/drawing/XDrawPage.hpp>
+#include <com/sun/star/drawing/XDrawView.hpp>
 #include <com/sun/star/text/XTextContent.hpp>
 #include <com/sun/star/view/XSelectionSupplier.hpp>
 
@@ -17,21 +19,36 @@ namespace {
 
 class Forme : public TexteDessine {
   public:
-    using TexteDessine::TexteDessine;
+    Forme(uno::Reference<uno::XInterface> const& texte,
+          uno::Reference<uno::XInterface> const& porteur,
+          uno::Reference<frame::XModel> const& modele, std::shared_ptr<Contenant const> contenant)
+        : TexteDessine(texte, modele, std::move(contenant))
+        , porteur_(porteur) {}
 
     bool SAnnuleSeul() const override { return false; }
 
-    void Selectionne(std::size_t /*rang*/, compagnon::PlanDePortions const& /*plan*/,
-                     std::size_t /*debut*/, std::size_t /*fin*/) override {
-        uno::Reference<view::XSelectionSupplier> const vue(Modele()->getCurrentController(),
-                                                           uno::UNO_QUERY_THROW);
-        vue->select(uno::Any(Objet()));
+    uno::Reference<uno::XInterface> Porteur() const override { return porteur_; }
+
+    void Selectionne() override {
+        uno::Reference<frame::XController> const vue(Modele()->getCurrentController(),
+                                                     uno::UNO_SET_THROW);
+        uno::Reference<drawing::XDrawPage> const page(porteur_, uno::UNO_QUERY);
+        if (page.is()) {
+            uno::Reference<drawing::XDrawView> const pages(vue, uno::UNO_QUERY_THROW);
+            pages->setCurrentPage(page);
+        } else {
+            uno::Reference<view::XSelectionSupplier> const choix(vue, uno::UNO_QUERY_THROW);
+            choix->select(uno::Any(porteur_));
+        }
     }
 
   protected:
     uno::Reference<text::XText> Texte() const override {
         return uno::Reference<text::XText>(Objet(), uno::UNO_QUERY_THROW);
     }
+
+  private:
+    uno::Reference<uno::XInterface> porteur_;
 };
 
 class Commentaire : public TexteDessine {
@@ -53,7 +70,8 @@ class Commentaire : public TexteDessine {
                 plan.DonnePortions().empty() ? std::u16string() : plan.DonnePortions()[0].source;
             if (i == rang) {
                 auto const etapes = plan.Prepare(debut, debut + avant.size(), apres);
-                if (!etapes || plan.DonneTexte().compare(debut, avant.size(), avant) != 0) {
+                if (!etapes || OuvreUneLigne(*etapes) ||
+                    plan.DonneTexte().compare(debut, avant.size(), avant) != 0) {
                     return false;
                 }
                 for (compagnon::EtapeEdition const& etape : *etapes) {
@@ -66,8 +84,7 @@ class Commentaire : public TexteDessine {
         return true;
     }
 
-    void Selectionne(std::size_t /*rang*/, compagnon::PlanDePortions const& /*plan*/,
-                     std::size_t /*debut*/, std::size_t /*fin*/) override {
+    void Selectionne() override {
         uno::Reference<text::XTextContent> const contenu(Objet(), uno::UNO_QUERY_THROW);
         uno::Reference<view::XSelectionSupplier> const vue(Modele()->getCurrentController(),
                                                            uno::UNO_QUERY_THROW);
@@ -89,10 +106,11 @@ class Commentaire : public TexteDessine {
 
 } // namespace
 
-std::shared_ptr<TexteDessine> TexteDeForme(uno::Reference<uno::XInterface> const& forme,
+std::shared_ptr<TexteDessine> TexteDeForme(uno::Reference<uno::XInterface> const& texte,
+                                           uno::Reference<uno::XInterface> const& porteur,
                                            uno::Reference<frame::XModel> const& modele,
                                            std::shared_ptr<Contenant const> contenant) {
-    return std::make_shared<Forme>(forme, modele, std::move(contenant));
+    return std::make_shared<Forme>(texte, porteur, modele, std::move(contenant));
 }
 
 std::shared_ptr<TexteDessine> TexteDeCommentaire(uno::Reference<uno::XInterface> const& champ,

@@ -3,8 +3,6 @@
 
 #include "PlanDePortions.h"
 
-#include <com/sun/star/text/XTextRange.hpp>
-
 #include <cstddef>
 #include <string>
 #include <utility>
@@ -41,24 +39,15 @@ class ZoneOuverte {
     /// Is it protected from typing (section, cell, frame)? Says nothing of the whole document.
     virtual bool EstProtegee() = 0;
 
+    /// Can a person start a new line in it?
+    virtual bool PermetsRetour() const { return true; }
+
     /// Carries out a correction of the last plan read.
     virtual void Applique(CorrectionPrete const& correction) = 0;
 
     /// Selects the range of the last plan read and brings it into view.
     virtual void Selectionne(compagnon::PlanDePortions const& plan, std::size_t debut,
                              std::size_t fin) = 0;
-
-    /// Is it the zone of that object of the office?
-    virtual bool
-    EstCelleDe(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet) = 0;
-    /// Does it stand in the same text (body, cell, note) as that object?
-    virtual bool
-    EstVoisineDe(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet) = 0;
-
-    /// The place, in the last plan read, of a range of the document; what lies outside counts as
-    /// the nearest end.
-    virtual compagnon::PlaceDansPortion
-    PlaceDe(com::sun::star::uno::Reference<com::sun::star::text::XTextRange> const& position) = 0;
 
   private:
     std::string cle_;

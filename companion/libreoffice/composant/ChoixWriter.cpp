@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "ChoixWriter.h"
+
+#include "ChoixDessine.h"
+#include "ParagrapheWriter.h"
+
+#include <com/sun/star/beans/XPropertySet.hpp>
+#include <com/sun/star/container/XIndexAccess.hpp>
+#include <com/sun/star/text/XTextCursor.hpp>
+#include <com/sun/star/text/XTextRangeCompare.hpp>
+
+#include <utility>
+
+using namespace com::sun::star;
+using compagnon::Intervalle;
+
+namespace bureau {
+
+namespace {
+
+/// The paragraph's own object, the one that enumerations give too.
+uno::Reference<uno::XInterface> ParagrapheEn(uno::Reference<text::XTextRange> const& position) {
+    uno::Reference<beans::XPropertySet> const proprietes(position, uno::UNO_QUERY);
+    uno::Reference<uno::XInterface> paragraphe;
+    if (proprietes.is()) {
+        proprietes->getPropertyValue("TextParagraph") >>= paragraphe;
+    }
+    return uno::Reference<uno::XInterface>(paragraphe, uno::UNO_QUERY);
+}
+
+/// From a place in one paragraph to a place in the same or a later one.
+class ChoixDePlage : public Choix {
+  public:
+    ChoixDePlage(uno::Reference<text::XTextRange> const& debut,
+                 uno::Reference<text::XTextRange> const& fin)
+        : debut_(debut)
+        , fin_(fin)
+        , objetDebut_(ParagrapheEn(debut))
+        , objetFin_(ParagrapheEn(fin)) {}
+
+    bool EstComplet() const { return objetDebut_.is() && objetFin_.is(); }
+
+    std::optional<Intervalle> Dans(ZoneOuverte& zone,
+                                   compagnon::PlanDePortions const& plan) override {
+        auto* const paragraphe = finie_ ? nullptr : dynamic_cast<ParagrapheWriter*>(&zone);
+        if (paragraphe == nullptr) {
+            return std::nullopt;
+        }
+        bool const debute = !commencee_ && paragraphe->EstCelleDe(objetDebut_);
+        bool const finit = (commencee_ || debute) && paragraphe->EstCelleDe(objetFin_);
+        commencee_ = commencee_ || debute;
+        finie_ = finit;
+        if (!commencee_ || !(debute || finit || paragraphe->EstVoisineDe(objetDebut_))) {
+            return std::nullopt;
+        }
+        if (debute || finit) {
+            paragraphe->Lis(); // the ranges that a place is looked up in
+        }
+        std::size_t const bout = plan.DonneTexte().size();
+        return Intervalle{
+            static_cast<std::int32_t>(debute ? plan.DonneDecalage(paragraphe->PlaceDe(debut_)) : 0),
+            static_cast<std::int32_t>(finit ? plan.DonneDecalage(paragraphe->PlaceDe(fin_))
+                                            : bout)};
+    }
+
+    std::shared_ptr<ZoneOuverte> Premiere(CarnetDeZones& carnet) override {
+        return carnet.Retrouve(objetDebut_);
+    }
+
+    bool Deborde() override { return objetDebut_ != objetFin_; }
+
+  private:
+    uno::Reference<text::XTextRange> debut_;
+    uno::Reference<text::XTextRange> fin_;
+    uno::Reference<uno::XInterface> objetDebut_;
+    uno::Reference<uno::XInterface> objetFin_;
+    bool commencee_ = false;
+    bool finie_ = false;
+};
+
+} // namespace
+
+std::unique_ptr<Choix> LisChoixWriter(uno::Reference<frame::XModel> const& modele) {
+    uno::Reference<uno::XInterface> const selection = modele->getCurrentSelection();
+    if (auto formes = ChoixDeFormes(selection)) {
+        return formes;
+    }
+    uno::Reference<container::XIndexAccess> const choix(selection, uno::UNO_QUERY);
+    if (!choix.is() || choix->getCount() == 0) {
+        return nullptr;
+    }
+    uno::Reference<text::XTextRange> const etendue(choix->getByIndex(0), uno::UNO_QUERY);
+    uno::Reference<text::XText> const texte =
+        etendue.is() ? etendue->getText() : uno::Reference<text::XText>();
+    if (!texte.is()) {
+        return nullptr; // several cells
+    }
+    uno::Reference<text::XTextRange> debut(
+        texte->createTextCursorByRange(etendue->getStart()).get());
+    uno::Reference<text::XTextRange> fin(texte->createTextCursorByRange(etendue->getEnd()).get());
+    // A selection made backwards has its point first.
+    uno::Reference<text::XTextRangeCompare> const ordre(texte, uno::UNO_QUERY_THROW);
+    if (ordre->compareRegionStarts(debut, fin) < 0) {
+        std::swap(debut, fin);
+    }
+    auto plage = std::make_unique<ChoixDePlage>(debut, fin);
+    return plage->EstComplet() ? std::move(plage) : nullptr;
+}
+
+} // namespace bureau

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "PlanDePortions.h"
+
+#include <com/sun/star/text/XText.hpp>
+
+#include <vector>
+
+namespace bureau {
+
+/// Where a position of `texte` stands among the ranges of a paragraph's portions; what lies outside
+/// of them counts as the nearest end. Main thread.
+compagnon::PlaceDansPortion PlaceParmi(
+    std::vector<com::sun::star::uno::Reference<com::sun::star::text::XTextRange>> const& etendues,
+    com::sun::star::uno::Reference<com::sun::star::text::XText> const& texte,
+    com::sun::star::uno::Reference<com::sun::star::text::XTextRange> const& position);
+
+} // namespace bureau
