@@ -134,6 +134,11 @@ class Bureau:
         assert document is not None, f"the office did not open {url}"
         return document
 
+    def commande(self, document, url, *proprietes):
+        """What a menu entry does."""
+        self.cree("com.sun.star.frame.DispatchHelper").executeDispatch(
+            document.CurrentController.Frame, url, "", 0, proprietes)
+
     def ferme(self):
         if self.processus.poll() is None:
             try:

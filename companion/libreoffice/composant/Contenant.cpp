@@ -39,6 +39,9 @@ bool Contenant::EstProtege() const {
     if (ancre.is() && EstDansSectionProtegee(ancre)) {
         return true;
     }
+    if (feuille.is() && feuille->isProtected()) {
+        return true;
+    }
     return parent && parent->EstProtege();
 }
 

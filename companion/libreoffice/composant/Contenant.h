@@ -3,6 +3,7 @@
 
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/text/XText.hpp>
+#include <com/sun/star/util/XProtectable.hpp>
 
 #include <memory>
 
@@ -16,6 +17,8 @@ struct Contenant {
     char const* propriete = nullptr;
     /// The paragraph to which a note or frame is anchored: protected with it.
     com::sun::star::uno::Reference<com::sun::star::beans::XPropertySet> ancre;
+    /// The spreadsheet's sheet that a shape or comment stands on.
+    com::sun::star::uno::Reference<com::sun::star::util::XProtectable> feuille;
     std::shared_ptr<Contenant const> parent;
 
     bool EstProtege() const;

@@ -105,7 +105,7 @@ void Corrige(DocumentOuvert const& document, DialogueModal const& dialogue, Zone
             throw Refuse(*raison);
         }
         if (zone.EstProtegee()) {
-            throw Refuse("the text is protected");
+            throw Refuse("the text is protected, or being typed");
         }
         PlanDePortions const plan = zone.Lis();
         auto const trouve = croyance.Localise(plage, plan.DonneTexte());

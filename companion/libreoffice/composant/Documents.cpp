@@ -1,16 +1,20 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Documents.h"
 
+#include "DocumentCalc.h"
+#include "DocumentImpress.h"
 #include "DocumentWriter.h"
 #include "Hasard.h"
 
 #include <com/sun/star/beans/PropertyValue.hpp>
 #include <com/sun/star/container/XEnumeration.hpp>
 #include <com/sun/star/container/XEnumerationAccess.hpp>
+#include <com/sun/star/drawing/XMasterPagesSupplier.hpp>
 #include <com/sun/star/frame/XController.hpp>
 #include <com/sun/star/lang/XComponent.hpp>
 #include <com/sun/star/lang/XEventListener.hpp>
 #include <com/sun/star/lang/XMultiComponentFactory.hpp>
+#include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 #include <com/sun/star/text/XTextDocument.hpp>
 #include <cppuhelper/implbase1.hxx>
 
@@ -56,6 +60,12 @@ std::shared_ptr<DocumentOuvert> Ouvre(uno::Reference<frame::XModel> const& model
                                       std::string const& cle) {
     if (uno::Reference<text::XTextDocument>(modele, uno::UNO_QUERY).is()) {
         return std::make_shared<DocumentWriter>(modele, cle);
+    }
+    if (uno::Reference<sheet::XSpreadsheetDocument>(modele, uno::UNO_QUERY).is()) {
+        return std::make_shared<DocumentCalc>(modele, cle);
+    }
+    if (uno::Reference<drawing::XMasterPagesSupplier>(modele, uno::UNO_QUERY).is()) {
+        return std::make_shared<DocumentImpress>(modele, cle);
     }
     return nullptr;
 }

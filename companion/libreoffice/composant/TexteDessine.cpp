@@ -21,19 +21,14 @@ namespace bureau {
 
 namespace {
 
-/// Where each portion starts, in the drawing engine's positions: a field takes one.
-std::vector<std::size_t> Departs(PlanDePortions const& plan) {
-    std::vector<std::size_t> departs;
+/// Where a portion starts, in the drawing engine's positions: a field takes one.
+std::size_t Depart(PlanDePortions const& plan, std::size_t portion) {
     std::size_t position = 0;
-    for (compagnon::Portion const& portion : plan.DonnePortions()) {
-        departs.push_back(position);
-        if (portion.genre == compagnon::GenrePortion::Substitut) {
-            position += 1;
-        } else {
-            position += portion.source.size();
-        }
+    for (std::size_t i = 0; i < portion; ++i) {
+        compagnon::Portion const& avant = plan.DonnePortions()[i];
+        position += avant.genre == compagnon::GenrePortion::Substitut ? 1 : avant.source.size();
     }
-    return departs;
+    return position;
 }
 
 /// The engine gives letters put in where a portion became empty the format of another one.
@@ -45,13 +40,14 @@ bool VideUnePortion(PlanDePortions const& plan,
            });
 }
 
-} // namespace
-
+/// The paragraphs of these texts are zones of their own: one is never parted in two.
 bool OuvreUneLigne(std::vector<compagnon::EtapeEdition> const& etapes) {
     return std::any_of(etapes.begin(), etapes.end(), [](compagnon::EtapeEdition const& etape) {
         return etape.ajout.find(u'\n') != std::u16string::npos;
     });
 }
+
+} // namespace
 
 TexteDessine::TexteDessine(uno::Reference<uno::XInterface> const& objet,
                            uno::Reference<frame::XModel> const& modele,
@@ -134,37 +130,49 @@ void TexteDessine::Vide(CarnetDeZones& carnet) {
     zones_.clear();
 }
 
-bool TexteDessine::Remplace(std::size_t rang, std::size_t debut, std::u16string const& avant,
-                            std::u16string const& apres) {
-    std::vector<ParagrapheLu> const lus = LisTout();
+std::optional<std::vector<compagnon::EtapeEdition>>
+TexteDessine::Prepare(std::vector<ParagrapheLu> const& lus, std::size_t rang, std::size_t debut,
+                      std::u16string const& avant, std::u16string const& apres) {
     if (rang >= lus.size()) {
-        return false;
+        return std::nullopt;
     }
     PlanDePortions const& plan = lus[rang].plan;
     if (plan.DonneTexte().compare(std::min(debut, plan.DonneTexte().size()), avant.size(), avant) !=
         0) {
+        return std::nullopt;
+    }
+    auto etapes = plan.Prepare(debut, debut + avant.size(), apres);
+    if (etapes && (VideUnePortion(plan, *etapes) || OuvreUneLigne(*etapes))) {
+        return std::nullopt;
+    }
+    return etapes;
+}
+
+bool TexteDessine::Remplace(std::size_t rang, std::size_t debut, std::u16string const& avant,
+                            std::u16string const& apres) {
+    std::vector<ParagrapheLu> const lus = LisTout();
+    auto const etapes = Prepare(lus, rang, debut, avant, apres);
+    if (!etapes || lus[rang].etendues.empty()) {
         return false;
     }
-    auto const etapes = plan.Prepare(debut, debut + avant.size(), apres);
-    if (!etapes || VideUnePortion(plan, *etapes) || OuvreUneLigne(*etapes) ||
-        lus[rang].etendues.empty()) {
-        return false;
-    }
-    std::vector<std::size_t> const departs = Departs(plan);
-    uno::Reference<text::XText> const texte = Texte();
     for (compagnon::EtapeEdition const& etape : *etapes) {
-        // The engine's ranges do not follow edits: each step counts from the paragraph's start,
-        // and what stands before it has not changed.
-        uno::Reference<text::XTextCursor> const curseur =
-            PlaceCurseur(texte, lus[rang].etendues.front(), departs[etape.portion] + etape.debut);
-        if (etape.EstInsertion()) {
-            texte->insertString(curseur.get(), EnUno(etape.ajout), false);
-        } else {
-            Avance(curseur, etape.fin - etape.debut, true);
-            curseur->setString(rtl::OUString());
-        }
+        Execute(lus[rang], etape);
     }
     return true;
+}
+
+void TexteDessine::Execute(ParagrapheLu const& lu, compagnon::EtapeEdition const& etape) {
+    // The engine's ranges do not follow edits: each step counts from the paragraph's start, and
+    // what stands before it has not changed.
+    uno::Reference<text::XText> const texte = Texte();
+    uno::Reference<text::XTextCursor> const curseur =
+        PlaceCurseur(texte, lu.etendues.front(), Depart(lu.plan, etape.portion) + etape.debut);
+    if (etape.EstInsertion()) {
+        texte->insertString(curseur.get(), EnUno(etape.ajout), false);
+    } else {
+        Avance(curseur, etape.fin - etape.debut, true);
+        curseur->setString(rtl::OUString());
+    }
 }
 
 ParagrapheDessine::ParagrapheDessine(std::string cle, std::weak_ptr<TexteDessine> texte,
@@ -212,6 +220,15 @@ void ParagrapheDessine::Selectionne(PlanDePortions const& /*plan*/, std::size_t 
     Texte()->Selectionne();
 }
 
+void DonneZones(TexteDessine const& texte, std::vector<ParagrapheLu>&& lus,
+                TexteDessine::Recueil const& recueil) {
+    // A copy: whoever gets a zone may read its text anew.
+    std::vector<std::shared_ptr<ParagrapheDessine>> const zones = texte.Zones();
+    for (std::size_t i = 0; i < lus.size(); ++i) {
+        recueil(zones[i], std::move(lus[i].plan));
+    }
+}
+
 void ParcoursTexteDessine(uno::Reference<uno::XInterface> const& objet,
                           std::function<std::shared_ptr<TexteDessine>()> const& fabrique,
                           CarnetDeZones& carnet, TexteDessine::Recueil const& recueil) {
@@ -221,11 +238,7 @@ void ParcoursTexteDessine(uno::Reference<uno::XInterface> const& objet,
         texte = fabrique();
         carnet.InscrisTexte(identite, texte);
     }
-    std::vector<ParagrapheLu> lus = texte->Relis(carnet);
-    std::vector<std::shared_ptr<ParagrapheDessine>> const zones = texte->Zones();
-    for (std::size_t i = 0; i < lus.size(); ++i) {
-        recueil(zones[i], std::move(lus[i].plan));
-    }
+    DonneZones(*texte, texte->Relis(carnet), recueil);
 }
 
 } // namespace bureau

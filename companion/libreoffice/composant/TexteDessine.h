@@ -69,7 +69,13 @@ class TexteDessine : public std::enable_shared_from_this<TexteDessine> {
   protected:
     virtual com::sun::star::uno::Reference<com::sun::star::text::XText> Texte() const = 0;
     virtual std::vector<ParagrapheLu> LisTout() const;
-    LecteurPortions const& Lecteur() const noexcept { return lecteur_; }
+    /// The steps that a replacement takes, for `Remplace`; nothing when something else stands
+    /// there, or when it cannot be done safely.
+    static std::optional<std::vector<compagnon::EtapeEdition>>
+    Prepare(std::vector<ParagrapheLu> const& lus, std::size_t rang, std::size_t debut,
+            std::u16string const& avant, std::u16string const& apres);
+    /// Carries one of them out, after those before it.
+    void Execute(ParagrapheLu const& lu, compagnon::EtapeEdition const& etape);
 
   private:
     com::sun::star::uno::Reference<com::sun::star::uno::XInterface> objet_;
@@ -102,10 +108,12 @@ class ParagrapheDessine : public ZoneOuverte {
     std::size_t rang_ = 0; // since the last reading
 };
 
-/// Would a step part a paragraph in two? The paragraphs of these texts are zones of their own.
-bool OuvreUneLigne(std::vector<compagnon::EtapeEdition> const& etapes);
+/// Hands out the zones of a text whose paragraphs were just read.
+void DonneZones(TexteDessine const& texte, std::vector<ParagrapheLu>&& lus,
+                TexteDessine::Recueil const& recueil);
 
-/// Hands out the zones of such a text; `fabrique` makes it when it is met for the first time.
+/// Reads and hands out the zones of such a text; `fabrique` makes it when it is met for the first
+/// time.
 void ParcoursTexteDessine(
     com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet,
     std::function<std::shared_ptr<TexteDessine>()> const& fabrique, CarnetDeZones& carnet,

@@ -60,6 +60,10 @@ class Commentaire : public TexteDessine {
     bool Remplace(std::size_t rang, std::size_t debut, std::u16string const& avant,
                   std::u16string const& apres) override {
         std::vector<ParagrapheLu> const lus = LisTout();
+        auto const etapes = Prepare(lus, rang, debut, avant, apres);
+        if (!etapes) {
+            return false;
+        }
         std::u16string tout;
         for (std::size_t i = 0; i < lus.size(); ++i) {
             compagnon::PlanDePortions const& plan = lus[i].plan;
@@ -69,11 +73,6 @@ class Commentaire : public TexteDessine {
             std::u16string paragraphe =
                 plan.DonnePortions().empty() ? std::u16string() : plan.DonnePortions()[0].source;
             if (i == rang) {
-                auto const etapes = plan.Prepare(debut, debut + avant.size(), apres);
-                if (!etapes || OuvreUneLigne(*etapes) ||
-                    plan.DonneTexte().compare(debut, avant.size(), avant) != 0) {
-                    return false;
-                }
                 for (compagnon::EtapeEdition const& etape : *etapes) {
                     paragraphe.replace(etape.debut, etape.fin - etape.debut, etape.ajout);
                 }

@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "CasesDeFeuille.h"
+
+#include "StyleDeLettres.h"
+
+#include <com/sun/star/beans/XMultiPropertySet.hpp>
+#include <com/sun/star/beans/XPropertySet.hpp>
+#include <com/sun/star/container/XIndexAccess.hpp>
+#include <com/sun/star/sheet/CellFlags.hpp>
+#include <com/sun/star/sheet/XCellRangeAddressable.hpp>
+#include <com/sun/star/sheet/XCellRangeData.hpp>
+#include <com/sun/star/sheet/XCellRangesQuery.hpp>
+#include <com/sun/star/sheet/XDataPilotTable.hpp>
+#include <com/sun/star/sheet/XDataPilotTablesSupplier.hpp>
+#include <com/sun/star/sheet/XSheetCellCursor.hpp>
+#include <com/sun/star/sheet/XUniqueCellFormatRangesSupplier.hpp>
+#include <com/sun/star/util/CellProtection.hpp>
+#include <com/sun/star/util/XMergeable.hpp>
+#include <com/sun/star/util/XProtectable.hpp>
+
+#include <algorithm>
+#include <set>
+#include <tuple>
+#include <utility>
+
+using namespace com::sun::star;
+using rtl::OUString;
+using Adresses = uno::Sequence<table::CellRangeAddress>;
+
+namespace bureau {
+
+namespace {
+
+/// Collects what one sheet has to read.
+class Recolte {
+  public:
+    explicit Recolte(uno::Reference<sheet::XSpreadsheet> const& feuille)
+        : feuille_(feuille)
+        , requete_(feuille, uno::UNO_QUERY_THROW) {
+        uno::Reference<util::XProtectable> const protection(feuille, uno::UNO_QUERY_THROW);
+        protegee_ = protection->isProtected();
+        uno::Reference<util::XMergeable> const fusion(feuille, uno::UNO_QUERY_THROW);
+        fusionnee_ = fusion->getIsMerged(); // any of its cells
+    }
+
+    std::vector<CaseDeFeuille> Fais() {
+        LisPivots();
+        for (table::CellRangeAddress const& plage :
+             requete_->queryContentCells(sheet::CellFlags::FORMATTED)->getRangeAddresses()) {
+            for (sal_Int32 ligne = plage.StartRow; ligne <= plage.EndRow; ++ligne) {
+                for (sal_Int32 colonne = plage.StartColumn; colonne <= plage.EndColumn; ++colonne) {
+                    formatees_.emplace(ligne, colonne);
+                }
+            }
+        }
+        for (table::CellRangeAddress const& plage : Visibles(sheet::CellFlags::STRING)) {
+            LisTextes(plage);
+        }
+        for (table::CellRangeAddress const& plage : Visibles(sheet::CellFlags::ANNOTATION)) {
+            for (sal_Int32 ligne = plage.StartRow; ligne <= plage.EndRow; ++ligne) {
+                for (sal_Int32 colonne = plage.StartColumn; colonne <= plage.EndColumn; ++colonne) {
+                    cases_.push_back({ligne, colonne, true, false, 0, OUString()});
+                }
+            }
+        }
+        std::sort(cases_.begin(), cases_.end(), [](CaseDeFeuille const& a, CaseDeFeuille const& b) {
+            return std::tie(a.ligne, a.colonne, a.estCommentaire) <
+                   std::tie(b.ligne, b.colonne, b.estCommentaire);
+        });
+        return std::move(cases_);
+    }
+
+  private:
+    struct Format {
+        bool seLit = true;
+        std::uint16_t style = 0;
+    };
+
+    Adresses Visibles(sal_Int32 genre) const {
+        uno::Reference<sheet::XSheetCellRanges> const toutes =
+            requete_->queryContentCells(static_cast<sal_Int16>(genre));
+        if (toutes->getRangeAddresses().getLength() == 0) {
+            return {};
+        }
+        uno::Reference<sheet::XCellRangesQuery> const parmi(toutes, uno::UNO_QUERY_THROW);
+        return parmi->queryVisibleCells()->getRangeAddresses();
+    }
+
+    void LisPivots() {
+        uno::Reference<sheet::XDataPilotTablesSupplier> const source(feuille_, uno::UNO_QUERY);
+        uno::Reference<container::XIndexAccess> const pivots(
+            source.is() ? source->getDataPilotTables() : uno::Reference<sheet::XDataPilotTables>(),
+            uno::UNO_QUERY);
+        for (sal_Int32 i = 0; pivots.is() && i < pivots->getCount(); ++i) {
+            uno::Reference<sheet::XDataPilotTable> const pivot(pivots->getByIndex(i),
+                                                               uno::UNO_QUERY_THROW);
+            pivots_.push_back(pivot->getOutputRange());
+        }
+    }
+
+    void LisTextes(table::CellRangeAddress const& plage) {
+        uno::Reference<table::XCellRange> const cellules = feuille_->getCellRangeByPosition(
+            plage.StartColumn, plage.StartRow, plage.EndColumn, plage.EndRow);
+        uno::Reference<sheet::XCellRangeData> const donnees(cellules, uno::UNO_QUERY_THROW);
+        uno::Sequence<uno::Sequence<uno::Any>> const valeurs = donnees->getDataArray();
+        auto const largeur = static_cast<std::size_t>(plage.EndColumn - plage.StartColumn) + 1;
+        std::vector<Format> const formats = LisFormats(cellules, plage, largeur);
+        std::size_t rang = 0;
+        for (sal_Int32 ligne = plage.StartRow; ligne <= plage.EndRow; ++ligne) {
+            for (sal_Int32 colonne = plage.StartColumn; colonne <= plage.EndColumn; ++colonne) {
+                Format const& format = formats[rang];
+                uno::Any const& valeur =
+                    valeurs[ligne - plage.StartRow][colonne - plage.StartColumn];
+                OUString texte;
+                if (format.seLit && (valeur >>= texte) && !EstDansUnPivot(ligne, colonne)) {
+                    bool const uniforme =
+                        formatees_.count({ligne, colonne}) == 0 && texte.indexOf('\n') < 0;
+                    cases_.push_back({ligne, colonne, false, uniforme, format.style, texte});
+                }
+                ++rang;
+            }
+        }
+    }
+
+    /// The format of each cell of the range, row by row.
+    std::vector<Format> LisFormats(uno::Reference<table::XCellRange> const& cellules,
+                                   table::CellRangeAddress const& plage,
+                                   std::size_t largeur) const {
+        std::vector<Format> formats(largeur *
+                                    (static_cast<std::size_t>(plage.EndRow - plage.StartRow) + 1));
+        if (formats.size() == 1) {
+            formats[0] = LisFormat(cellules, plage);
+            return formats;
+        }
+        uno::Reference<sheet::XUniqueCellFormatRangesSupplier> const source(cellules,
+                                                                            uno::UNO_QUERY_THROW);
+        uno::Reference<container::XIndexAccess> const groupes = source->getUniqueCellFormatRanges();
+        for (sal_Int32 i = 0; i < groupes->getCount(); ++i) {
+            uno::Reference<sheet::XSheetCellRanges> const groupe(groupes->getByIndex(i),
+                                                                 uno::UNO_QUERY_THROW);
+            Adresses const parts = groupe->getRangeAddresses();
+            if (parts.getLength() == 0) {
+                continue;
+            }
+            Format const format = LisFormat(groupe, parts[0]);
+            for (table::CellRangeAddress const& part : parts) {
+                for (sal_Int32 ligne = part.StartRow; ligne <= part.EndRow; ++ligne) {
+                    auto const debut =
+                        formats.begin() +
+                        (ligne - plage.StartRow) * static_cast<std::ptrdiff_t>(largeur) +
+                        (part.StartColumn - plage.StartColumn);
+                    std::fill_n(debut, part.EndColumn - part.StartColumn + 1, format);
+                }
+            }
+        }
+        return formats;
+    }
+
+    /// `exemple`: some of the cells, all of one format. Being covered by a merged cell is one too.
+    Format LisFormat(uno::Reference<uno::XInterface> const& cellules,
+                     table::CellRangeAddress const& exemple) const {
+        Format format;
+        uno::Reference<beans::XMultiPropertySet> const proprietes(cellules, uno::UNO_QUERY_THROW);
+        uno::Sequence<uno::Any> const valeurs = proprietes->getPropertyValues(noms_);
+        format.style = StyleDeLettres(valeurs.getConstArray());
+        if (protegee_) {
+            uno::Reference<beans::XPropertySet> const une(cellules, uno::UNO_QUERY_THROW);
+            util::CellProtection protection;
+            une->getPropertyValue("CellProtection") >>= protection;
+            format.seLit = !protection.IsHidden;
+        }
+        if (fusionnee_ && format.seLit) {
+            uno::Reference<sheet::XSheetCellRange> const cellule(
+                feuille_->getCellRangeByPosition(exemple.StartColumn, exemple.StartRow,
+                                                 exemple.StartColumn, exemple.StartRow),
+                uno::UNO_QUERY_THROW);
+            uno::Reference<sheet::XSheetCellCursor> const curseur =
+                feuille_->createCursorByRange(cellule);
+            curseur->collapseToMergedArea();
+            uno::Reference<sheet::XCellRangeAddressable> const ou(curseur, uno::UNO_QUERY_THROW);
+            table::CellRangeAddress const fusion = ou->getRangeAddress();
+            format.seLit =
+                fusion.StartColumn == exemple.StartColumn && fusion.StartRow == exemple.StartRow;
+        }
+        return format;
+    }
+
+    bool EstDansUnPivot(sal_Int32 ligne, sal_Int32 colonne) const {
+        return std::any_of(pivots_.begin(), pivots_.end(), [&](table::CellRangeAddress const& p) {
+            return ligne >= p.StartRow && ligne <= p.EndRow && colonne >= p.StartColumn &&
+                   colonne <= p.EndColumn;
+        });
+    }
+
+    uno::Reference<sheet::XSpreadsheet> feuille_;
+    uno::Reference<sheet::XCellRangesQuery> requete_;
+    bool protegee_;
+    bool fusionnee_;
+    uno::Sequence<OUString> noms_ = NomsDesProprietesDeLettres();
+    std::vector<table::CellRangeAddress> pivots_;
+    std::set<std::pair<sal_Int32, sal_Int32>> formatees_; // of several formats or lines
+    std::vector<CaseDeFeuille> cases_;
+};
+
+} // namespace
+
+std::vector<CaseDeFeuille> CasesDeFeuille(uno::Reference<sheet::XSpreadsheet> const& feuille) {
+    return Recolte(feuille).Fais();
+}
+
+} // namespace bureau

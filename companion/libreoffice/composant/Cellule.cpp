@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "Cellule.h"
+
+#include "Chaines.h"
+#include "EditionEnCours.h"
+#include "Erreur.h"
+#include "StyleDeLettres.h"
+
+#include <com/sun/star/beans/XMultiPropertySet.hpp>
+#include <com/sun/star/beans/XPropertySet.hpp>
+#include <com/sun/star/sheet/CellFlags.hpp>
+#include <com/sun/star/sheet/XCellAddressable.hpp>
+#include <com/sun/star/sheet/XCellRangeData.hpp>
+#include <com/sun/star/sheet/XCellRangesQuery.hpp>
+#include <com/sun/star/sheet/XSheetCellRange.hpp>
+#include <com/sun/star/table/XCell.hpp>
+#include <com/sun/star/util/CellProtection.hpp>
+#include <com/sun/star/util/NumberFormat.hpp>
+#include <com/sun/star/util/XNumberFormatTypes.hpp>
+#include <com/sun/star/util/XNumberFormatsSupplier.hpp>
+#include <com/sun/star/util/XProtectable.hpp>
+#include <com/sun/star/view/XSelectionSupplier.hpp>
+
+#include <algorithm>
+
+using namespace com::sun::star;
+using rtl::OUString;
+
+namespace bureau {
+
+namespace {
+
+table::CellContentType Genre(uno::Reference<uno::XInterface> const& cellule) {
+    return uno::Reference<table::XCell>(cellule, uno::UNO_QUERY_THROW)->getType();
+}
+
+} // namespace
+
+std::optional<table::CellAddress> Cellule::Adresse() const {
+    uno::Reference<sheet::XCellAddressable> const cellule(Objet(), uno::UNO_QUERY_THROW);
+    try {
+        return cellule->getCellAddress();
+    } catch (uno::RuntimeException const&) {
+        return std::nullopt;
+    }
+}
+
+uno::Reference<text::XText> Cellule::Texte() const {
+    return uno::Reference<text::XText>(Objet(), uno::UNO_QUERY_THROW);
+}
+
+OUString Cellule::TexteBrut() const {
+    // The cell's own string may have a number format's words around it.
+    uno::Reference<sheet::XCellRangeData> const cellule(Objet(), uno::UNO_QUERY_THROW);
+    OUString texte;
+    cellule->getDataArray()[0][0] >>= texte;
+    return texte;
+}
+
+bool Cellule::EstUniforme() const {
+    uno::Reference<sheet::XCellRangesQuery> const cellule(Objet(), uno::UNO_QUERY_THROW);
+    return cellule->queryContentCells(sheet::CellFlags::FORMATTED)
+                   ->getRangeAddresses()
+                   .getLength() == 0 &&
+           TexteBrut().indexOf('\n') < 0;
+}
+
+ParagrapheLu Cellule::LisUniforme(OUString const& texte, std::uint16_t style) {
+    ParagrapheLu lu;
+    lu.plan.Ajoute(compagnon::GenrePortion::Texte, std::u16string(Vue(texte)), style);
+    return lu;
+}
+
+std::vector<ParagrapheLu> Cellule::LisTout() const {
+    table::CellContentType const genre = Genre(Objet());
+    // What a correction has emptied may be filled again.
+    if (genre != table::CellContentType_TEXT && genre != table::CellContentType_EMPTY) {
+        throw ZoneInconnue();
+    }
+    if (!EstUniforme()) {
+        return TexteDessine::LisTout();
+    }
+    uno::Reference<beans::XMultiPropertySet> const format(Objet(), uno::UNO_QUERY_THROW);
+    uno::Sequence<uno::Any> const valeurs = format->getPropertyValues(NomsDesProprietesDeLettres());
+    std::vector<ParagrapheLu> lus;
+    lus.push_back(LisUniforme(TexteBrut(), StyleDeLettres(valeurs.getConstArray())));
+    return lus;
+}
+
+bool Cellule::EstProtege() const {
+    uno::Reference<sheet::XSheetCellRange> const cellule(Objet(), uno::UNO_QUERY_THROW);
+    uno::Reference<util::XProtectable> const feuille(cellule->getSpreadsheet(),
+                                                     uno::UNO_QUERY_THROW);
+    if (feuille->isProtected()) {
+        uno::Reference<beans::XPropertySet> const proprietes(Objet(), uno::UNO_QUERY_THROW);
+        util::CellProtection protection;
+        proprietes->getPropertyValue("CellProtection") >>= protection;
+        if (protection.IsLocked) {
+            return true;
+        }
+    }
+    uno::Reference<sheet::XCellAddressable> const active(Modele()->getCurrentSelection(),
+                                                         uno::UNO_QUERY);
+    return active.is() && active->getCellAddress() == *Adresse() &&
+           EstEnTrainDeTaper(Modele()->getCurrentController());
+}
+
+bool Cellule::Remplace(std::size_t rang, std::size_t debut, std::u16string const& avant,
+                       std::u16string const& apres) {
+    std::vector<ParagrapheLu> const lus = LisTout();
+    auto const etapes = Prepare(lus, rang, debut, avant, apres);
+    if (!etapes) {
+        return false;
+    }
+    std::u16string lettres;
+    std::vector<std::size_t> departs;
+    for (compagnon::Portion const& portion : lus[rang].plan.DonnePortions()) {
+        departs.push_back(lettres.size());
+        lettres += portion.source;
+    }
+    bool const uniforme = EstUniforme();
+    for (compagnon::EtapeEdition const& etape : *etapes) {
+        lettres.replace(departs[etape.portion] + etape.debut, etape.fin - etape.debut, etape.ajout);
+        if (uniforme) {
+            continue;
+        }
+        Execute(lus[rang], etape);
+        // Where all its formats are the cell's own, the office takes the text for typed anew, and
+        // makes a number of one, or a formula.
+        if (!lettres.empty() && Genre(Objet()) != table::CellContentType_TEXT) {
+            MetsTexte(lettres);
+        }
+    }
+    if (uniforme) {
+        MetsTexte(lettres);
+    }
+    return true;
+}
+
+void Cellule::MetsTexte(std::u16string const& lettres) {
+    uno::Reference<beans::XPropertySet> const proprietes(Objet(), uno::UNO_QUERY_THROW);
+    uno::Any const format = proprietes->getPropertyValue("NumberFormat");
+    // For what looks like a number the office turns the cell's number format into the one of text,
+    // and its undo step forgets that: it must find nothing to turn.
+    bool const chiffre = std::any_of(lettres.begin(), lettres.end(),
+                                     [](char16_t unite) { return unite >= u'0' && unite <= u'9'; });
+    if (chiffre) {
+        uno::Reference<util::XNumberFormatsSupplier> const source(Modele(), uno::UNO_QUERY_THROW);
+        uno::Reference<util::XNumberFormatTypes> const formats(source->getNumberFormats(),
+                                                               uno::UNO_QUERY_THROW);
+        proprietes->setPropertyValue(
+            "NumberFormat",
+            uno::Any(formats->getStandardFormat(util::NumberFormat::TEXT, lang::Locale())));
+    }
+    Texte()->setString(EnUno(lettres));
+    if (proprietes->getPropertyValue("NumberFormat") != format) {
+        proprietes->setPropertyValue("NumberFormat", format);
+    }
+}
+
+void Cellule::Selectionne() {
+    uno::Reference<view::XSelectionSupplier> const vue(Modele()->getCurrentController(),
+                                                       uno::UNO_QUERY_THROW);
+    vue->select(uno::Any(Objet()));
+}
+
+} // namespace bureau

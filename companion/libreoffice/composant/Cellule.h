@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "TexteDessine.h"
+
+#include <com/sun/star/table/CellAddress.hpp>
+
+#include <optional>
+
+namespace bureau {
+
+/// A spreadsheet's cell with text; a zone for each of its paragraphs. The office keeps the object
+/// it was made for on the same cell while rows and columns come and go. Main thread only.
+class Cellule : public TexteDessine {
+  public:
+    Cellule(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& cellule,
+            com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& modele)
+        : TexteDessine(cellule, modele, nullptr) {}
+
+    /// Where the cell stands now; nothing once it was deleted.
+    std::optional<com::sun::star::table::CellAddress> Adresse() const;
+
+    bool SAnnuleSeul() const override { return true; }
+    /// Also while the person types in it.
+    bool EstProtege() const override;
+    bool Remplace(std::size_t rang, std::size_t debut, std::u16string const& avant,
+                  std::u16string const& apres) override;
+    void Selectionne() override;
+
+    /// The paragraph of a cell of one format and one line.
+    static ParagrapheLu LisUniforme(rtl::OUString const& texte, std::uint16_t style);
+
+  protected:
+    com::sun::star::uno::Reference<com::sun::star::text::XText> Texte() const override;
+    std::vector<ParagrapheLu> LisTout() const override;
+
+  private:
+    bool EstUniforme() const;
+    rtl::OUString TexteBrut() const;
+    /// Puts letters in as text, whatever they look like.
+    void MetsTexte(std::u16string const& lettres);
+};
+
+} // namespace bureau

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "CarnetDeZones.h"
+#include "CasesDeFeuille.h"
+#include "Cellule.h"
+
+#include <cstdint>
+#include <unordered_map>
+#include <vector>
+
+namespace bureau {
+
+/// The cells whose zones were given out, in reading order.
+using Cellules = std::vector<std::shared_ptr<Cellule>>;
+
+/// One walk over a spreadsheet document: sheet by sheet (hidden ones left out), row by row, each
+/// cell with text followed by its comment; then the sheet's shapes. Main thread; lives for one
+/// walk.
+class ParcoursCalc {
+  public:
+    /// `connues`: the cells of the walk before, which keep their zones wherever they stand now.
+    ParcoursCalc(com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& modele,
+                 CarnetDeZones& carnet, Cellules const& connues,
+                 TexteDessine::Recueil const& recueil);
+
+    /// The cells met.
+    Cellules Parcours();
+
+  private:
+    using Feuille = com::sun::star::uno::Reference<com::sun::star::sheet::XSpreadsheet>;
+
+    void ParcoursFeuille(Feuille const& feuille, std::int16_t numero);
+    void LisCellule(Feuille const& feuille, std::int16_t numero, CaseDeFeuille const& endroit);
+    void LisCommentaire(Feuille const& feuille, CaseDeFeuille const& endroit,
+                        std::shared_ptr<Contenant const> const& contenant);
+
+    com::sun::star::uno::Reference<com::sun::star::frame::XModel> modele_;
+    CarnetDeZones& carnet_;
+    TexteDessine::Recueil const& recueil_;
+    std::unordered_map<std::uint64_t, std::shared_ptr<Cellule>> connues_;
+    Cellules vues_;
+};
+
+} // namespace bureau

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "ParcoursFormes.h"
+
+#include "TextesDessines.h"
+
+#include <com/sun/star/beans/XPropertySet.hpp>
+#include <com/sun/star/lang/XServiceInfo.hpp>
+#include <com/sun/star/table/XCellRange.hpp>
+#include <com/sun/star/table/XColumnRowRange.hpp>
+#include <com/sun/star/table/XMergeableCell.hpp>
+#include <com/sun/star/table/XTable.hpp>
+
+using namespace com::sun::star;
+using rtl::OUString;
+
+namespace bureau {
+
+namespace {
+
+bool Vaut(uno::Reference<beans::XPropertySet> const& objet, char const* nom, bool defaut) {
+    OUString const propriete = OUString::createFromAscii(nom);
+    bool vrai = defaut;
+    if (objet.is() && objet->getPropertySetInfo()->hasPropertyByName(propriete)) {
+        objet->getPropertyValue(propriete) >>= vrai;
+    }
+    return vrai;
+}
+
+/// `objet`: whose text it is; known again by itself, which its text alone would not be.
+void LisTexte(uno::Reference<uno::XInterface> const& objet,
+              uno::Reference<uno::XInterface> const& porteur, FondDeFormes const& fond) {
+    uno::Reference<text::XText> const texte(objet, uno::UNO_QUERY);
+    if (texte.is() && !texte->getString().isEmpty()) {
+        ParcoursTexteDessine(
+            objet, [&] { return TexteDeForme(objet, porteur, fond.modele, fond.contenant); },
+            fond.carnet, fond.recueil);
+    }
+}
+
+void LisTableau(uno::Reference<table::XTable> const& tableau,
+                uno::Reference<uno::XInterface> const& forme, FondDeFormes const& fond) {
+    for (sal_Int32 ligne = 0; ligne < tableau->getRowCount(); ++ligne) {
+        for (sal_Int32 colonne = 0; colonne < tableau->getColumnCount(); ++colonne) {
+            uno::Reference<table::XCell> const cellule = tableau->getCellByPosition(colonne, ligne);
+            uno::Reference<table::XMergeableCell> const fusion(cellule, uno::UNO_QUERY);
+            if (!fusion.is() || !fusion->isMerged()) { // covered by another one
+                LisTexte(cellule, forme, fond);
+            }
+        }
+    }
+}
+
+void LisForme(uno::Reference<uno::XInterface> const& forme, FondDeFormes const& fond) {
+    uno::Reference<beans::XPropertySet> const proprietes(forme, uno::UNO_QUERY);
+    uno::Reference<lang::XServiceInfo> const services(forme, uno::UNO_QUERY);
+    // A placeholder shows an invitation that nobody typed; a cell's comment is read with its cell.
+    if (!Vaut(proprietes, "Visible", true) ||
+        Vaut(proprietes, "IsEmptyPresentationObject", false) ||
+        (services.is() && services->supportsService("com.sun.star.sheet.CellAnnotationShape"))) {
+        return;
+    }
+    uno::Reference<drawing::XShapes> const groupe(forme, uno::UNO_QUERY);
+    if (groupe.is()) {
+        ParcoursFormes(groupe, fond);
+        return;
+    }
+    uno::Reference<table::XTable> tableau;
+    if (services.is() && services->supportsService("com.sun.star.drawing.TableShape")) {
+        proprietes->getPropertyValue("Model") >>= tableau;
+    }
+    if (tableau.is()) {
+        LisTableau(tableau, forme, fond);
+    } else {
+        LisTexte(forme, forme, fond);
+    }
+}
+
+} // namespace
+
+void ParcoursFormes(uno::Reference<drawing::XShapes> const& formes, FondDeFormes const& fond) {
+    for (sal_Int32 i = 0; i < formes->getCount(); ++i) {
+        LisForme(uno::Reference<uno::XInterface>(formes->getByIndex(i), uno::UNO_QUERY), fond);
+    }
+}
+
+} // namespace bureau

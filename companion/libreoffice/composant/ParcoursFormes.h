@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include "TexteDessine.h"
+
+#include <com/sun/star/drawing/XShapes.hpp>
+
+#include <functional>
+
+namespace bureau {
+
+/// What a walk over shapes needs to know.
+struct FondDeFormes {
+    com::sun::star::uno::Reference<com::sun::star::frame::XModel> modele;
+    CarnetDeZones& carnet;
+    TexteDessine::Recueil const& recueil;
+    /// What protects the shapes; may be empty.
+    std::shared_ptr<Contenant const> contenant;
+};
+
+/// Hands out the zones of the shapes in view of a page, in their order, groups opened, tables cell
+/// by cell. Shapes without a letter have no zone. Main thread.
+void ParcoursFormes(com::sun::star::uno::Reference<com::sun::star::drawing::XShapes> const& formes,
+                    FondDeFormes const& fond);
+
+} // namespace bureau

@@ -1,0 +1,570 @@
+# SPDX-License-Identifier: MPL-2.0
+"""What a corrector reads and changes in a spreadsheet."""
+
+import time
+import unittest
+
+import uno
+from com.sun.star.awt import Size
+from com.sun.star.util import CellProtection
+
+import banc
+
+ITALIQUE = uno.Enum("com.sun.star.awt.FontSlant", "ITALIC")
+TEXTE = uno.Enum("com.sun.star.table.CellContentType", "TEXT")
+
+# A format inside a cell that says what the cell's own format says already: only a file brings one.
+REDONDANT = """<?xml version="1.0" encoding="UTF-8"?>
+<office:document xmlns:office="urn:oasis:names:tc:opendocument:xmlns:office:1.0"
+ xmlns:style="urn:oasis:names:tc:opendocument:xmlns:style:1.0"
+ xmlns:text="urn:oasis:names:tc:opendocument:xmlns:text:1.0"
+ xmlns:table="urn:oasis:names:tc:opendocument:xmlns:table:1.0"
+ xmlns:fo="urn:oasis:names:tc:opendocument:xmlns:xsl-fo-compatible:1.0"
+ office:version="1.3" office:mimetype="application/vnd.oasis.opendocument.spreadsheet">
+<office:automatic-styles><style:style style:name="N" style:family="text">
+<style:text-properties fo:font-weight="normal"/></style:style></office:automatic-styles>
+<office:body><office:spreadsheet><table:table table:name="F"><table:table-row>
+<table:table-cell office:value-type="string"><text:p>1<text:span text:style-name="N">O</text:span>5</text:p>
+</table:table-cell></table:table-row></table:table></office:spreadsheet></office:body>
+</office:document>
+"""
+
+
+def setUpModule():
+    global BUS, BUREAU
+    BUS = banc.Bus()
+    unittest.addModuleCleanup(BUS.ferme)
+    BUREAU = banc.Bureau(BUS.adresse)
+    unittest.addModuleCleanup(BUREAU.ferme)
+
+
+class Cas(unittest.TestCase):
+    def setUp(self):
+        self.ouvre()
+
+    def ouvre(self, url="private:factory/scalc", *proprietes):
+        self.doc = doc = BUREAU.ouvre(url, *proprietes)
+        self.addCleanup(lambda: doc.close(True))
+        self.client = banc.Client(BUS)
+        self.client.prends(doc)
+        self.feuille = doc.Sheets.getByIndex(0)
+
+    def cellule(self, nom, texte=None):
+        cellule = self.feuille.getCellRangeByName(nom).getCellByPosition(0, 0)
+        if texte is not None:
+            cellule.setString(texte)
+        return cellule
+
+    def remplis(self, **textes):
+        for nom, texte in textes.items():
+            self.cellule(nom, texte)
+
+    def plage(self, texte, debut, fin):
+        curseur = texte.createTextCursor()
+        curseur.gotoStart(False)
+        curseur.goRight(debut, False)
+        curseur.goRight(fin - debut, True)
+        return curseur
+
+    def zone(self, contenant=""):
+        return next(z for z in self.client.zones() if contenant in z.texte)
+
+    def corrige(self, cherche, remplace):
+        self.client.corrige(self.zone(cherche), cherche, remplace)
+
+    def refuse(self, cherche, remplace):
+        """The edit is refused, and nothing has changed."""
+        avant = self.client.textes()
+        zone = self.zone(cherche)
+        self.assertFalse(self.client.peut(zone, cherche))
+        with self.assertRaises(banc.Appel) as erreur:
+            self.client.corrige(zone, cherche, remplace)
+        self.assertEqual(erreur.exception.nom, "Refuse")
+        self.assertEqual(self.client.textes(), avant)
+
+    def forme(self, texte, feuille=None):
+        forme = self.doc.createInstance("com.sun.star.drawing.RectangleShape")
+        forme.setSize(Size(5000, 2000))
+        (feuille or self.feuille).DrawPage.add(forme)
+        forme.setString(texte)
+        return forme
+
+    def commente(self, nom, texte):
+        cellule = self.cellule(nom)
+        self.feuille.Annotations.insertNew(cellule.CellAddress, texte)
+        return cellule
+
+    def styles(self, cellule):
+        """The bold parts of the cell's first paragraph."""
+        portions = cellule.createEnumeration().nextElement().createEnumeration()
+        gras = []
+        while portions.hasMoreElements():
+            portion = portions.nextElement()
+            if portion.CharWeight == 150.0:
+                gras.append(portion.String)
+        return gras
+
+
+class Lecture(Cas):
+    def test_cells_come_row_by_row_and_sheet_by_sheet(self):
+        self.doc.Sheets.insertNewByName("deux", 1)
+        self.doc.Sheets.getByIndex(1).getCellByPosition(0, 0).setString("autre feuille")
+        self.remplis(B1="b1", A1="a1", A3="a3", C2="c2", A2="a2")
+        self.assertEqual(self.client.textes(), ["a1", "b1", "a2", "c2", "a3", "autre feuille"])
+
+    def test_numbers_and_formulas_are_not_read(self):
+        self.remplis(A1="texte")
+        self.cellule("A2").setValue(12)
+        self.cellule("A3").setFormula('="un "&A1')
+        self.assertEqual(self.client.textes(), ["texte"])
+
+    def test_text_that_looks_like_a_number_or_a_formula_is_read_as_it_is(self):
+        self.remplis(A1="12", A2="=1+1", A3="'x")
+        self.assertEqual(self.client.textes(), ["12", "=1+1", "'x"])
+
+    def test_each_paragraph_of_a_cell_is_a_zone(self):
+        self.remplis(A1="un\ndeux \U0001f600\n\nquatre", B1="x")
+        self.assertEqual(self.client.textes(), ["un", "deux \U0001f600", "", "quatre", "x"])
+
+    def test_what_a_number_format_adds_is_not_read(self):
+        cellule = self.cellule("A1", "mot")
+        cellule.NumberFormat = self.doc.NumberFormats.addNew('"avant "@', self.doc.CharLocale)
+        self.assertEqual(cellule.String, "avant mot")
+        self.assertEqual(self.client.textes(), ["mot"])
+
+    def test_fields_stand_as_one_filler(self):
+        cellule = self.cellule("A1", "voir  ici")
+        champ = self.doc.createInstance("com.sun.star.text.TextField.URL")
+        champ.URL, champ.Representation = "https://example.org/", "un lien"
+        cellule.insertTextContent(self.plage(cellule, 5, 5), champ, False)
+        self.assertEqual(self.client.textes(), ["voir \a ici"])
+
+    def test_hidden_sheets_rows_and_columns_are_not_read(self):
+        self.doc.Sheets.insertNewByName("cachee", 1)
+        cachee = self.doc.Sheets.getByIndex(1)
+        cachee.getCellByPosition(0, 0).setString("feuille cachee")
+        cachee.IsVisible = False
+        self.remplis(A1="vu", B1="colonne cachee", A2="ligne cachee", A3="vu aussi")
+        self.commente("A2", "remarque cachee")
+        self.feuille.Columns.getByIndex(1).IsVisible = False
+        self.feuille.Rows.getByIndex(1).IsVisible = False
+        self.assertEqual(self.client.textes(), ["vu", "vu aussi"])
+
+    def test_filtered_rows_are_not_read(self):
+        self.remplis(A1="titre", A2="garde", A3="filtre", A4="garde aussi")
+        plage = self.feuille.getCellRangeByName("A1:A4")
+        filtre = plage.createFilterDescriptor(True)
+        champ = uno.createUnoStruct("com.sun.star.sheet.TableFilterField")
+        champ.Operator = uno.Enum("com.sun.star.sheet.FilterOperator", "NOT_EQUAL")
+        champ.StringValue = "filtre"
+        filtre.setFilterFields((champ,))
+        filtre.ContainsHeader = True
+        plage.filter(filtre)
+        self.assertEqual(self.client.textes(), ["titre", "garde", "garde aussi"])
+
+    def test_what_a_merged_cell_covers_is_not_read(self):
+        self.remplis(A1="grande", B1="couverte", A2="couverte aussi", C1="libre")
+        self.feuille.getCellRangeByName("A1:B2").merge(True)
+        self.remplis(B1="couverte", A2="couverte aussi")
+        self.assertEqual(self.client.textes(), ["grande", "libre"])
+
+    def test_cells_that_their_protection_hides_are_not_read(self):
+        self.remplis(A1="vue", A2="secrete")
+        self.cellule("A2").CellProtection = CellProtection(True, False, True, False)
+        self.assertEqual(self.client.textes(), ["vue", "secrete"])
+        self.feuille.protect("")
+        self.assertEqual(self.client.textes(), ["vue"])
+
+    def test_what_a_pivot_table_wrote_is_not_read(self):
+        for i, (nom, valeur) in enumerate((("fruit", "prix"), ("pomme", 1), ("poire", 2))):
+            self.feuille.getCellByPosition(0, i).setString(nom)
+            if i:
+                self.feuille.getCellByPosition(1, i).setValue(valeur)
+            else:
+                self.feuille.getCellByPosition(1, i).setString(valeur)
+        pivots = self.feuille.DataPilotTables
+        d = pivots.createDataPilotDescriptor()
+        d.setSourceRange(self.feuille.getCellRangeByName("A1:B3").RangeAddress)
+        champs = d.DataPilotFields
+        champs.getByName("fruit").Orientation = uno.Enum(
+            "com.sun.star.sheet.DataPilotFieldOrientation", "ROW")
+        champs.getByName("prix").Orientation = uno.Enum(
+            "com.sun.star.sheet.DataPilotFieldOrientation", "DATA")
+        pivots.insertNewByName("p", self.cellule("E1").CellAddress, d)
+        self.assertIn("pomme", [self.cellule(f"E{i}").String for i in range(1, 9)])
+        self.assertEqual(self.client.textes(), ["fruit", "prix", "pomme", "poire"])
+
+    def test_a_comment_follows_its_cell_and_shapes_follow_the_sheet(self):
+        self.doc.Sheets.insertNewByName("deux", 1)
+        self.doc.Sheets.getByIndex(1).getCellByPosition(0, 0).setString("suite")
+        self.remplis(A1="un", B1="deux")
+        self.commente("A1", "remarque\nsur deux lignes")
+        self.commente("C7", "sur une case vide")
+        self.forme("dans une forme")
+        self.doc.setModified(False)
+        self.assertEqual(self.client.textes(),
+                         ["un", "remarque", "sur deux lignes", "deux", "sur une case vide",
+                          "dans une forme", "suite"])
+        self.assertFalse(self.doc.isModified())
+
+    def test_the_cells_own_format_and_formats_inside_it_are_style_runs(self):
+        self.remplis(A1="gras", A2="gras", A3="rien", B1="un mot gras")
+        self.feuille.getCellRangeByName("A1:A2").CharWeight = 150.0
+        self.cellule("A2").CharPosture = ITALIQUE
+        self.plage(self.cellule("B1"), 3, 6).CharWeight = 150.0
+        self.assertEqual({(z.texte, *z.styles) for z in self.client.zones()},
+                         {("gras", (0, 4, 1)), ("gras", (0, 4, 3)), ("rien",),
+                          ("un mot gras", (3, 6, 1))})
+
+    def test_ten_thousand_cells_take_little_and_time_grows_with_them_alone(self):
+        def duree(nombre):
+            self.feuille.getCellRangeByPosition(0, 0, 3, nombre // 4 - 1).setDataArray(
+                tuple(tuple(f"mot {i} et {j}" for j in range(4)) for i in range(nombre // 4)))
+            self.cellule("AMJ1048576" if nombre else "A1", "tout au bout")
+            self.assertEqual(len(self.client.zones()), nombre + 1)  # the first makes the keys
+            essais = []
+            for _ in range(5):
+                debut = time.perf_counter()
+                self.client.SynchronisePositions(self.client.id)
+                essais.append(time.perf_counter() - debut)
+            return min(essais)
+        petit, grand = duree(1000), duree(10000)
+        self.assertLess(grand, 2.0)
+        self.assertLess(grand / petit, 20)
+
+
+class Cles(Cas):
+    def test_a_key_lasts_across_edits_elsewhere_and_moves_with_its_cell(self):
+        self.remplis(A1="un", A2="deux", B2="trois")
+        avant = {z.texte: z.nom for z in self.client.zones()}
+        self.feuille.Rows.insertByIndex(0, 3)
+        self.feuille.Columns.insertByIndex(0, 1)
+        self.cellule("A1", "zero")
+        apres = {z.texte: z.nom for z in self.client.zones()}
+        self.assertEqual({t: apres[t] for t in avant}, avant)
+        self.assertEqual(len(set(apres.values())), 4)
+
+    def test_keys_of_comments_shapes_and_paragraphs_last_too(self):
+        self.remplis(A1="un\ndeux")
+        self.commente("A1", "remarque")
+        self.forme("forme")
+        avant = {z.texte: z.nom for z in self.client.zones()}
+        self.assertEqual({z.texte: z.nom for z in self.client.zones()}, avant)
+
+
+class Correction(Cas):
+    def test_a_correction_changes_the_word_and_nothing_else(self):
+        self.remplis(A1="les chat noir", A2="voisin")
+        cellule = self.cellule("A1")
+        cellule.CellBackColor = 0xFF0000
+        zone = self.zone("chat")
+        self.assertTrue(self.client.peut(zone, "chat"))
+        self.client.corrige(zone, "chat", "chats")
+        self.client.corrige(zone, "noir", "noirs")
+        self.assertEqual(self.client.textes(), ["les chats noirs", "voisin"])
+        self.assertEqual(cellule.CellBackColor, 0xFF0000)
+
+    def test_formats_inside_a_cell_stay(self):
+        cellule = self.cellule("A1", "un chat noir")
+        self.plage(cellule, 3, 7).CharWeight = 150.0
+        self.corrige("chat noir", "chiens noirs")
+        self.assertEqual(self.client.textes(), ["un chiens noirs"])
+        self.assertEqual(self.styles(cellule), ["chiens"])
+
+    def test_one_paragraph_of_several_is_corrected(self):
+        cellule = self.cellule("A1", "un mot\nun maux\nun mot")
+        self.corrige("maux", "mot \U0001f600")
+        self.assertEqual(cellule.String, "un mot\nun mot \U0001f600\nun mot")
+
+    def test_text_stays_text_whatever_it_comes_to_look_like(self):
+        for avant, apres in (("l2", "12"), ("x1+1", "=1+1"), ("vrai!", "vrai"),
+                             ("1O/11/2020", "10/11/2020"), ("x", "'x"), ("5 %a", "5 %")):
+            with self.subTest(apres=apres):
+                cellule = self.cellule("A1", avant)
+                format_ = cellule.NumberFormat
+                self.corrige(avant, apres)
+                self.assertEqual(cellule.Type, TEXTE)
+                self.assertEqual(self.client.textes(), [apres])
+                self.assertEqual(cellule.NumberFormat, format_)
+                self.doc.UndoManager.undo()
+                self.assertEqual((self.client.textes(), cellule.NumberFormat), ([avant], format_))
+
+    def test_text_with_formats_stays_text_too(self):
+        cellule = self.cellule("A1", "1O5")
+        self.plage(cellule, 1, 2).CharWeight = 150.0
+        self.corrige("1O5", "105")
+        self.assertEqual((cellule.Type, cellule.String), (TEXTE, "105"))
+        self.assertEqual(self.styles(cellule), ["0"])
+
+    def test_text_whose_formats_say_nothing_new_stays_text_too(self):
+        source = banc.DOSSIER / "redondant.fods"
+        source.write_text(REDONDANT, encoding="utf-8")
+        self.ouvre(source.as_uri())
+        cellule = self.cellule("A1")
+        format_ = cellule.NumberFormat
+        self.corrige("1O5", "105")
+        self.assertEqual((cellule.Type, self.client.textes()), (TEXTE, ["105"]))
+        self.assertEqual(cellule.NumberFormat, format_)
+        self.doc.UndoManager.undo()
+        self.assertEqual((cellule.Type, self.client.textes()), (TEXTE, ["1O5"]))
+
+    def test_a_field_in_the_cell_survives_and_bars_the_way(self):
+        cellule = self.cellule("A1", "voir  icy")
+        champ = self.doc.createInstance("com.sun.star.text.TextField.URL")
+        champ.URL, champ.Representation = "https://example.org/", "un lien"
+        cellule.insertTextContent(self.plage(cellule, 5, 5), champ, False)
+        self.refuse("\a", "mot")
+        self.corrige("icy", "ici")
+        self.assertEqual(cellule.String, "voir un lien ici")
+
+    def test_comments_and_shapes_are_corrected(self):
+        self.commente("B2", "une remarke\nsuite")
+        forme = self.forme("une formme")
+        self.corrige("remarke", "remarque")
+        self.corrige("formme", "forme")
+        self.assertEqual(self.client.textes(), ["une remarque", "suite", "une forme"])
+        self.assertEqual(self.feuille.Annotations.getByIndex(0).String, "une remarque\nsuite")
+        self.assertEqual(forme.String, "une forme")
+
+    def test_validity_and_conditional_formats_stay_with_the_cell(self):
+        cellule = self.cellule("A1", "ouui")
+        regle = cellule.Validation
+        regle.Type = uno.Enum("com.sun.star.sheet.ValidationType", "LIST")
+        regle.setFormula1('"oui";"non"')
+        regle.ShowErrorMessage = True
+        cellule.Validation = regle
+        self.corrige("ouui", "oui")
+        self.assertEqual(cellule.Validation.Type.value, "LIST")
+        self.assertEqual(cellule.Validation.getFormula1(), '"oui";"non"')
+
+    def test_a_cell_emptied_by_a_correction_can_be_filled_again(self):
+        cellule = self.cellule("A1", "mot")
+        zone = self.zone("mot")
+        self.client.corrige(zone, "mot", "")
+        self.assertEqual(cellule.Type.value, "EMPTY")
+        self.client.CorrigeDansTexteur(zone.nom, 0, 0, "maux", False)
+        self.assertEqual(cellule.String, "maux")
+
+    def test_a_thousand_corrections_in_one_document(self):
+        self.feuille.getCellRangeByName("A1:A500").setDataArray(
+            tuple((f"{i} fotes dans le texte fotes",) for i in range(500)))
+        for zone in self.client.zones():
+            self.client.corrige(zone, "fotes", "fautes")
+            self.client.corrige(zone, "fotes", "fautes")
+        self.assertEqual(self.client.textes(),
+                         [f"{i} fautes dans le texte fautes" for i in range(500)])
+
+
+class Refus(Cas):
+    def test_a_protected_cell_on_a_protected_sheet(self):
+        self.remplis(A1="fermee", A2="ouverte")
+        self.cellule("A2").CellProtection = CellProtection(False, False, False, False)
+        self.commente("A1", "remarque")
+        self.forme("forme")
+        self.corrige("fermee", "ferme")
+        self.feuille.protect("")
+        for texte in ("ferme", "remarque", "forme"):
+            self.refuse(texte, "x")
+        self.corrige("ouverte", "libre")
+        self.assertEqual(self.cellule("A2").String, "libre")
+
+    def test_a_read_only_document(self):
+        self.remplis(A1="un mot")
+        url = (banc.DOSSIER / "lecture_seule.ods").as_uri()
+        self.doc.storeToURL(url, ())
+        self.ouvre(url, banc.pv("ReadOnly", True))
+        self.refuse("mot", "x")
+
+    def test_a_line_break_inside_a_paragraph(self):
+        cellule = self.cellule("A1", "un mot")
+        with self.assertRaises(banc.Appel):
+            self.client.corrige(self.zone("mot"), "mot", "mot\nsuite")
+        self.assertEqual(cellule.String, "un mot")
+        self.assertFalse(self.client.PermetsRetourDeCharriot())
+
+    def test_a_cell_that_the_person_is_typing_in(self):
+        self.remplis(A1="un mot", A2="un autre")
+        self.doc.CurrentController.select(self.cellule("A1"))
+        BUREAU.commande(self.doc, ".uno:SetInputMode")
+        self.refuse("mot", "x")
+        self.corrige("autre", "autres")
+        self.doc.CurrentController.select(self.cellule("A2"))
+        self.corrige("mot", "maux")
+        self.assertEqual(self.client.textes(), ["un maux", "un autres"])
+
+    def test_a_cell_that_no_longer_holds_what_the_host_believes(self):
+        self.remplis(A1="un chat noir", A2="deux", A3="trois")
+        zones = self.client.zones()
+        self.cellule("A1", "un chien noir")
+        self.cellule("A2").setValue(2)
+        self.feuille.Rows.removeByIndex(2, 1)
+        for zone, mot in zip(zones, ("chat", "deux", "trois")):
+            with self.subTest(mot=mot), self.assertRaises(banc.Appel):
+                self.client.corrige(zone, mot, "x")
+        self.assertEqual(self.client.textes(), ["un chien noir"])
+
+
+class Frappe(Cas):
+    def test_rows_put_in_between_synchronisation_and_correction_move_the_range_along(self):
+        self.remplis(A1="mot", A2="mot")
+        zones = self.client.zones()
+        self.feuille.Rows.insertByIndex(0, 1)
+        self.client.corrige(zones[1], "mot", "maux")
+        self.assertEqual([self.cellule(f"A{i}").String for i in (1, 2, 3)], ["", "mot", "maux"])
+
+    def test_typing_before_the_range_shifts_it(self):
+        self.remplis(A1="un chat noir")
+        zone = self.zone()
+        self.cellule("A1", "Voici un chat noir")
+        self.client.corrige(zone, "noir", "noirs")
+        self.assertEqual(self.client.textes(), ["Voici un chat noirs"])
+
+
+class Annulation(Cas):
+    def titres(self):
+        return self.doc.UndoManager.AllUndoActionTitles
+
+    def test_one_correction_is_one_named_step_and_undo_restores_exactly(self):
+        simple = self.cellule("A1", "un chat gris")
+        riche = self.cellule("A2", "un chat noir\nsuite")
+        self.plage(riche, 3, 7).CharWeight = 150.0
+        zones = self.client.zones()
+        avant = [(z.texte, z.styles) for z in zones]
+        self.doc.UndoManager.clear()
+        self.client.corrige(zones[0], "gris", "grise")
+        self.client.corrige(zones[1], "chat noir", "chiens noirs")
+        self.assertEqual(self.titres(), (
+            "Correction: \u201cchat noir\u201d to \u201cchiens noirs\u201d",
+            "Correction: \u201cgris\u201d to \u201cgrise\u201d"))
+        self.assertEqual(self.styles(riche), ["chiens"])
+        self.doc.UndoManager.undo()
+        self.doc.UndoManager.undo()
+        self.assertEqual([(z.texte, z.styles) for z in self.client.zones()], avant)
+        self.assertEqual(self.styles(riche), ["chat"])
+        self.doc.UndoManager.redo()
+        self.assertEqual(simple.String, "un chat grise")
+
+    def test_corrections_of_comments_and_shapes_can_be_undone_and_redone(self):
+        cellule = self.commente("B2", "une remarke")
+        forme = self.forme("une formme")
+        self.client.zones()
+        self.doc.UndoManager.clear()
+        self.corrige("remarke", "remarque")
+        self.corrige("formme", "forme")
+        self.assertEqual(len(self.titres()), 2)
+        self.doc.UndoManager.undo()
+        self.doc.UndoManager.undo()
+        self.assertEqual((cellule.Annotation.String, forme.String), ("une remarke", "une formme"))
+        self.doc.UndoManager.redo()
+        self.assertEqual(cellule.Annotation.String, "une remarque")
+
+    def test_a_correction_while_changes_are_recorded_is_recorded(self):
+        self.remplis(A1="un chat noir")
+        BUREAU.commande(self.doc, ".uno:TraceChangeMode", banc.pv("TraceChangeMode", True))
+        self.corrige("chat", "chats")
+        chemin = banc.DOSSIER / "suivi.fods"
+        self.doc.storeToURL(chemin.as_uri(),
+                            (banc.pv("FilterName", "OpenDocument Spreadsheet Flat XML"),))
+        contenu = chemin.read_text(encoding="utf-8")
+        self.assertIn("<table:cell-content-change", contenu)
+        self.assertIn("un chat noir", contenu)
+
+
+class Selection(Cas):
+    def choisis(self, quoi):
+        self.doc.CurrentController.select(
+            self.feuille.getCellRangeByName(quoi) if isinstance(quoi, str) else quoi)
+
+    def test_a_selected_cell_is_selected_whole(self):
+        self.remplis(A1="un", A2="deux mots")
+        self.choisis("A2")
+        self.assertEqual([z.selection for z in self.client.zones()], [(0, 0), (0, 9)])
+        c = self.client
+        self.assertEqual(c.DonneContexteSelection(), "deux mots")
+        self.assertEqual((c.DonneDebutSelectionDansSonContexte(),
+                          c.DonneFinSelectionDansSonContexte()), (0, 9))
+        self.assertEqual(c.DonneContenuSelection(), "deux mots")
+
+    def test_an_empty_cell_a_number_and_a_formula_have_no_context(self):
+        self.remplis(A1="un")
+        self.cellule("A2").setValue(2)
+        self.cellule("A3").setFormula('="x"')
+        self.client.zones()
+        for nom in ("A2", "A3", "A4"):
+            with self.subTest(nom=nom):
+                self.choisis(nom)
+                self.assertEqual(self.client.DonneContexteSelection(), "")
+                self.assertEqual([z.selection for z in self.client.zones()], [(0, 0)])
+
+    def test_selected_cells_are_selected_each_and_the_first_is_the_context(self):
+        self.remplis(A1="un", B1="deux", A2="trois", C3="quatre")
+        self.choisis("A1:B2")
+        self.assertEqual([z.selection for z in self.client.zones()],
+                         [(0, 2), (0, 4), (0, 5), (0, 0)])
+        plages = self.doc.createInstance("com.sun.star.sheet.SheetCellRanges")
+        for nom in ("B1", "C3"):
+            plages.addRangeAddress(self.feuille.getCellRangeByName(nom).RangeAddress, False)
+        self.choisis(plages)
+        self.assertEqual([z.selection for z in self.client.zones()],
+                         [(0, 0), (0, 4), (0, 0), (0, 6)])
+        self.assertEqual(self.client.DonneContexteSelection(), "deux")
+        with self.assertRaises(banc.Appel) as refus:
+            self.client.RemplaceEtReselectionne("x")
+        self.assertEqual(refus.exception.nom, "Refuse")
+
+    def test_selecting_a_range_selects_its_cell_and_brings_it_into_view(self):
+        self.doc.Sheets.insertNewByName("deux", 1)
+        self.doc.Sheets.getByIndex(1).getCellByPosition(3, 500).setString("tout en bas")
+        zone = self.zone("bas")
+        self.client.SelectionneIntervalle(zone.nom, 8, 11)
+        vue = self.doc.CurrentController
+        self.assertEqual(vue.ActiveSheet.Name, "deux")
+        self.assertEqual(self.doc.CurrentSelection.AbsoluteName, "$deux.$D$501")
+        self.assertTrue(vue.FirstVisibleRow <= 500)
+        self.assertGreater(vue.FirstVisibleRow, 0)
+
+    def test_the_range_selected_is_remembered_while_its_cell_stays_selected(self):
+        self.remplis(A1="un tres beau chat", A2="autre")
+        zone = self.zone("tres")
+        self.client.SelectionneIntervalle(zone.nom, 3, 7)
+        self.assertEqual(self.client.zones()[0].selection, (3, 7))
+        self.assertEqual(self.client.DonneContenuSelection(), "tres")
+        self.choisis("A2")
+        self.assertEqual(self.client.DonneContenuSelection(), "autre")
+        self.choisis("A1")
+        self.assertEqual(self.client.DonneContenuSelection(), "un tres beau chat")
+
+    def test_the_tools_can_shift_and_replace_the_selection(self):
+        self.remplis(A1="un tres beau chat")
+        self.choisis("A1")
+        c = self.client
+        c.InitialisePourOutils(True)
+        c.AjusteSelectionPourOutils(3, -10)
+        self.assertEqual(c.DonneContenuSelection(), "tres")
+        c.RemplaceEtReselectionne("très, très")
+        self.assertEqual(self.cellule("A1").String, "un très, très beau chat")
+        self.assertEqual(c.DonneContenuSelection(), "très, très")
+        c.RemplaceEtReselectionne("bien")
+        self.assertEqual(self.cellule("A1").String, "un bien beau chat")
+
+    def test_a_paragraph_of_a_cell_can_be_selected_alone(self):
+        self.remplis(A1="un\ndeux mots")
+        self.choisis("A1")
+        self.assertEqual([z.selection for z in self.client.zones()], [(0, 2), (0, 9)])
+        self.client.SelectionneIntervalle(self.zone("deux").nom, 5, 9)
+        self.assertEqual([z.selection for z in self.client.zones()], [(0, 0), (5, 9)])
+        self.client.RemplaceEtReselectionne("lettres")
+        self.assertEqual(self.cellule("A1").String, "un\ndeux lettres")
+
+    def test_a_shape_and_a_comment_can_be_selected(self):
+        forme = self.forme("dans une forme")
+        self.commente("C9", "une remarque")
+        self.client.SelectionneIntervalle(self.zone("forme").nom, 5, 8)
+        self.assertEqual(self.doc.CurrentSelection.getByIndex(0), forme)
+        self.assertEqual(self.client.DonneContenuSelection(), "une")
+        self.client.SelectionneIntervalle(self.zone("remarque").nom, 0, 3)
+        self.assertEqual(self.doc.CurrentSelection.AbsoluteName, "$Sheet1.$C$9")
+
+
+if __name__ == "__main__":
+    unittest.main()
