@@ -7,6 +7,7 @@ import os
 import pathlib
 import signal
 import subprocess
+import threading
 import time
 
 import gi
@@ -14,6 +15,8 @@ gi.require_version("Gio", "2.0")
 from gi.repository import Gio, GLib  # noqa: E402
 
 import uno  # noqa: E402
+import unohelper  # noqa: E402
+from com.sun.star.awt import XCallback  # noqa: E402
 from com.sun.star.beans import PropertyValue  # noqa: E402
 from com.sun.star.connection import NoConnectException  # noqa: E402
 from com.sun.star.lang import DisposedException  # noqa: E402
@@ -133,6 +136,25 @@ class Bureau:
         document = self.bureau.loadComponentFromURL(url, "_blank", 0, proprietes)
         assert document is not None, f"the office did not open {url}"
         return document
+
+    def sur_le_fil_principal(self, action):
+        """Does it as a person's click would; the office comes back for it on that thread."""
+        fini = threading.Event()
+        resultats, erreurs = [], []
+
+        class Rappel(unohelper.Base, XCallback):
+            def notify(self, _):
+                try:
+                    resultats.append(action())
+                except Exception as erreur:  # for the waiting thread, whatever it is
+                    erreurs.append(erreur)
+                fini.set()
+
+        self.cree("com.sun.star.awt.AsyncCallback").addCallback(Rappel(), None)
+        assert fini.wait(PATIENCE), "the office's main thread is not free"
+        if erreurs:
+            raise erreurs[0]
+        return resultats[0]
 
     def commande(self, document, url, *proprietes):
         """What a menu entry does."""

@@ -336,6 +336,19 @@ class Refus(Cas):
         self.assertEqual(self.texte.String, "un\ndeux\ntrois")
 
 
+    def test_a_shape_and_a_comment_that_were_deleted_are_not_corrected(self):
+        self.e.ecrit("corps")
+        forme = self.e.forme("dans une forme")
+        remarque = self.e.met("com.sun.star.text.textfield.Annotation", Content="une remarque")
+        zones = self.client.zones()
+        self.doc.DrawPage.remove(forme)
+        remarque.dispose()
+        for zone in zones[1:]:
+            with self.subTest(zone=zone.texte), self.assertRaises(banc.Appel):
+                self.client.CorrigeDansTexteur(zone.nom, 0, 3, "x", False)
+        self.assertEqual(self.client.textes(), ["corps"])
+
+
 class Frappe(Cas):
     """The person types between synchronisation and correction."""
 

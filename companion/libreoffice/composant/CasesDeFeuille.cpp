@@ -31,6 +31,28 @@ namespace bureau {
 
 namespace {
 
+/// The ranges, those of the same columns that stand close together in one block: each block is read
+/// at once, as an office object for each range would take far longer than a few cells in between.
+std::vector<std::vector<table::CellRangeAddress>> Blocs(Adresses const& plages) {
+    constexpr sal_Int32 kEcart = 8; // rows in between, so that no more than that is read in vain
+    std::vector<table::CellRangeAddress> triees(plages.begin(), plages.end());
+    std::sort(triees.begin(), triees.end(), [](auto const& a, auto const& b) {
+        return std::tie(a.StartColumn, a.EndColumn, a.StartRow) <
+               std::tie(b.StartColumn, b.EndColumn, b.StartRow);
+    });
+    std::vector<std::vector<table::CellRangeAddress>> blocs;
+    for (table::CellRangeAddress const& plage : triees) {
+        bool const suite = !blocs.empty() && blocs.back().back().StartColumn == plage.StartColumn &&
+                           blocs.back().back().EndColumn == plage.EndColumn &&
+                           plage.StartRow - blocs.back().back().EndRow <= kEcart;
+        if (!suite) {
+            blocs.emplace_back();
+        }
+        blocs.back().push_back(plage);
+    }
+    return blocs;
+}
+
 /// Collects what one sheet has to read.
 class Recolte {
   public:
@@ -53,8 +75,9 @@ class Recolte {
                 }
             }
         }
-        for (table::CellRangeAddress const& plage : Visibles(sheet::CellFlags::STRING)) {
-            LisTextes(plage);
+        for (std::vector<table::CellRangeAddress> const& bloc :
+             Blocs(Visibles(sheet::CellFlags::STRING))) {
+            LisTextes(bloc);
         }
         for (table::CellRangeAddress const& plage : Visibles(sheet::CellFlags::ANNOTATION)) {
             for (sal_Int32 ligne = plage.StartRow; ligne <= plage.EndRow; ++ligne) {
@@ -98,27 +121,35 @@ class Recolte {
         }
     }
 
-    void LisTextes(table::CellRangeAddress const& plage) {
+    void LisTextes(std::vector<table::CellRangeAddress> const& bloc) {
+        table::CellRangeAddress tout = bloc.front();
+        tout.EndRow = bloc.back().EndRow;
         uno::Reference<table::XCellRange> const cellules = feuille_->getCellRangeByPosition(
-            plage.StartColumn, plage.StartRow, plage.EndColumn, plage.EndRow);
+            tout.StartColumn, tout.StartRow, tout.EndColumn, tout.EndRow);
         uno::Reference<sheet::XCellRangeData> const donnees(cellules, uno::UNO_QUERY_THROW);
         uno::Sequence<uno::Sequence<uno::Any>> const valeurs = donnees->getDataArray();
-        auto const largeur = static_cast<std::size_t>(plage.EndColumn - plage.StartColumn) + 1;
-        std::vector<Format> const formats = LisFormats(cellules, plage, largeur);
-        std::size_t rang = 0;
-        for (sal_Int32 ligne = plage.StartRow; ligne <= plage.EndRow; ++ligne) {
-            for (sal_Int32 colonne = plage.StartColumn; colonne <= plage.EndColumn; ++colonne) {
-                Format const& format = formats[rang];
-                uno::Any const& valeur =
-                    valeurs[ligne - plage.StartRow][colonne - plage.StartColumn];
-                OUString texte;
-                if (format.seLit && (valeur >>= texte) && !EstDansUnPivot(ligne, colonne)) {
-                    bool const uniforme =
-                        formatees_.count({ligne, colonne}) == 0 && texte.indexOf('\n') < 0;
-                    cases_.push_back({ligne, colonne, false, uniforme, format.style, texte});
+        auto const largeur = static_cast<std::size_t>(tout.EndColumn - tout.StartColumn) + 1;
+        std::vector<Format> const formats = LisFormats(cellules, tout, largeur);
+        for (table::CellRangeAddress const& plage : bloc) {
+            for (sal_Int32 ligne = plage.StartRow; ligne <= plage.EndRow; ++ligne) {
+                sal_Int32 const rang = ligne - tout.StartRow;
+                for (sal_Int32 colonne = plage.StartColumn; colonne <= plage.EndColumn; ++colonne) {
+                    sal_Int32 const i = colonne - tout.StartColumn;
+                    LisTexte(ligne, colonne, valeurs[rang][i],
+                             formats[static_cast<std::size_t>(rang) * largeur +
+                                     static_cast<std::size_t>(i)]);
                 }
-                ++rang;
             }
+        }
+    }
+
+    void LisTexte(sal_Int32 ligne, sal_Int32 colonne, uno::Any const& valeur,
+                  Format const& format) {
+        OUString texte;
+        if (format.seLit && (valeur >>= texte) && !EstDansUnPivot(ligne, colonne)) {
+            bool const uniforme =
+                formatees_.count({ligne, colonne}) == 0 && texte.indexOf('\n') < 0;
+            cases_.push_back({ligne, colonne, false, uniforme, format.style, texte});
         }
     }
 

@@ -3,7 +3,7 @@
 
 #include "ChoixDessine.h"
 #include "ParcoursFormes.h"
-#include "TextesDessines.h"
+#include "TexteDeForme.h"
 
 #include <com/sun/star/container/XEnumeration.hpp>
 #include <com/sun/star/drawing/XDrawPagesSupplier.hpp>

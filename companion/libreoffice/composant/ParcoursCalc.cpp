@@ -2,7 +2,7 @@
 #include "ParcoursCalc.h"
 
 #include "ParcoursFormes.h"
-#include "TextesDessines.h"
+#include "TexteDeForme.h"
 
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/container/XIndexAccess.hpp>

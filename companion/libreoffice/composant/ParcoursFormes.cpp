@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "ParcoursFormes.h"
 
-#include "TextesDessines.h"
+#include "TexteDeForme.h"
 
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/lang/XServiceInfo.hpp>
@@ -64,8 +64,11 @@ void LisForme(uno::Reference<uno::XInterface> const& forme, FondDeFormes const& 
         ParcoursFormes(groupe, fond);
         return;
     }
+    // On a slide a table does not name its service; and to ask an embedded document for its model
+    // would load it.
     uno::Reference<table::XTable> tableau;
-    if (services.is() && services->supportsService("com.sun.star.drawing.TableShape")) {
+    if (proprietes.is() &&
+        proprietes->getPropertySetInfo()->hasPropertyByName("UseFirstRowStyle")) {
         proprietes->getPropertyValue("Model") >>= tableau;
     }
     if (tableau.is()) {

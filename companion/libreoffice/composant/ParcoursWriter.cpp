@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "ParcoursWriter.h"
 
-#include "TextesDessines.h"
+#include "CommentaireWriter.h"
+#include "TexteDeForme.h"
 
 #include <com/sun/star/container/XContentEnumerationAccess.hpp>
 #include <com/sun/star/container/XEnumerationAccess.hpp>

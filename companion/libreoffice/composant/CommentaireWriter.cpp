@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "TextesDessines.h"
+#include "CommentaireWriter.h"
 
 #include "Chaines.h"
 
 #include <com/sun/star/beans/XPropertySet.hpp>
-#include <com/sun/star/drawing/XDrawPage.hpp>
-#include <com/sun/star/drawing/XDrawView.hpp>
 #include <com/sun/star/text/XTextContent.hpp>
 #include <com/sun/star/view/XSelectionSupplier.hpp>
 
@@ -16,40 +14,6 @@ using namespace com::sun::star;
 namespace bureau {
 
 namespace {
-
-class Forme : public TexteDessine {
-  public:
-    Forme(uno::Reference<uno::XInterface> const& texte,
-          uno::Reference<uno::XInterface> const& porteur,
-          uno::Reference<frame::XModel> const& modele, std::shared_ptr<Contenant const> contenant)
-        : TexteDessine(texte, modele, std::move(contenant))
-        , porteur_(porteur) {}
-
-    bool SAnnuleSeul() const override { return false; }
-
-    uno::Reference<uno::XInterface> Porteur() const override { return porteur_; }
-
-    void Selectionne() override {
-        uno::Reference<frame::XController> const vue(Modele()->getCurrentController(),
-                                                     uno::UNO_SET_THROW);
-        uno::Reference<drawing::XDrawPage> const page(porteur_, uno::UNO_QUERY);
-        if (page.is()) {
-            uno::Reference<drawing::XDrawView> const pages(vue, uno::UNO_QUERY_THROW);
-            pages->setCurrentPage(page);
-        } else {
-            uno::Reference<view::XSelectionSupplier> const choix(vue, uno::UNO_QUERY_THROW);
-            choix->select(uno::Any(porteur_));
-        }
-    }
-
-  protected:
-    uno::Reference<text::XText> Texte() const override {
-        return uno::Reference<text::XText>(Objet(), uno::UNO_QUERY_THROW);
-    }
-
-  private:
-    uno::Reference<uno::XInterface> porteur_;
-};
 
 class Commentaire : public TexteDessine {
   public:
@@ -104,13 +68,6 @@ class Commentaire : public TexteDessine {
 };
 
 } // namespace
-
-std::shared_ptr<TexteDessine> TexteDeForme(uno::Reference<uno::XInterface> const& texte,
-                                           uno::Reference<uno::XInterface> const& porteur,
-                                           uno::Reference<frame::XModel> const& modele,
-                                           std::shared_ptr<Contenant const> contenant) {
-    return std::make_shared<Forme>(texte, porteur, modele, std::move(contenant));
-}
 
 std::shared_ptr<TexteDessine> TexteDeCommentaire(uno::Reference<uno::XInterface> const& champ,
                                                  uno::Reference<frame::XModel> const& modele,

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "TexteDeForme.h"
+
+#include "Erreur.h"
+
+#include <com/sun/star/beans/XPropertySet.hpp>
+#include <com/sun/star/container/XChild.hpp>
+#include <com/sun/star/drawing/XDrawPage.hpp>
+#include <com/sun/star/drawing/XDrawView.hpp>
+#include <com/sun/star/drawing/XShape.hpp>
+#include <com/sun/star/office/XAnnotationAccess.hpp>
+#include <com/sun/star/table/XTable.hpp>
+#include <com/sun/star/view/XSelectionSupplier.hpp>
+
+#include <utility>
+
+using namespace com::sun::star;
+
+namespace bureau {
+
+namespace {
+
+class Forme : public TexteDessine {
+  public:
+    Forme(uno::Reference<uno::XInterface> const& texte,
+          uno::Reference<uno::XInterface> const& porteur,
+          uno::Reference<frame::XModel> const& modele, std::shared_ptr<Contenant const> contenant)
+        : TexteDessine(texte, modele, std::move(contenant))
+        , porteur_(porteur) {}
+
+    bool SAnnuleSeul() const override { return false; }
+
+    uno::Reference<uno::XInterface> Porteur() const override { return porteur_; }
+
+    void Selectionne() override {
+        uno::Reference<frame::XController> const vue(Modele()->getCurrentController(),
+                                                     uno::UNO_SET_THROW);
+        uno::Reference<drawing::XDrawPage> const page(porteur_, uno::UNO_QUERY);
+        if (page.is()) {
+            uno::Reference<drawing::XDrawView> const pages(vue, uno::UNO_QUERY_THROW);
+            pages->setCurrentPage(page);
+        } else {
+            uno::Reference<view::XSelectionSupplier> const choix(vue, uno::UNO_QUERY_THROW);
+            choix->select(uno::Any(porteur_));
+        }
+    }
+
+  protected:
+    uno::Reference<text::XText> Texte() const override {
+        if (!EstEncoreLa()) {
+            throw ZoneInconnue();
+        }
+        return uno::Reference<text::XText>(Objet(), uno::UNO_QUERY_THROW);
+    }
+
+  private:
+    /// What was deleted lives on among the undo steps, where it still reads and writes.
+    bool EstEncoreLa() const {
+        uno::Reference<office::XAnnotationAccess> const page(porteur_, uno::UNO_QUERY);
+        if (page.is()) {
+            return EstUnCommentaireDe(page);
+        }
+        uno::Reference<uno::XInterface> const forme(
+            uno::Reference<drawing::XShape>(Objet(), uno::UNO_QUERY).is() ? Objet() : porteur_);
+        uno::Reference<container::XChild> const enfant(forme, uno::UNO_QUERY);
+        return (!enfant.is() || enfant->getParent().is()) &&
+               (forme == Objet() || EstUneCelluleDe(forme));
+    }
+
+    bool EstUnCommentaireDe(uno::Reference<office::XAnnotationAccess> const& page) const {
+        uno::Reference<office::XAnnotationEnumeration> const suite =
+            page->createAnnotationEnumeration();
+        while (suite.is() && suite->hasMoreElements()) {
+            if (suite->nextElement()->getTextRange() == Objet()) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    bool EstUneCelluleDe(uno::Reference<uno::XInterface> const& forme) const {
+        uno::Reference<beans::XPropertySet> const proprietes(forme, uno::UNO_QUERY_THROW);
+        uno::Reference<table::XTable> tableau;
+        proprietes->getPropertyValue("Model") >>= tableau;
+        for (sal_Int32 ligne = 0; tableau.is() && ligne < tableau->getRowCount(); ++ligne) {
+            for (sal_Int32 colonne = 0; colonne < tableau->getColumnCount(); ++colonne) {
+                if (tableau->getCellByPosition(colonne, ligne) == Objet()) {
+                    return true;
+                }
+            }
+        }
+        return false;
+    }
+
+    uno::Reference<uno::XInterface> porteur_;
+};
+
+} // namespace
+
+std::shared_ptr<TexteDessine> TexteDeForme(uno::Reference<uno::XInterface> const& texte,
+                                           uno::Reference<uno::XInterface> const& porteur,
+                                           uno::Reference<frame::XModel> const& modele,
+                                           std::shared_ptr<Contenant const> contenant) {
+    return std::make_shared<Forme>(texte, porteur, modele, std::move(contenant));
+}
+
+} // namespace bureau

@@ -1,0 +1,361 @@
+# SPDX-License-Identifier: MPL-2.0
+"""What a corrector reads and changes in a presentation or a drawing.
+
+Tables and comments of slides are made and changed on the office's main thread, as by a person:
+from another one the office loses count of what it has to redraw, and crashes at the end.
+"""
+
+import re
+import unittest
+
+import uno
+from com.sun.star.awt import Size
+
+import banc
+
+ITALIQUE = uno.Enum("com.sun.star.awt.FontSlant", "ITALIC")
+
+
+def setUpModule():
+    global BUS, BUREAU
+    BUS = banc.Bus()
+    unittest.addModuleCleanup(BUS.ferme)
+    BUREAU = banc.Bureau(BUS.adresse)
+    unittest.addModuleCleanup(BUREAU.ferme)
+
+
+class Cas(unittest.TestCase):
+    genre = "simpress"
+
+    def setUp(self):
+        self.doc = doc = BUREAU.ouvre(f"private:factory/{self.genre}")
+        self.addCleanup(lambda: doc.close(True))
+        self.client = banc.Client(BUS)
+        self.client.prends(doc)
+        self.page = doc.DrawPages.getByIndex(0)
+
+    def diapo(self, titre=None, corps=None):
+        """A new slide with a title and an outline."""
+        pages = self.doc.DrawPages
+        page = pages.insertNewByIndex(pages.Count - 1)
+        page.Layout = 1
+        for rang, texte in enumerate((titre, corps)):
+            if texte is not None:
+                page.getByIndex(rang).setString(texte)
+        return page
+
+    def forme(self, texte, page=None, genre="RectangleShape"):
+        forme = self.doc.createInstance(f"com.sun.star.drawing.{genre}")
+        forme.setSize(Size(5000, 2000))
+        (page or self.page).add(forme)
+        if texte:
+            forme.setString(texte)
+        return forme
+
+    def groupe(self, *formes):
+        collection = BUREAU.cree("com.sun.star.drawing.ShapeCollection")
+        for forme in formes:
+            collection.add(forme)
+        return self.page.group(collection)
+
+    def tableau(self, lignes):
+        return BUREAU.sur_le_fil_principal(lambda: self._tableau(lignes))
+
+    def _tableau(self, lignes):
+        forme = self.forme(None, genre="TableShape")
+        modele = forme.Model
+        modele.Rows.insertByIndex(0, len(lignes) - modele.RowCount)
+        modele.Columns.insertByIndex(0, len(lignes[0]) - modele.ColumnCount)
+        for i, ligne in enumerate(lignes):
+            for j, texte in enumerate(ligne):
+                modele.getCellByPosition(j, i).setString(texte)
+        return forme
+
+    def commente(self, texte):
+        def pose():
+            commentaire = self.page.createAndInsertAnnotation()
+            commentaire.TextRange.setString(texte)
+            return commentaire
+        return BUREAU.sur_le_fil_principal(pose)
+
+    def annule(self, fois=1, encore=False):
+        pile = self.doc.UndoManager
+        for _ in range(fois):
+            BUREAU.sur_le_fil_principal(pile.redo if encore else pile.undo)
+
+    def plage(self, texte, debut, fin):
+        curseur = texte.createTextCursor()
+        curseur.gotoStart(False)
+        curseur.goRight(debut, False)
+        curseur.goRight(fin - debut, True)
+        return curseur
+
+    def gras(self, texte):
+        """The bold parts of the text's first paragraph."""
+        portions = texte.createEnumeration().nextElement().createEnumeration()
+        parts = []
+        while portions.hasMoreElements():
+            portion = portions.nextElement()
+            if portion.CharWeight == 150.0:
+                parts.append(portion.String)
+        return parts
+
+    def zone(self, contenant=""):
+        return next(z for z in self.client.zones() if contenant in z.texte)
+
+    def corrige(self, cherche, remplace):
+        self.client.corrige(self.zone(cherche), cherche, remplace)
+
+    def titres(self):
+        return self.doc.UndoManager.AllUndoActionTitles
+
+
+class Lecture(Cas):
+    def test_slides_come_in_order_each_with_title_outline_comments_and_notes(self):
+        self.diapo("titre 2", "point\npoint suivant")
+        self.page.getByIndex(0).setString("titre 1")
+        self.commente("remarque\nsuite")
+        self.page.NotesPage.getByIndex(1).setString("note 1")
+        self.assertEqual(self.client.textes(),
+                         ["titre 1", "remarque", "suite", "note 1", "titre 2", "point",
+                          "point suivant"])
+
+    def test_placeholders_and_shapes_without_a_letter_are_not_read(self):
+        self.diapo()
+        self.forme(None)
+        self.forme(None, genre="LineShape")
+        self.forme("seule")
+        self.assertEqual(self.client.textes(), ["seule"])
+
+    def test_the_master_page_is_not_read(self):
+        self.forme("sur le masque", self.page.MasterPage)
+        self.forme("sur la page")
+        self.assertEqual(self.client.textes(), ["sur la page"])
+
+    def test_groups_are_read_nested_ones_too(self):
+        dedans = self.groupe(self.forme("un"), self.forme("deux"))
+        self.groupe(dedans, self.forme("trois"))
+        self.assertEqual(sorted(self.client.textes()), ["deux", "trois", "un"])
+
+    def test_table_cells_come_row_by_row_without_those_that_a_merged_one_covers(self):
+        modele = self.tableau([["a1", "b1"], ["a2", "b2"], ["a3", "b3"]]).Model
+        self.assertEqual(self.client.textes(), ["a1", "b1", "a2", "b2", "a3", "b3"])
+        fusion = modele.createCursorByRange(modele.getCellRangeByPosition(0, 2, 1, 2))
+        BUREAU.sur_le_fil_principal(fusion.merge)
+        self.assertEqual([t for t in self.client.textes() if "3" not in t],
+                         ["a1", "b1", "a2", "b2"])
+        self.assertEqual(len([t for t in self.client.textes() if "3" in t]), 2)
+
+    def test_hidden_shapes_are_not_read_and_hidden_slides_are(self):
+        self.forme("cachee").Visible = False
+        self.diapo("titre").Visible = False
+        self.assertEqual(self.client.textes(), ["titre"])
+
+    def test_fields_line_breaks_and_styles(self):
+        forme = self.forme("page  ici")
+        forme.insertTextContent(
+            self.plage(forme, 5, 5),
+            self.doc.createInstance("com.sun.star.text.TextField.PageNumber"), False)
+        self.plage(forme, 7, 10).CharWeight = 150.0
+        forme.insertControlCharacter(self.plage(forme, 6, 6), 1, False)
+        zone = self.zone()
+        self.assertEqual((zone.texte, zone.styles), ("page \a\n ici", [(8, 11, 1)]))
+
+    def test_keys_last_across_edits_elsewhere(self):
+        self.diapo("titre", "un\ndeux")
+        self.tableau([["a", "b"], ["c", "d"]])
+        self.commente("remarque")
+        avant = {z.texte: z.nom for z in self.client.zones()}
+        self.forme("nouvelle")
+        self.doc.DrawPages.insertNewByIndex(0)
+        apres = {z.texte: z.nom for z in self.client.zones()}
+        self.assertEqual({t: apres[t] for t in avant}, avant)
+        self.assertEqual(len(set(apres.values())), 9)
+
+
+class Dessin(Cas):
+    genre = "sdraw"
+
+    def test_a_drawing_is_read_and_corrected_page_by_page(self):
+        self.forme("un mot")
+        self.forme("page deux", self.doc.DrawPages.insertNewByIndex(0))
+        self.assertEqual(self.client.textes(), ["un mot", "page deux"])
+        self.corrige("mot", "maux")
+        self.assertEqual(self.client.textes(), ["un maux", "page deux"])
+
+
+class Correction(Cas):
+    def test_every_kind_of_text_can_be_corrected_undone_and_redone(self):
+        self.diapo("mot du titre", "mot un\nmot deux")
+        self.page.NotesPage.getByIndex(1).setString("mot en note")
+        self.forme("mot en forme")
+        self.groupe(self.forme("mot groupe"), self.forme("autre mot"))
+        self.tableau([["mot a1", "x"], ["y", "mot b2"]])
+        self.commente("mot en remarque")
+        avant = self.client.textes()
+        self.doc.UndoManager.clear()
+        for zone in self.client.zones():
+            if "mot" in zone.texte:
+                self.assertTrue(self.client.peut(zone, "mot"))
+                self.client.corrige(zone, "mot", "maux")
+        apres = self.client.textes()
+        self.assertEqual(apres, [t.replace("mot", "maux") for t in avant])
+        nombre = len([t for t in avant if "mot" in t])
+        self.assertEqual(nombre, 10)
+        self.assertEqual(self.titres(), ("Correction: \u201cmot\u201d to \u201cmaux\u201d",) * 10)
+        self.annule(nombre)
+        self.assertEqual(self.client.textes(), avant)
+        self.annule(nombre, encore=True)
+        self.assertEqual(self.client.textes(), apres)
+
+    def test_formats_on_both_sides_of_a_border_stay_and_undo_restores_them(self):
+        forme = self.forme("un chat noir\ndeux")
+        self.plage(forme, 3, 7).CharWeight = 150.0
+        self.corrige("chat noir", "chiens noirs")
+        self.assertEqual((forme.String, self.gras(forme)), ("un chiens noirs\ndeux", ["chiens"]))
+        self.annule()
+        self.assertEqual((forme.String, self.gras(forme)), ("un chat noir\ndeux", ["chat"]))
+
+    def test_offsets_behind_emoji_and_fields_are_exact(self):
+        forme = self.forme("\U0001f600 a  faute")
+        forme.insertTextContent(
+            self.plage(forme, 5, 5),
+            self.doc.createInstance("com.sun.star.text.TextField.PageNumber"), False)
+        self.corrige("faute", "correction")
+        self.assertEqual(self.zone().texte, "\U0001f600 a \a correction")
+
+    def test_a_field_or_a_line_break_bars_the_way(self):
+        forme = self.forme("un chat")
+        forme.insertTextContent(
+            self.plage(forme, 5, 5),
+            self.doc.createInstance("com.sun.star.text.TextField.PageNumber"), False)
+        zone = self.zone()
+        self.assertEqual(zone.texte, "un ch\aat")
+        self.assertFalse(self.client.peut(zone, "ch\aat"))
+        with self.assertRaises(banc.Appel):
+            self.client.corrige(zone, "ch\aat", "chat")
+        with self.assertRaises(banc.Appel):
+            self.client.corrige(self.zone(), "un", "un\ndeux")
+        self.assertEqual(self.client.textes(), ["un ch\aat"])
+
+    def test_a_read_only_document_is_refused(self):
+        self.forme("un mot")
+        url = (banc.DOSSIER / "lecture_seule.odp").as_uri()
+        self.doc.storeToURL(url, ())
+        doc = BUREAU.ouvre(url, banc.pv("ReadOnly", True))
+        self.addCleanup(lambda: doc.close(True))
+        client = banc.Client(BUS)
+        client.prends(doc)
+        zone = client.zones()[0]
+        self.assertFalse(client.peut(zone, "mot"))
+        with self.assertRaises(banc.Appel):
+            client.corrige(zone, "mot", "maux")
+        self.assertEqual(client.textes(), ["un mot"])
+
+    def test_a_shape_that_was_deleted_or_changed_is_not_corrected(self):
+        partie, changee = self.forme("un chat"), self.forme("un chien")
+        tableau = self.tableau([["cellule partie"], ["cellule"]])
+        entier = self.tableau([["tableau parti"]])
+        commentaire = self.commente("remarque partie")
+        zones = self.client.zones()
+
+        def retire():
+            self.page.remove(partie)
+            self.page.remove(entier)
+            self.page.removeAnnotation(commentaire)
+            tableau.Model.Rows.removeByIndex(0, 1)
+        BUREAU.sur_le_fil_principal(retire)
+        changee.setString("un cheval")
+        self.assertEqual(len(zones), 6)
+        for zone in zones:
+            if zone.texte != "cellule":
+                with self.subTest(zone=zone.texte), self.assertRaises(banc.Appel):
+                    self.client.CorrigeDansTexteur(zone.nom, 0, 7, "x", False)
+        self.assertEqual(self.client.textes(), ["un cheval", "cellule"])
+
+    def test_saving_and_loading_keeps_everything_but_the_corrected_letters(self):
+        forme = self.forme("un chat noir")
+        self.plage(forme, 3, 7).CharPosture = ITALIQUE
+        self.tableau([["chat", "x"], ["y", "z"]])
+
+        def contenu(nom):
+            chemin = banc.DOSSIER / nom
+            self.doc.storeToURL(chemin.as_uri(),
+                                (banc.pv("FilterName", "OpenDocument Presentation Flat XML"),))
+            texte = chemin.read_text(encoding="utf-8")
+            corps = texte[texte.index("<office:body>"):texte.index("</office:body>")]
+            # A table comes with a picture of itself.
+            return re.sub(r"<office:binary-data>.*?</office:binary-data>", "", corps, flags=re.S)
+
+        avant = contenu("avant.fodp")
+        for zone in self.client.zones():
+            if "chat" in zone.texte:
+                self.client.corrige(zone, "chat", "chiot")
+        self.assertEqual(contenu("apres.fodp"), avant.replace("chat", "chiot"))
+
+
+class Selection(Cas):
+    def test_selected_shapes_are_selected_whole(self):
+        self.forme("une")
+        deux, trois = self.forme("deux"), self.forme("trois mots\nen bas")
+        vue = self.doc.CurrentController
+        vue.select(trois)
+        self.assertEqual([z.selection for z in self.client.zones()],
+                         [(0, 0), (0, 0), (0, 10), (0, 6)])
+        self.assertEqual(self.client.DonneContexteSelection(), "trois mots")
+        vue.select(deux)
+        self.assertEqual(self.client.DonneContexteSelection(), "deux")
+        self.assertEqual(self.client.DonneContenuSelection(), "deux")
+
+    def test_a_selected_group_or_table_stands_for_the_texts_in_it(self):
+        self.forme("dehors")
+        groupe = self.groupe(self.forme("un"), self.forme("deux"))
+        tableau = self.tableau([["a", "b"], ["c", "d"]])
+        vue = self.doc.CurrentController
+        vue.select(groupe)
+        choisies = [z.texte for z in self.client.zones() if z.selection != (0, 0)]
+        self.assertEqual(sorted(choisies), ["deux", "un"])
+        vue.select(tableau)
+        self.assertEqual([z.texte for z in self.client.zones() if z.selection != (0, 0)],
+                         ["a", "b", "c", "d"])
+        self.assertEqual(self.client.DonneContexteSelection(), "a")
+        with self.assertRaises(banc.Appel):
+            self.client.RemplaceEtReselectionne("x")
+
+    def test_nothing_selected_has_no_context(self):
+        self.forme("une")
+        self.doc.CurrentController.select(None)
+        self.assertEqual(self.client.DonneContexteSelection(), "")
+
+    def test_selecting_a_range_shows_its_slide_and_selects_its_shape(self):
+        page = self.diapo("titre", "un point")
+        self.page.NotesPage.getByIndex(1).setString("la note")
+        vue = self.doc.CurrentController
+        self.client.SelectionneIntervalle(self.zone("point").nom, 3, 8)
+        self.assertEqual(vue.CurrentPage, page)
+        self.assertEqual(self.doc.CurrentSelection.getByIndex(0), page.getByIndex(1))
+        self.assertEqual(self.client.DonneContenuSelection(), "point")
+        self.client.SelectionneIntervalle(self.zone("note").nom, 0, 2)
+        self.assertEqual(vue.CurrentPage, self.page)
+
+    def test_selecting_in_a_comment_shows_its_slide(self):
+        self.commente("remarque")
+        vue = self.doc.CurrentController
+        vue.CurrentPage = self.diapo("titre")
+        self.client.SelectionneIntervalle(self.zone("remarque").nom, 0, 2)
+        self.assertEqual(vue.CurrentPage, self.page)
+
+    def test_the_tools_can_shift_and_replace_the_selection(self):
+        forme = self.forme("un tres beau chat")
+        self.doc.CurrentController.select(forme)
+        c = self.client
+        c.InitialisePourOutils(True)
+        c.AjusteSelectionPourOutils(3, -10)
+        self.assertEqual(c.DonneContenuSelection(), "tres")
+        c.RemplaceEtReselectionne("très, très")
+        self.assertEqual(forme.String, "un très, très beau chat")
+        self.assertEqual(c.DonneContenuSelection(), "très, très")
+
+
+if __name__ == "__main__":
+    unittest.main()
