@@ -223,8 +223,8 @@ void ParagrapheDessine::Selectionne(PlanDePortions const& /*plan*/, std::size_t 
 void DonneZones(TexteDessine const& texte, std::vector<ParagrapheLu>&& lus,
                 TexteDessine::Recueil const& recueil) {
     // A copy: whoever gets a zone may read its text anew.
-    std::vector<std::shared_ptr<ParagrapheDessine>> const zones(texte.Zones().begin(),
-                                                                texte.Zones().end());
+    auto const debut = texte.Zones().begin();
+    std::vector<std::shared_ptr<ParagrapheDessine>> const zones(debut, texte.Zones().end());
     for (std::size_t i = 0; i < lus.size(); ++i) {
         recueil(zones[i], std::move(lus[i].plan));
     }
