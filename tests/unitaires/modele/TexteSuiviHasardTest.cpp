@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Hasard.h"
-#include "TexteSuivi.h"
+#include "Suivis.h"
 
 #include <gtest/gtest.h>
 
@@ -15,16 +15,6 @@ namespace {
 
 std::int32_t Entier(std::size_t position) {
     return static_cast<std::int32_t>(position);
-}
-
-TextePartage Partage(std::u16string_view texte) {
-    return std::make_shared<std::u16string const>(texte);
-}
-
-TexteSuivi Suivi(std::u16string_view texte) {
-    TexteSuivi suivi;
-    suivi.Donne(Partage(texte));
-    return suivi;
 }
 
 struct Edition {

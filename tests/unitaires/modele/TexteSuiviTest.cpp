@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "TexteSuivi.h"
+#include "Suivis.h"
 
 #include <gtest/gtest.h>
 
@@ -12,16 +12,6 @@ using compagnon::TextePartage;
 using compagnon::TexteSuivi;
 
 namespace {
-
-TextePartage Partage(std::u16string_view texte) {
-    return std::make_shared<std::u16string const>(texte);
-}
-
-TexteSuivi Suivi(std::u16string_view texte) {
-    TexteSuivi suivi;
-    suivi.Donne(Partage(texte));
-    return suivi;
-}
 
 Localisation Trouvee(std::int32_t debut, std::int32_t fin) {
     return {Refus::Aucun, {debut, fin}};
