@@ -27,8 +27,13 @@ pid, maitre = pty.fork()
 if pid == 0:
     os.execv(commande[0], commande)
 dit = b""
+demandes = 0
+reponses = os.environ.get("VOCALYNE_ESSAI_REPONSES", "").split()
 while not any(invite.encode() in dit for invite in ("Entrée pour fermer", "Enter to close")):
     dit += os.read(maitre, 4096)
+    while demandes < dit.count(b" > "):
+        os.write(maitre, reponses[demandes].encode() + b"\\n")
+        demandes += 1
 reste_ouvert = os.waitpid(pid, os.WNOHANG) == (0, 0)
 os.write(maitre, b"\\n")
 os.waitpid(pid, 0)
@@ -39,7 +44,8 @@ os.rename({notes!r} + ".neuf", {notes!r})
 
 
 class Outils:
-    """A host and a terminal of the test's own, in a folder with a name that shells would trip over."""
+    """A host and a terminal of the test's own, in a folder with a name that shells would trip over.
+    The terminal types the words of VOCALYNE_ESSAI_REPONSES, one at each question of a host."""
 
     def __init__(self, nom):
         self.dossier = banc.DOSSIER / f"outils de l'essai; {nom}"
@@ -60,8 +66,9 @@ class Outils:
     def attends(self):
         """What host and terminal noted of one run, which is then forgotten."""
         banc.attends(self.notes_terminal.exists, "the terminal to end")
-        notes = [json.loads(n.read_text()) for n in (self.notes_hote, self.notes_terminal)]
-        self.notes_hote.unlink()
+        notes = [json.loads(n.read_text()) if n.exists() else None
+                 for n in (self.notes_hote, self.notes_terminal)]
+        self.notes_hote.unlink(missing_ok=True)
         self.notes_terminal.unlink()
         return notes
 

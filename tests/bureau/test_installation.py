@@ -16,6 +16,7 @@ import menus
 IDENTIFIANT = "com.ombrel.vocalyne.libreoffice"
 OXT = banc.DOSSIER / "vocalyne-libreoffice.oxt"
 DESCRIPTION = "{http://openoffice.org/extensions/description/2006}"
+ANGLAIS = {"LC_ALL": "C.UTF-8"}  # whatever the system speaks
 LIEN = "{http://www.w3.org/1999/xlink}href"
 
 
@@ -33,7 +34,7 @@ def ote_le_temoin(profil):
 def unopkg(profil, *arguments, entree="", env=None, statut=0):
     fait = subprocess.run(
         ["unopkg", *arguments, f"-env:UserInstallation=file://{banc.DOSSIER}/{profil}"],
-        env=dict(os.environ, **(env or {})), input=entree, capture_output=True, text=True,
+        env={**os.environ, **ANGLAIS, **(env or {})}, input=entree, capture_output=True, text=True,
         check=False)
     assert statut is None or fait.returncode == statut, (fait.stdout, fait.stderr)
     return fait.stdout + fait.stderr
@@ -92,7 +93,7 @@ class PourUneSeulePersonne(unittest.TestCase):
     def test_the_office_shows_its_name_icon_licence_and_description_in_the_persons_language(self):
         menus.met_en_francais("presentation-fr")
         for profil, mot in (("presentation", "proofing program"), ("presentation-fr", "correcteur")):
-            bureau = banc.Bureau(None, profil=profil)
+            bureau = banc.Bureau(None, profil=profil, environnement=ANGLAIS)
             self.addCleanup(bureau.ferme)
             gestion = bureau.contexte.getValueByName(
                 "/singletons/com.sun.star.deployment.ExtensionManager")
@@ -166,7 +167,7 @@ class PourTous(unittest.TestCase):
         self.assertNotIn("vocalyne", bureau.dit())
 
     def test_added_shared_it_serves_every_user_and_removed_it_leaves_nothing(self):
-        env = {"UNO_SHARED_PACKAGES_CACHE": f"file://{self.lieu}"}
+        env = {"UNO_SHARED_PACKAGES_CACHE": f"file://{self.lieu}", **ANGLAIS}
         unopkg(self.profils[0], "add", "--shared", "--suppress-license", str(OXT), env=env)
         for profil in self.profils:
             self.sert(profil, env)
@@ -177,7 +178,7 @@ class PourTous(unittest.TestCase):
             self.assertEqual(restes(banc.DOSSIER / profil), [])
 
     def test_unpacked_by_a_package_of_the_system_it_serves_every_user_until_it_is_taken_away(self):
-        env = {"BUNDLED_EXTENSIONS": f"file://{self.lieu}"}
+        env = {"BUNDLED_EXTENSIONS": f"file://{self.lieu}", **ANGLAIS}
         with zipfile.ZipFile(OXT) as paquet:
             paquet.extractall(self.lieu / "vocalyne")
         for profil in self.profils:

@@ -23,8 +23,10 @@ def enfants_morts(pid):
 
 
 class Menus(unittest.TestCase):
-    def ouvre(self, adresse, **options):
-        self.bureau = banc.Bureau(adresse, **options)
+    def ouvre(self, adresse, environnement, **options):
+        # English whatever the system speaks, unless the profile says otherwise.
+        self.bureau = banc.Bureau(adresse, environnement=dict(environnement, LC_ALL="C.UTF-8"),
+                                  **options)
         self.addCleanup(self.bureau.ferme)
         return self.document()
 

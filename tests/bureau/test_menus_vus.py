@@ -34,7 +34,7 @@ class Vus:
             menus.met_en_francais(profil)
         cls.bureau = banc.Bureau(cls.bus.adresse, profil=profil, options=(), environnement=dict(
             cls.outils.environnement, DISPLAY=cls.ecran.nom, SAL_USE_VCLPLUGIN=cls.interface,
-            GDK_BACKEND="x11", NO_AT_BRIDGE="1"))
+            GDK_BACKEND="x11", NO_AT_BRIDGE="1", LC_ALL="C.UTF-8"))
         cls.addClassCleanup(cls.bureau.ferme)
 
     def ouvre(self, genre="swriter"):
