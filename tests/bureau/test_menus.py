@@ -96,12 +96,12 @@ class Lancement(Menus):
     def test_a_host_that_cannot_be_run_is_named(self):
         doc = self.ouvre_avec(VOCALYNE_HOTE="/nulle/part/hote")
         self.demande(doc, "corrige")
-        self.attends_mot("VOCALYNE_HOTE names /nulle/part/hote, which is not a program")
+        self.attends_mot("VOCALYNE_HOTE names “/nulle/part/hote”, which is not a program")
 
     def test_a_terminal_that_cannot_be_run_is_named(self):
         doc = self.ouvre_avec(VOCALYNE_TERMINAL="aucun-terminal --plein")
         self.demande(doc, "corrige")
-        self.attends_mot("VOCALYNE_TERMINAL says aucun-terminal --plein, which cannot be run")
+        self.attends_mot("VOCALYNE_TERMINAL says “aucun-terminal --plein”, which cannot be run")
         self.assertFalse(self.outils.notes_hote.exists())
 
     def test_a_window_without_a_document_is_told_from_one_with_texts(self):
@@ -137,7 +137,7 @@ class Diagnostic(Menus):
         self.attends_mot("Vocalyne for LibreOffice, version ", "Documents served: 1",
                          "Session bus: missing", "Host: not found", "Terminal: not found",
                          "What is wrong:", "There is no session bus",
-                         "VOCALYNE_HOTE names aucun-hote", "VOCALYNE_TERMINAL says aucun-terminal")
+                         "VOCALYNE_HOTE names “aucun-hote”", "VOCALYNE_TERMINAL says “aucun-terminal”")
 
     def test_whoever_took_the_name_is_told(self):
         bus = self.bus()
@@ -158,7 +158,7 @@ class Diagnostic(Menus):
         self.demande(doc, "diagnostic")
         self.attends_mot("Vocalyne pour LibreOffice, version ", "Documents servis : 1",
                          "Bus de session : absent", "Ce qui ne va pas :",
-                         "Il n’y a pas de bus de session", "VOCALYNE_HOTE nomme aucun-hote")
+                         "Il n’y a pas de bus de session", "VOCALYNE_HOTE nomme « aucun-hote »")
 
 
 if __name__ == "__main__":

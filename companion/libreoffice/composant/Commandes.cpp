@@ -51,7 +51,8 @@ std::string LanceHote(Constat const& constat, char const* operation) {
               EnvironnementEnfant(EnvironnementHerite(), AdresseDuBus()));
     return panne.empty()
                ? panne
-               : Dis("L’hôte n’a pas pu être lancé : ", "The host could not be started: ") + panne;
+               : Dis("L’hôte n’a pas pu être lancé\u00a0: ", "The host could not be started: ") +
+                     panne;
 }
 
 std::string Joins(std::vector<std::string> const& phrases) {

@@ -9,11 +9,11 @@ namespace {
 
 std::string RemedeDeLHote(HoteTrouve const& hote) {
     if (!hote.voulu.empty()) {
-        return Dis("VOCALYNE_HOTE nomme ", "VOCALYNE_HOTE names ") + hote.voulu +
-               Dis(", qui n’est pas un programme que l’on puisse lancer. Corrigez cette variable, "
-                   "ou ôtez-la, puis relancez la suite.",
-                   ", which is not a program that can be run. Correct that variable, or remove it, "
-                   "then restart the office.");
+        return Dis("VOCALYNE_HOTE nomme «\u00a0", "VOCALYNE_HOTE names “") + hote.voulu +
+               Dis("\u00a0», qui n’est pas un programme que l’on puisse lancer. Corrigez cette "
+                   "variable, ou ôtez-la, puis relancez la suite.",
+                   "”, which is not a program that can be run. Correct that variable, or remove "
+                   "it, then restart the office.");
     }
     std::string dossiers;
     for (std::string const& dossier : hote.dossiers) {
@@ -21,7 +21,7 @@ std::string RemedeDeLHote(HoteTrouve const& hote) {
     }
     return Dis("Le programme vocalyne-hote est introuvable. Installez l’hôte de Vocalyne, ou "
                "donnez son chemin par la variable VOCALYNE_HOTE, puis relancez la suite. Cherché "
-               "dans : ",
+               "dans\u00a0: ",
                "The program vocalyne-hote was not found. Install the Vocalyne host, or give its "
                "path in the variable VOCALYNE_HOTE, then restart the office. Searched: ") +
            dossiers + '.';
@@ -29,10 +29,10 @@ std::string RemedeDeLHote(HoteTrouve const& hote) {
 
 std::string RemedeDuTerminal(TerminalTrouve const& terminal) {
     if (!terminal.voulu.empty()) {
-        return Dis("VOCALYNE_TERMINAL dit ", "VOCALYNE_TERMINAL says ") + terminal.voulu +
-               Dis(", qui ne peut pas être lancé. Corrigez cette variable, ou ôtez-la, puis "
+        return Dis("VOCALYNE_TERMINAL dit «\u00a0", "VOCALYNE_TERMINAL says “") + terminal.voulu +
+               Dis("\u00a0», qui ne peut pas être lancé. Corrigez cette variable, ou ôtez-la, puis "
                    "relancez la suite.",
-                   ", which cannot be run. Correct that variable, or remove it, then restart the "
+                   "”, which cannot be run. Correct that variable, or remove it, then restart the "
                    "office.");
     }
     return Dis("Il n’y a pas de terminal où montrer le travail de l’hôte. Installez-en un, par "
@@ -91,16 +91,16 @@ std::string Rapport(Constat const& constat) {
         constat.idDocument.empty() ? Dis("non servi", "not served") : constat.idDocument;
     std::string rapport = Dis("Vocalyne pour LibreOffice, version " VOCALYNE_VERSION,
                               "Vocalyne for LibreOffice, version " VOCALYNE_VERSION);
-    rapport += Dis("\n\nDocuments servis : ", "\n\nDocuments served: ") +
+    rapport += Dis("\n\nDocuments servis\u00a0: ", "\n\nDocuments served: ") +
                std::to_string(constat.documents);
-    rapport += Dis("\nCe document : ", "\nThis document: ") + document;
-    rapport += Dis("\nService : ", "\nService: ") + OuAbsent(constat.service);
-    rapport += Dis("\nBus de session : ", "\nSession bus: ") + BusEnUnMot(constat.bus.genre);
-    rapport += Dis("\nHôte : ", "\nHost: ") + OuAbsent(constat.hote.chemin);
-    rapport += Dis("\nTerminal : ", "\nTerminal: ") + OuAbsent(terminal);
+    rapport += Dis("\nCe document\u00a0: ", "\nThis document: ") + document;
+    rapport += Dis("\nService\u00a0: ", "\nService: ") + OuAbsent(constat.service);
+    rapport += Dis("\nBus de session\u00a0: ", "\nSession bus: ") + BusEnUnMot(constat.bus.genre);
+    rapport += Dis("\nHôte\u00a0: ", "\nHost: ") + OuAbsent(constat.hote.chemin);
+    rapport += Dis("\nTerminal\u00a0: ", "\nTerminal: ") + OuAbsent(terminal);
     std::vector<std::string> const manques = Manques(constat);
     rapport += manques.empty() ? Dis("\n\nTout va bien.", "\n\nAll is well.")
-                               : Dis("\n\nCe qui ne va pas :", "\n\nWhat is wrong:");
+                               : Dis("\n\nCe qui ne va pas\u00a0:", "\n\nWhat is wrong:");
     for (std::string const& manque : manques) {
         rapport += "\n\n• " + manque;
     }

@@ -28,7 +28,7 @@ std::string PourLeJournal(EtatDuBus const& etat, std::string const& nom) {
 std::string RemedeDuBus(EtatDuBus const& etat, std::string const& nom) {
     switch (etat.genre) {
     case EtatDuBus::Genre::Demarre:
-        return Dis("L’extension démarre : réessayez dans un instant.",
+        return Dis("L’extension démarre\u00a0: réessayez dans un instant.",
                    "The extension is starting: try again in a moment.");
     case EtatDuBus::Genre::SansBus:
         return Dis("Il n’y a pas de bus de session (DBUS_SESSION_BUS_ADDRESS n’est pas définie). "
@@ -37,7 +37,7 @@ std::string RemedeDuBus(EtatDuBus const& etat, std::string const& nom) {
                    "office from your desktop session, not through su, sudo or ssh.");
     case EtatDuBus::Genre::BusMuet:
         return Dis("Le bus de session ne répond pas. Fermez votre session, puis ouvrez-la de "
-                   "nouveau. Ce qui a été dit : ",
+                   "nouveau. Ce qui a été dit\u00a0: ",
                    "The session bus does not answer. Log out, then in again. What was said: ") +
                etat.precision;
     case EtatDuBus::Genre::BusParti:
@@ -47,7 +47,7 @@ std::string RemedeDuBus(EtatDuBus const& etat, std::string const& nom) {
                    "out, then in again.");
     case EtatDuBus::Genre::NonPublie:
         return Dis("Le service des documents n’a pas pu être publié. Relancez la suite. Ce qui a "
-                   "été dit : ",
+                   "été dit\u00a0: ",
                    "The document service could not be published. Restart the office. What was "
                    "said: ") +
                etat.precision;
