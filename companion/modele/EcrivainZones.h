@@ -24,6 +24,9 @@ class EcrivainZones {
     /// `limite`: bytes that the finished document may have.
     explicit EcrivainZones(std::size_t limite = kLimiteReponse);
 
+    /// Makes room at once for a document of about so many bytes: growing step by step copies it.
+    void Prevois(std::size_t octets) { document_.reserve(octets < limite_ ? octets : limite_); }
+
     /// Appends one zone. `nom` in UTF-8; positions are written as they are given; runs in order
     /// (`PlagesDeStyle` keeps them merged). False once the limit is passed: the document is lost
     /// then, its memory given back, and every later call answers false too.

@@ -11,10 +11,16 @@ namespace compagnon {
 namespace {
 
 constexpr char16_t kTiretConditionnel = 0x00AD;
+constexpr std::size_t kPortionsUsuelles = 8;
 
 } // namespace
 
 void PlanDePortions::Ajoute(GenrePortion genre, std::u16string source, std::uint16_t style) {
+    if (portions_.empty()) {
+        // Most paragraphs have a few portions: one allocation serves them all.
+        portions_.reserve(kPortionsUsuelles);
+        segments_.reserve(kPortionsUsuelles);
+    }
     std::size_t const debut = texte_.size();
     portions_.push_back({genre, std::move(source), style});
     if (genre == GenrePortion::Texte) {

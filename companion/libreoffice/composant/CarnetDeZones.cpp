@@ -16,13 +16,15 @@ std::shared_ptr<ZoneOuverte> CarnetDeZones::Retrouve(uno::Reference<uno::XInterf
     if (trouve == parObjet_.end()) {
         return nullptr;
     }
-    trouve->second.passage = passage_;
+    Rencontre(trouve->second);
     return trouve->second.zone;
 }
 
 void CarnetDeZones::Inscris(uno::Reference<uno::XInterface> const& objet,
                             std::shared_ptr<ZoneOuverte> const& zone) {
-    parObjet_[objet.get()] = {objet, zone, nullptr, passage_};
+    Entree& entree = parObjet_[objet.get()];
+    Rencontre(entree);
+    entree = {objet, zone, nullptr, passage_};
     InscrisCle(zone);
 }
 
@@ -32,13 +34,15 @@ CarnetDeZones::RetrouveTexte(uno::Reference<uno::XInterface> const& objet) {
     if (trouve == parObjet_.end()) {
         return nullptr;
     }
-    trouve->second.passage = passage_;
+    Rencontre(trouve->second);
     return trouve->second.texte;
 }
 
 void CarnetDeZones::InscrisTexte(uno::Reference<uno::XInterface> const& objet,
                                  std::shared_ptr<TexteDessine> const& texte) {
-    parObjet_[objet.get()] = {objet, nullptr, texte, passage_};
+    Entree& entree = parObjet_[objet.get()];
+    Rencontre(entree);
+    entree = {objet, nullptr, texte, passage_};
 }
 
 void CarnetDeZones::InscrisCle(std::shared_ptr<ZoneOuverte> const& zone) {
@@ -54,7 +58,17 @@ std::shared_ptr<ZoneOuverte> CarnetDeZones::ParCle(std::string const& cle) const
     return trouve == parCle_.end() ? nullptr : trouve->second;
 }
 
+void CarnetDeZones::Rencontre(Entree& entree) {
+    if (entree.passage != passage_) {
+        entree.passage = passage_;
+        ++rencontres_;
+    }
+}
+
 void CarnetDeZones::Termine() {
+    if (rencontres_ == parObjet_.size()) {
+        return; // nothing has gone, which is most often so: no need to look at each
+    }
     for (auto it = parObjet_.begin(); it != parObjet_.end();) {
         if (it->second.passage == passage_) {
             ++it;

@@ -43,7 +43,10 @@ class CarnetDeZones {
     std::shared_ptr<ZoneOuverte> ParCle(std::string const& cle) const;
 
     /// Brackets a walk over the whole document: what it did not meet is forgotten at its end.
-    void Commence() { ++passage_; }
+    void Commence() {
+        ++passage_;
+        rencontres_ = 0;
+    }
     void Termine();
 
   private:
@@ -51,12 +54,15 @@ class CarnetDeZones {
         com::sun::star::uno::Reference<com::sun::star::uno::XInterface> objet;
         std::shared_ptr<ZoneOuverte> zone;
         std::shared_ptr<TexteDessine> texte;
-        std::uint64_t passage;
+        std::uint64_t passage = 0;
     };
+
+    void Rencontre(Entree& entree);
 
     std::string prefixe_;
     std::uint64_t derniere_ = 0;
     std::uint64_t passage_ = 0;
+    std::size_t rencontres_ = 0; ///< how many entries this walk has met, none twice
     std::unordered_map<com::sun::star::uno::XInterface*, Entree> parObjet_;
     std::unordered_map<std::string, std::shared_ptr<ZoneOuverte>> parCle_;
 };

@@ -60,6 +60,7 @@ LecteurPortions::LecteurPortions()
 ParagrapheLu LecteurPortions::Lis(uno::Reference<container::XEnumerationAccess> const& paragraphe,
                                   int& suppressions) const {
     ParagrapheLu lu;
+    lu.etendues.reserve(8);
     LisSuite(paragraphe, suppressions, lu);
     return lu;
 }
@@ -73,7 +74,8 @@ void LecteurPortions::LisSuite(uno::Reference<container::XEnumerationAccess> con
         lu.etendues.push_back(etendue);
     };
     while (suite->hasMoreElements()) {
-        uno::Reference<text::XTextRange> const etendue(suite->nextElement(), uno::UNO_QUERY_THROW);
+        uno::Reference<text::XTextRange> etendue;
+        suite->nextElement() >>= etendue; // as it comes: no query for what is there already
         uno::Reference<beans::XMultiPropertySet> const valeursDe(etendue, uno::UNO_QUERY_THROW);
         uno::Sequence<uno::Any> const valeurs = valeursDe->getPropertyValues(proprietes_);
         uno::Any const* v = valeurs.getConstArray();

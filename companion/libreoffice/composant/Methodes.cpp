@@ -22,6 +22,17 @@ GVariant* Chaine(std::string const& utf8) {
 GVariant* Chaine(std::u16string const& texte) {
     return Chaine(compagnon::Utf16VersUtf8(texte));
 }
+/// For the document's text, which can be long and is known to be ASCII: neither copied nor read
+/// through again.
+GVariant* LongueChaine(std::string&& ascii) {
+    auto* const tenue = new std::string(std::move(ascii));
+    GBytes* const octets = g_bytes_new_with_free_func(
+        tenue->c_str(), tenue->size() + 1,
+        [](gpointer chaine) { delete static_cast<std::string*>(chaine); }, tenue);
+    GVariant* const valeur = g_variant_new_from_bytes(G_VARIANT_TYPE_STRING, octets, TRUE);
+    g_bytes_unref(octets);
+    return g_variant_new("(@s)", valeur);
+}
 GVariant* Booleen(bool vrai) {
     return g_variant_new("(b)", static_cast<gboolean>(vrai));
 }
@@ -142,7 +153,7 @@ gboolean SurSynchronise(GObject* /*s*/, Invocation* invocation, char const* leId
                         gpointer methodes) {
     return Sert(methodes, invocation,
                 [leId = std::string(leId)](Service& service, std::string const& appelant) {
-                    return Chaine(service.SynchronisePositions(appelant, leId));
+                    return LongueChaine(service.SynchronisePositions(appelant, leId));
                 });
 }
 

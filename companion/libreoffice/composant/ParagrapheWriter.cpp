@@ -29,11 +29,6 @@ ParagrapheWriter::ParagrapheWriter(std::string cle,
     , contenant_(std::move(contenant))
     , fond_(std::move(fond)) {}
 
-ParagrapheLu ParagrapheWriter::LisEnPassant(int& suppressions) const {
-    uno::Reference<container::XEnumerationAccess> const portions(paragraphe_, uno::UNO_QUERY_THROW);
-    return fond_->lecteur.Lis(portions, suppressions);
-}
-
 PlanDePortions ParagrapheWriter::Lis() {
     // A deleted paragraph can go on living among the undo steps, where it still reads and writes:
     // only a comparison of places tells that it stands in the text no longer.
@@ -46,7 +41,8 @@ PlanDePortions ParagrapheWriter::Lis() {
         throw ZoneInconnue();
     }
     int ouvertes = fond_->suppressions.OuvertesAuDebut(etendue, contenant_->texte);
-    ParagrapheLu lu = LisEnPassant(ouvertes);
+    uno::Reference<container::XEnumerationAccess> const portions(paragraphe_, uno::UNO_QUERY_THROW);
+    ParagrapheLu lu = fond_->lecteur.Lis(portions, ouvertes);
     etendues_ = std::move(lu.etendues);
     return std::move(lu.plan);
 }

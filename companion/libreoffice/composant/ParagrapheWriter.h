@@ -31,9 +31,6 @@ class ParagrapheWriter : public ZoneOuverte {
         com::sun::star::uno::Reference<com::sun::star::text::XTextContent> const& paragraphe,
         std::shared_ptr<Contenant const> contenant, std::shared_ptr<FondWriter const> fond);
 
-    /// Reads in the course of a walk, which knows the deletions that are open here.
-    ParagrapheLu LisEnPassant(int& suppressions) const;
-
     compagnon::PlanDePortions Lis() override;
     bool EstProtegee() override;
     void Applique(CorrectionPrete const& correction) override;

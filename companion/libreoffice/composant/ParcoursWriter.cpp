@@ -86,13 +86,16 @@ void ParcoursWriter::ParcoursTexte(std::shared_ptr<Contenant const> const& conte
     uno::Reference<container::XEnumeration> const suite = paragraphes->createEnumeration();
     int suppressions = 0;
     while (suite->hasMoreElements()) {
-        uno::Reference<text::XTextContent> const element(suite->nextElement(),
-                                                         uno::UNO_QUERY_THROW);
-        uno::Reference<text::XTextTable> const tableau(element, uno::UNO_QUERY);
-        if (tableau.is()) {
-            ParcoursTableau(tableau, contenant);
+        // As the enumeration gives it: a query for what is there already takes its time, and one
+        // for what is not takes longest. So a table is asked for only where there are no portions.
+        uno::Reference<text::XTextContent> element;
+        suite->nextElement() >>= element;
+        uno::Reference<container::XEnumerationAccess> const portions(element, uno::UNO_QUERY);
+        if (portions.is()) {
+            ParcoursParagraphe(element, portions, contenant, suppressions);
         } else {
-            ParcoursParagraphe(element, contenant, suppressions);
+            ParcoursTableau(uno::Reference<text::XTextTable>(element, uno::UNO_QUERY_THROW),
+                            contenant);
         }
     }
 }
@@ -113,9 +116,10 @@ void ParcoursWriter::ParcoursTableau(uno::Reference<text::XTextTable> const& tab
     }
 }
 
-void ParcoursWriter::ParcoursParagraphe(uno::Reference<text::XTextContent> const& paragraphe,
-                                        std::shared_ptr<Contenant const> const& contenant,
-                                        int& suppressions) {
+void ParcoursWriter::ParcoursParagraphe(
+    uno::Reference<text::XTextContent> const& paragraphe,
+    uno::Reference<container::XEnumerationAccess> const& portions,
+    std::shared_ptr<Contenant const> const& contenant, int& suppressions) {
     uno::Reference<uno::XInterface> const objet = Identite(paragraphe);
     auto zone = std::dynamic_pointer_cast<ParagrapheWriter>(carnet_.Retrouve(objet));
     if (!zone) {
@@ -123,12 +127,15 @@ void ParcoursWriter::ParcoursParagraphe(uno::Reference<text::XTextContent> const
             std::make_shared<ParagrapheWriter>(carnet_.NouvelleCle(), paragraphe, contenant, fond_);
         carnet_.Inscris(objet, zone);
     }
-    ParagrapheLu lu = zone->LisEnPassant(suppressions);
-    uno::Reference<beans::XPropertySet> const proprietes(paragraphe, uno::UNO_QUERY_THROW);
+    ParagrapheLu lu = fond_->lecteur.Lis(portions, suppressions);
+    std::vector<Rencontre> const rencontres = std::move(lu.rencontres);
+    uno::Reference<beans::XPropertySet> proprietes;
+    if (aDesSections_ || aDesCadres_ || !rencontres.empty()) {
+        proprietes.set(paragraphe, uno::UNO_QUERY_THROW);
+    }
     if (aDesSections_ && EstDansSectionNonLue(proprietes)) {
         return;
     }
-    std::vector<Rencontre> const rencontres = std::move(lu.rencontres);
     recueil_(zone, std::move(lu.plan));
     for (Rencontre const& rencontre : rencontres) {
         ParcoursRencontre(rencontre, contenant, proprietes);

@@ -30,9 +30,11 @@ class ParcoursWriter {
     void ParcoursTexte(std::shared_ptr<Contenant const> const& contenant);
     void ParcoursTableau(com::sun::star::uno::Reference<com::sun::star::text::XTextTable> const& t,
                          std::shared_ptr<Contenant const> const& parent);
-    void
-    ParcoursParagraphe(com::sun::star::uno::Reference<com::sun::star::text::XTextContent> const& p,
-                       std::shared_ptr<Contenant const> const& contenant, int& suppressions);
+    void ParcoursParagraphe(
+        com::sun::star::uno::Reference<com::sun::star::text::XTextContent> const& p,
+        com::sun::star::uno::Reference<com::sun::star::container::XEnumerationAccess> const&
+            portions,
+        std::shared_ptr<Contenant const> const& contenant, int& suppressions);
     void ParcoursRencontre(
         Rencontre const& rencontre, std::shared_ptr<Contenant const> const& contenant,
         com::sun::star::uno::Reference<com::sun::star::beans::XPropertySet> const& ancre);

@@ -105,9 +105,11 @@ std::string Service::SynchronisePositions(std::string const& appelant, std::stri
     }
     Session& session = sessions_[appelant];
     session.document = document->Cle();
-    session.croyances.clear();
     compagnon::EcrivainZones ecrivain;
+    ecrivain.Prevois(session.tailleZones + session.tailleZones / 16);
     std::unordered_map<std::string, compagnon::TexteSuivi> croyances;
+    croyances.reserve(session.croyances.size()); // most often the same zones again
+    session.croyances.clear();
     document->Parcours([&](ZoneLue const& lue) {
         std::u16string const& texte = lue.plan.DonneTexte();
         ecrivain.Ajoute(lue.zone->Cle(), texte, lue.selection.value_or(Intervalle()),
@@ -119,6 +121,7 @@ std::string Service::SynchronisePositions(std::string const& appelant, std::stri
         throw Erreur("TropGrand", "the document's text does not fit in one message of the bus");
     }
     session.croyances = std::move(croyances);
+    session.tailleZones = zones->size();
     return std::move(*zones);
 }
 

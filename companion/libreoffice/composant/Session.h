@@ -19,6 +19,9 @@ struct Session {
     /// By zone key.
     std::unordered_map<std::string, compagnon::TexteSuivi> croyances;
 
+    /// Bytes of the zone document it was last given: the next one is most often about as long.
+    std::size_t tailleZones = 0;
+
     /// The selection as its tools know it: they replace that one and no other.
     struct Contexte {
         std::string zone;
