@@ -15,16 +15,15 @@ class AgentDuBanc : public ModuleProxyOOo {
     using ModuleProxyOOo::DonneProxy;
 
     AgentDuBanc(QString const& instance, int zones)
-        : InterfaceTexteur(Identifiant(instance, zones))
-        , ModuleProxyOOo(Identifiant(instance, zones)) {
+        : AgentDuBanc(instance + QLatin1Char('~') + QString::number(zones)) {}
+
+    /// On any companion's document.
+    explicit AgentDuBanc(QString const& identifiant)
+        : InterfaceTexteur(UniChaine(identifiant))
+        , ModuleProxyOOo(UniChaine(identifiant)) {
         UniChaine message;
         if (!InitialiseTexteur(UniChaine(), message, 0))
             throw std::runtime_error("the bench's companion does not answer");
-    }
-
-  private:
-    static UniChaine Identifiant(QString const& instance, int zones) {
-        return UniChaine(instance + QLatin1Char('~') + QString::number(zones));
     }
 };
 

@@ -4,6 +4,9 @@
 #include "AgentDuBanc.h"
 #include "CollectionZonesDeTexte.h"
 #include "Mesure.h"
+#include "ZoneDeTexteOOoProxy.h"
+
+#include <QDBusPendingReply>
 
 #include <cstdio>
 #include <iostream>
@@ -14,13 +17,16 @@ namespace banc {
 
 namespace {
 
-/// Sent without waiting, as the plug-in does: the question that follows is answered after it.
-void CorrigeEtAttends(InterfaceZoneDeTexte& zone) {
+/// The plug-in never waits for a correction; the bench waits for its reply, and for no work that
+/// the office does afterwards on its own account.
+void CorrigeEtAttends(AgentDuBanc const& agent, ZoneDeTexteOOoProxy const& zone) {
     static int fois = 0;
-    UniChaine const lettre(++fois % 2 == 0 ? QStringLiteral("a") : QStringLiteral("e"));
-    zone.CorrigeDansTexteur(0, 1, lettre, false);
-    if (!zone.PeutCorriger(0, 1, lettre))
-        throw std::runtime_error("a correction was refused");
+    auto const lettre = ++fois % 2 == 0 ? QStringLiteral("a") : QStringLiteral("e");
+    QDBusPendingReply<> reponse =
+        agent.DonneProxy()->CorrigeDansTexteur(zone.DonneNom().VersQString(), 0, 1, lettre, false);
+    reponse.waitForFinished();
+    if (reponse.isError())
+        throw std::runtime_error(reponse.error().message().toStdString());
 }
 
 } // namespace
@@ -39,7 +45,8 @@ int ConduisBureau(QString const& identifiant) {
             auto const duree = Passe([&] { agent.SynchronisePositions(zones); });
             std::printf("%.1f %d\n", duree, zones.DonneNombre());
         } else if (operation == "corrige" && rang >= 0 && rang < zones.DonneNombre()) {
-            std::printf("%.1f\n", Passe([&] { CorrigeEtAttends(*zones.DonneZone(rang)); }));
+            auto const& zone = dynamic_cast<ZoneDeTexteOOoProxy const&>(*zones.DonneZone(rang));
+            std::printf("%.1f\n", Passe([&] { CorrigeEtAttends(agent, zone); }));
         } else {
             throw std::runtime_error("not understood: " + ligne);
         }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
+#include "Bureau.h"
 #include "Machine.h"
 #include "Memoire.h"
 #include "Mesures.h"
@@ -83,8 +84,10 @@ int Execute(QCoreApplication const& application) {
     QCommandLineOption repondeur(QStringLiteral("repondeur"), {}, QStringLiteral("INSTANCE"));
     QCommandLineOption lecteur(QStringLiteral("lecteur"), {}, QStringLiteral("INSTANCE"));
     repondeur.setFlags(QCommandLineOption::HiddenFromHelp);
+    QCommandLineOption bureau(QStringLiteral("bureau"), {}, QStringLiteral("ID"));
+    bureau.setFlags(QCommandLineOption::HiddenFromHelp);
     lecteur.setFlags(QCommandLineOption::HiddenFromHelp);
-    options.addOptions({essai, greffon, seulement, repondeur, lecteur});
+    options.addOptions({essai, greffon, seulement, repondeur, lecteur, bureau});
     options.addPositionalArgument(QStringLiteral("zones"), {}, QString());
     if (!options.parse(application.arguments()))
         return RefuseOptions(options, options.errorText());
@@ -95,6 +98,8 @@ int Execute(QCoreApplication const& application) {
     if (options.isSet(lecteur))
         return banc::LisEtDisMemoire(options.value(lecteur),
                                      options.positionalArguments().value(0).toInt());
+    if (options.isSet(bureau))
+        return banc::ConduisBureau(options.value(bureau));
     auto mesures = Mesures(options.value(greffon));
     if (options.isSet(seulement)) {
         auto const voulues = options.values(seulement);

@@ -78,7 +78,6 @@ class Salle:
         preparation.unopkg("add", str(banc.DOSSIER / "temoin.oxt"))
         self.bureau = banc.Bureau(self.bus.adresse)
         self.temoin = self.bureau.cree("com.ombrel.vocalyne.banc.Temoin")
-        self.client = banc.Client(self.bus, "inconnue")
         self.pid = banc.attends(self._pid, "the office's process")
 
     def _pid(self):
@@ -160,6 +159,7 @@ class Lecture:
             salle.calme()
             milieu = salle.occupe()
             self.ensemble.append(salle.lis_dedans(self.document))
+            salle.calme()
             self.occupe.append(milieu - avant)
             self.occupe_temoin.append(salle.occupe() - milieu)
             self.un_a_un.append(salle.lis_dedans(self.document, un_a_un=True))
@@ -191,7 +191,7 @@ def premiere_du_temoin(salle, nombre):
 def lignes(salle):
     petite = Lecture(salle, PETIT, 11, 0)
     moyenne = Lecture(salle, MOYEN, 11, 3)
-    grande = Lecture(salle, GRAND, 7, 1)
+    grande = Lecture(salle, GRAND, 7, 2)
     for lecture, limite in ((moyenne, 1 / 15), (grande, 1 / 20)):
         yield Ligne(f"SynchronisePositions / from outside by PyUNO, text alone, {lecture.nombre}",
                     lecture.mediane("lectures"), lecture.mediane("dehors"), limite)

@@ -1,16 +1,13 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MPL-2.0
-"""Runs test modules against a real LibreOffice, as an ordinary user.
-
-usage: lance.py [--hote BUILD] OXT MODULE...
-
-  --hote BUILD   also installs the host and the plug-in of this build folder, in "prefixe"
+"""Runs test modules, or a program, against a real LibreOffice, as an ordinary user.
 
 An office refuses to keep a profile, and its package manager to work, for the superuser: a run as
 root goes on as the user "vocalyne-essai", made when missing. Everything the run makes stands in one
-folder of its own, which goes with it.
+folder of its own, which goes with it; so do the modules of this folder, copied there.
 """
 
+import argparse
 import os
 import pathlib
 import pwd
@@ -32,26 +29,37 @@ def utilisateur_ordinaire():
         return pwd.getpwnam(UTILISATEUR)
 
 
+def options():
+    analyse = argparse.ArgumentParser(description=__doc__,
+                                      formatter_class=argparse.RawDescriptionHelpFormatter)
+    analyse.add_argument("--hote", metavar="BUILD",
+                         help='also installs that build\'s host and plug-in, in "prefixe"')
+    analyse.add_argument("--avec", metavar="FILE", action="append", default=[],
+                         help="also copies this file into the folder; may be given again")
+    analyse.add_argument("--programme", action="store_true",
+                         help="MODULE is a Python program with its arguments, not a test module")
+    analyse.add_argument("oxt", type=pathlib.Path, metavar="OXT")
+    analyse.add_argument("modules", nargs=argparse.REMAINDER, metavar="MODULE")
+    lues = analyse.parse_args()
+    if not lues.modules:
+        analyse.error("no MODULE")
+    return lues
+
+
 def main():
-    arguments, construction = sys.argv[1:], None
-    if arguments[:1] == ["--hote"]:
-        construction, arguments = arguments[1:2], arguments[2:]
-    if len(arguments) < 2 or arguments[0] in ("-h", "--help"):
-        print(__doc__, file=sys.stdout if "--help" in sys.argv else sys.stderr)
-        return 0 if "--help" in sys.argv else 2
-    oxt, modules = pathlib.Path(arguments[0]), arguments[1:]
-    if not oxt.is_file():
-        print(f"{oxt}: no such package; build the target vocalyne_oxt first", file=sys.stderr)
+    voulu = options()
+    if not voulu.oxt.is_file():
+        print(f"{voulu.oxt}: no such package; build the target vocalyne_oxt first", file=sys.stderr)
         return 1
     ici = pathlib.Path(__file__).resolve().parent
     with tempfile.TemporaryDirectory(prefix="vocalyne-bureau-") as dossier:
         travail = pathlib.Path(dossier)
-        for source in ici.glob("*.py"):
+        for source in [*ici.glob("*.py"), *voulu.avec]:
             shutil.copy(source, travail)
-        shutil.copy(oxt, travail / "vocalyne-libreoffice.oxt")
-        if construction:
+        shutil.copy(voulu.oxt, travail / "vocalyne-libreoffice.oxt")
+        if voulu.hote:
             # Where the office's user can run them, whoever the build belongs to.
-            subprocess.run(["cmake", "--install", *construction, "--component", "runtime",
+            subprocess.run(["cmake", "--install", voulu.hote, "--component", "runtime",
                             "--prefix", str(travail / "prefixe")],
                            check=True, stdout=subprocess.DEVNULL)
         environnement = {nom: valeur for nom, valeur in os.environ.items()
@@ -64,7 +72,8 @@ def main():
             qui = {"user": compte.pw_uid, "group": compte.pw_gid, "extra_groups": []}
             for chemin in [travail, *travail.rglob("*")]:
                 os.chown(chemin, compte.pw_uid, compte.pw_gid)
-        commande = [sys.executable, "-m", "unittest", "-v", *modules]
+        manieres = [] if voulu.programme else ["-m", "unittest", "-v"]
+        commande = [sys.executable, *manieres, *voulu.modules]
         return subprocess.run(commande, cwd=dossier, env=environnement, check=False,
                               **qui).returncode
 
