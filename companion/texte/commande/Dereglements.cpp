@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Dereglements.h"
 
+#include <QDBusVariant>
 #include <QTimer>
 
 #include <algorithm>
@@ -28,6 +29,8 @@ constexpr Nomme kFacons[] = {
     {"texte", Comment::Texte, false},
     {"entier", Comment::Entier, false},
     {"booleen", Comment::Booleen, false},
+    {"variante", Comment::Variante, false},
+    {"tableau", Comment::Tableau, true},
     {"taille", Comment::Taille, true},
     {"meurs", Comment::Meurs, false},
     {"quitte", Comment::Quitte, false},
@@ -166,6 +169,13 @@ void Dereglements::Applique(Regle const& regle, QDBusMessage const& appel,
         break;
     case Comment::Booleen:
         connexion.send(appel.createReply(regle.detail == QLatin1String("true")));
+        break;
+    case Comment::Variante:
+        connexion.send(
+            appel.createReply(QVariant::fromValue(QDBusVariant(QVariant(regle.detail)))));
+        break;
+    case Comment::Tableau:
+        connexion.send(appel.createReply(QVariant::fromValue(QList<int>{regle.nombre})));
         break;
     case Comment::Taille:
         connexion.send(appel.createReply(TexteDeTaille(regle.nombre)));

@@ -28,6 +28,8 @@ class Dereglements : public QObject, public Portier {
         Texte,
         Entier,
         Booleen,
+        Variante,
+        Tableau,
         Taille,
         Meurs,
         Quitte

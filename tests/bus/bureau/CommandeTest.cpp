@@ -66,6 +66,10 @@ TEST_F(Misbehaviour, RepliesCanBeOfAnyTypeOrEmpty) {
     EXPECT_EQ(client.Appelle("PermetsRetourDeCharriot").arguments(), QVariantList{-7});
     Commande().Deregle("DonneTitreDocument", "booleen", "true");
     EXPECT_EQ(client.Appelle("DonneTitreDocument").arguments(), QVariantList{true});
+    Commande().Deregle("DonneTitreDocument", "variante", "vrai");
+    EXPECT_EQ(client.Appelle("DonneTitreDocument").signature(), QStringLiteral("v"));
+    Commande().Deregle("DonneTitreDocument", "tableau", "7");
+    EXPECT_EQ(client.Appelle("DonneTitreDocument").signature(), QStringLiteral("ai"));
     Commande().Deregle("DonneTitreDocument", "sans-argument");
     QDBusMessage const reponse = client.Appelle("DonneTitreDocument");
     EXPECT_EQ(reponse.type(), QDBusMessage::ReplyMessage);

@@ -66,6 +66,20 @@ TEST_F(BridgeNeutralValues, AReplyOfAnotherTypeIsNoAnswer) {
     EXPECT_EQ(S(agent.DonneTitreDocument()), "");
 }
 
+TEST_F(BridgeNeutralValues, AReplyInsideAContainerIsNoAnswer) {
+    CollectionZonesDeTexte zones;
+    ASSERT_TRUE(agent.Initialise());
+    ASSERT_TRUE(agent.SynchronisePositions(zones));
+    for (char const* const texte : {"true", "7", "{\"Zones\":[{}]}"}) {
+        bureau.DonneCommande().Deregle("*", "variante", texte);
+        AttendsNeutre(agent);
+        EXPECT_FALSE(zones.DonneZone(0)->PeutCorriger(4, 8, Uc("chat"))) << texte;
+    }
+    bureau.DonneCommande().Deregle("*", "tableau", "1");
+    AttendsNeutre(agent);
+    EXPECT_FALSE(zones.DonneZone(0)->PeutCorriger(4, 8, Uc("chat")));
+}
+
 TEST_F(BridgeNeutralValues, ACompanionThatDiesDuringTheCallIsNoAnswer) {
     bureau.DonneCommande().Deregle("DonneTitreDocument", "meurs");
     EXPECT_EQ(S(agent.DonneTitreDocument()), "");
