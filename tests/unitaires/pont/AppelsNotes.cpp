@@ -6,12 +6,14 @@
 #include <QDBusMessage>
 #include <QDBusPendingCall>
 
+#include <stdexcept>
 #include <utility>
 
 namespace {
 
 std::vector<appelsNotes::Appel> lesAppels;
 bool leRefus = false;
+bool laLevee = false;
 
 } // namespace
 
@@ -19,6 +21,8 @@ bool leRefus = false;
 QDBusPendingCall QDBusAbstractInterface::asyncCallWithArgumentList(QString const& method,
                                                                    QList<QVariant> const& args) {
     lesAppels.push_back({service(), method, args, timeout()});
+    if (laLevee)
+        throw std::runtime_error("sending");
     if (leRefus)
         return QDBusPendingCall::fromError(
             QDBusError(QDBusError::Disconnected, QStringLiteral("refused")));
@@ -32,6 +36,10 @@ std::vector<appelsNotes::Appel> appelsNotes::Prends() {
 
 void appelsNotes::Refuse(bool refuse) {
     leRefus = refuse;
+}
+
+void appelsNotes::Leve(bool leve) {
+    laLevee = leve;
 }
 
 bool appelsNotes::operator==(Appel const& a, Appel const& b) {

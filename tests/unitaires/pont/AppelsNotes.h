@@ -25,6 +25,9 @@ std::vector<Appel> Prends();
 /// Are calls refused at once, as where there is no bus? Otherwise they count as sent.
 void Refuse(bool refuse);
 
+/// Does sending throw a std::runtime_error, once it is noted?
+void Leve(bool leve);
+
 bool operator==(Appel const& a, Appel const& b);
 void PrintTo(Appel const& appel, std::ostream* sortie);
 

@@ -4,11 +4,13 @@
 #include "AlertesNotees.h"
 #include "AppelsNotes.h"
 #include "Textes.h"
+#include "VocalyneOpenOfficeProxyQDBUS.h"
 
 #include <gtest/gtest.h>
 
 #include <climits>
 #include <functional>
+#include <stdexcept>
 #include <vector>
 
 namespace {
@@ -24,6 +26,8 @@ Appel Vers(char const* methode, QList<QVariant> const& arguments = {}, int delai
 class AgentSends : public testing::Test {
   protected:
     AgentSends() { appelsNotes::Prends(); }
+    ~AgentSends() override { appelsNotes::Leve(false); }
+
     AgentEssai agent_{U(u"inst~doc3")};
     InterfaceAgentTexteur& hote_ = agent_;
 };
@@ -120,6 +124,21 @@ TEST_F(AgentSends, EachRequestWithoutArgumentsUnderItsOwnName) {
         c.demande(); // any number of times
         EXPECT_EQ((Appels{Vers(c.methode), Vers(c.methode)}), appelsNotes::Prends());
     }
+}
+
+TEST_F(AgentSends, ASuspensionThatNeverFailsTowardsTheHost) {
+    appelsNotes::Leve(true);
+    EXPECT_NO_THROW(hote_.Suspends());
+    EXPECT_EQ(Appels{Vers("Suspends")}, appelsNotes::Prends());
+}
+
+TEST_F(AgentSends, WithTheEarlierTimeOutBackAlsoWhereSendingThrows) {
+    appelsNotes::Leve(true);
+    UniChaine message;
+    EXPECT_THROW(hote_.DocEstMort(), std::runtime_error);
+    EXPECT_EQ(-1, agent_.DonneProxy()->timeout());
+    EXPECT_THROW(hote_.InitialiseTexteur({}, message, 0), std::runtime_error);
+    EXPECT_EQ(-1, agent_.DonneProxy()->timeout());
 }
 
 TEST_F(AgentSends, TheThreeQuestionsOfAContextInOrder) {
