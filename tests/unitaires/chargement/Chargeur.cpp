@@ -3,6 +3,7 @@
 // order, and tells on standard output what it saw.
 //   `application` | `console`  make a QApplication, a QCoreApplication, before anything else
 //   `charge` | `decharge`  dlopen, dlclose
+//   `charge-leve`  dlopen of a plug-in that throws meanwhile; ends the process
 //   `cent`  load and unload a hundred times
 //   `langue1` | `langue2`  fix the display language anew
 //   `ressources`  do the catalogs' paths resolve, how are they stored, what do they hold
@@ -18,6 +19,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <fstream>
 #include <memory>
 #include <string>
@@ -32,6 +34,18 @@ void Charge(char const* chemin) {
         std::printf("dlopen: %s\n", dlerror());
         std::exit(3);
     }
+}
+
+/// What an initialiser throws comes out of dlopen, which is not to be called any more afterwards.
+[[noreturn]] void ChargeCeQuiLeve(char const* chemin) {
+    try {
+        Charge(chemin);
+    } catch (std::exception const& erreur) {
+        std::printf("thrown: %s\n", erreur.what());
+        std::fflush(stdout);
+        std::_Exit(0);
+    }
+    std::exit(5);
 }
 
 void Decharge() {
@@ -104,6 +118,8 @@ int main(int argc, char** argv) {
             application = std::make_unique<QCoreApplication>(argc, argv);
         else if (mot == "charge")
             Charge(argv[1]);
+        else if (mot == "charge-leve")
+            ChargeCeQuiLeve(argv[1]);
         else if (mot == "decharge")
             Decharge();
         else if (mot == "cent")

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 // Stands before the real libraries in the loader program's search order: each call that the plug-in
 // makes while it is loaded and unloaded is told on standard output, then goes where it was meant
-// to.
+// to. With VOCALYNE_LEVE_AU_CHARGEMENT in the environment one of them throws.
 #include "ChaineN.h"
 #include "InitialisationGenerale.h"
 #include "PrefsGeneralesQt.h"
@@ -15,6 +15,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <stdexcept>
 
 namespace {
 
@@ -102,6 +103,8 @@ void InitialisationGenerale::InitLePlusTotPossible(eLangue langue) {
 
 void InitialisationGenerale::InitApresQApp() {
     Dis("InitApresQApp");
+    if (qEnvironmentVariableIsSet("VOCALYNE_LEVE_AU_CHARGEMENT"))
+        throw std::runtime_error("set-up");
     Suivante<void (*)()>("_ZN22InitialisationGenerale13InitApresQAppEv")();
 }
 

@@ -108,6 +108,11 @@ class Chargement(unittest.TestCase):
         self.assertIn("application Vocalyne 9 of Ombrel Informatique inc.",
                       self.lance("charge", "noms", "decharge"))
 
+    def test_what_set_up_throws_reaches_the_host_and_the_settings_are_closed(self):
+        avant = ouverture(self.chemin(), 0, 2)
+        self.assertEqual([*avant[:avant.index("InitApresQApp") + 1], "~PrefsGeneralesQt", "thrown: set-up"],
+                         self.lance("charge-leve", VOCALYNE_LEVE_AU_CHARGEMENT="1"))
+
     def test_without_any_display_loading_goes_on_offscreen(self):
         self.assertIn("-- charge: application its own", self.lance("charge", "decharge"))
 

@@ -68,6 +68,8 @@ TEST(AlertsInEnglish, SayThatAConnectorIsRequired) {
     EXPECT_EQ(U(u"For Vocalyne to be run from the Vocalyne Agent in Writer, a connector must be "
                 u"installed."),
               info.DonneTexte());
+    EXPECT_EQ(AlerteDe([] { AlerteAppelImpossible(U(u"Writer")); }).DonneInformation(),
+              info.DonneInformation());
 }
 
 TEST(AlertsInEnglish, SayThatTheOfficesExtensionIsMissing) {
