@@ -208,6 +208,26 @@ class Fichier(Cas):
         return texte
 
 
+class Grand(Cas):
+    def test_a_document_past_the_bus_s_limit_is_an_error_and_the_office_stays(self):
+        # A spreadsheet, as the office lays out no more of it than is seen. Three bytes a letter,
+        # four for three of them on the bus: past 128 MiB.
+        classeur = self.ouvre("private:factory/scalc")
+        lettres = "\u2019" * 32000
+        colonne = classeur.Sheets.getByIndex(0).getCellRangeByName("A1000:A2099")
+        colonne.setFormulaArray(((lettres,),) * 1100)
+        pilote = self.pilote(classeur)
+        client = banc.Client(BUS)
+        client.prends(classeur)
+        with self.assertRaises(banc.Appel) as erreur:
+            client.zones()
+        self.assertEqual(erreur.exception.nom, "TropGrand")
+        self.assertEqual(pilote.zones(), [])
+        self.assertEqual(pilote("DonneTitreDocument"), classeur.getTitle())
+        colonne.setFormulaArray((("petit",),) * 1100)
+        self.assertEqual([z["texte"] for z in pilote.zones()], ["petit"] * 1100)
+
+
 class Reprise(unittest.TestCase):
     def test_an_office_started_again_in_mid_correction_is_met_anew(self):
         bus = banc.Bus()
