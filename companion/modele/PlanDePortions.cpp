@@ -34,6 +34,19 @@ void PlanDePortions::Ajoute(GenrePortion genre, std::u16string source, std::uint
                    style);
 }
 
+void PlanDePortions::Ajoute(std::u16string source, std::vector<PlageDeStyle> const& styles) {
+    bool const unSeul = styles.size() == 1 && styles[0].debut == 0 &&
+                        static_cast<std::size_t>(styles[0].fin) == source.size();
+    Ajoute(GenrePortion::Texte, std::move(source), unSeul ? styles[0].style : std::uint16_t{0});
+    for (std::size_t i = 0; !unSeul && i < styles.size(); ++i) {
+        auto const decalage = [&](std::int32_t unite) {
+            return static_cast<std::int32_t>(
+                DonneDecalage({portions_.size() - 1, static_cast<std::size_t>(unite)}));
+        };
+        styles_.Ajoute(decalage(styles[i].debut), decalage(styles[i].fin), styles[i].style);
+    }
+}
+
 void PlanDePortions::AjouteTexte(std::size_t portion) {
     std::u16string const& source = portions_[portion].source;
     std::size_t const premier = segments_.size();

@@ -27,6 +27,9 @@ class PlanDePortions {
   public:
     /// Appends a portion; linear in its source.
     void Ajoute(GenrePortion genre, std::u16string source = {}, std::uint16_t style = 0);
+    /// Appends letters of one format whose styles differ by script: `styles` in order, in units of
+    /// the source.
+    void Ajoute(std::u16string source, std::vector<PlageDeStyle> const& styles);
 
     std::u16string const& DonneTexte() const noexcept { return texte_; }
     std::vector<PlageDeStyle> const& DonneStyles() const noexcept { return styles_.Donne(); }

@@ -6,6 +6,7 @@ import unittest
 
 import uno
 from com.sun.star.awt import Size
+from com.sun.star.lang import Locale
 from com.sun.star.util import CellProtection
 
 import banc
@@ -215,6 +216,14 @@ class Lecture(Cas):
         self.assertEqual({(z.texte, *z.styles) for z in self.client.zones()},
                          {("gras", (0, 4, 1)), ("gras", (0, 4, 3)), ("rien",),
                           ("un mot gras", (3, 6, 1))})
+
+    def test_a_language_not_to_be_proofed_counts_for_its_own_script(self):
+        self.remplis(A1="mot", A2="mot \u65e5\u672c\u8a9e")
+        cellules = self.feuille.getCellRangeByName("A1:A2")
+        cellules.CharLocaleAsian = Locale("zxx", "", "")
+        self.assertEqual([z.styles for z in self.client.zones()], [[], [(4, 7, 64)]])
+        cellules.CharLocale = Locale("zxx", "", "")
+        self.assertEqual([z.styles for z in self.client.zones()], [[(0, 3, 64)], [(0, 7, 64)]])
 
     def test_ten_thousand_cells_take_little_and_time_grows_with_them_alone(self):
         def duree(nombre):

@@ -6,6 +6,7 @@ import unittest
 import uno
 
 import banc
+import menus
 from ecrivain import Ecrivain
 
 ITALIQUE = uno.Enum("com.sun.star.awt.FontSlant", "ITALIC")
@@ -460,6 +461,27 @@ class Annulation(Cas):
         with self.assertRaises(banc.Appel):
             self.client.CorrigeDansTexteur(zone.nom, 0, 4, "tout", False)
         self.assertEqual(self.titres(), ())
+
+
+class AnnulationEnFrancais(unittest.TestCase):
+    def test_the_undo_step_is_named_in_the_offices_language(self):
+        menus.met_en_francais("profil-fr")
+        bus = banc.Bus()
+        self.addCleanup(bus.ferme)
+        bureau = banc.Bureau(bus.adresse, profil="profil-fr")
+        self.addCleanup(bureau.ferme)
+        nom = "Correction : \u00ab\u00a0mot\u00a0\u00bb en \u00ab\u00a0maux\u00a0\u00bb"
+        for genre in ("swriter", "scalc"):
+            with self.subTest(genre=genre):
+                doc = bureau.ouvre(f"private:factory/{genre}")
+                (doc.Text if genre == "swriter" else
+                 doc.Sheets.getByIndex(0).getCellByPosition(0, 0)).setString("un mot")
+                doc.UndoManager.clear()
+                client = banc.Client(bus)
+                client.prends(doc)
+                client.corrige(client.zones()[0], "mot", "maux")
+                self.assertEqual(doc.UndoManager.AllUndoActionTitles, (nom,))
+                doc.close(True)
 
 
 class Suivi(Cas):

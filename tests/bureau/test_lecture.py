@@ -196,6 +196,22 @@ class Caracteres(Cas):
                 self.assertEqual(self.seule().styles, [(2, 4, 1 << bit)])
                 self.e.plage(0, 6).setPropertyToDefault(nom)
 
+    def test_each_script_has_a_language_weight_and_posture_of_its_own(self):
+        textes = {"": "latin", "Asian": "\u65e5\u672c\u8a9e", "Complex": "\u05e9\u05dc\u05d5\u05dd"}
+        proprietes = [("CharWeight", 150.0, 1), ("CharPosture", ITALIQUE, 2),
+                      ("CharLocale", Locale("zxx", "", ""), 64)]
+        self.texte.setString(" ".join(textes.values()))
+        for suffixe, mot in textes.items():
+            for nom, valeur, bit in proprietes:
+                with self.subTest(suffixe=suffixe, nom=nom):
+                    tout = self.e.plage(0, len(self.texte.String))
+                    tout.setPropertyValue(nom + suffixe, valeur)
+                    zone = self.seule()
+                    debut = zone.texte.index(mot)
+                    self.assertEqual([(d, s) for d, _, s in zone.styles], [(debut, bit)])
+                    self.assertEqual(zone.texte[debut:zone.styles[0][1]].strip(), mot)
+                    tout.setPropertyToDefault(nom + suffixe)
+
     def test_styles_combine(self):
         self.texte.setString("abcdef")
         self.e.plage(0, 4).CharWeight = 150.0
@@ -268,6 +284,34 @@ class Selections(Cas):
         self.doc.CurrentController.select(curseur)
         self.assertEqual({z.texte: z.selection for z in self.client.zones()}["in a note"], (0, 2))
         self.assertEqual(self.client.DonneContexteSelection(), "in a note")
+
+    def test_selected_table_cells_are_selected_each(self):
+        self.texte.setString("avant")
+        tableau = self.e.tableau(2, 3)
+        for nom in tableau.CellNames:
+            tableau.getCellByName(nom).setString("cellule " + nom)
+        dedans = Ecrivain(self.doc, tableau.getCellByName("B1")).tableau(1, 1)
+        dedans.getCellByName("A1").setString("imbriquee")
+        self.doc.CurrentController.select(tableau.getCellRangeByName("B1:C2"))
+        self.assertEqual([z.texte for z in self.client.zones() if z.selection[1]],
+                         ["cellule B1", "imbriquee", "cellule C1", "cellule B2", "cellule C2"])
+        self.assertEqual(self.client.DonneContexteSelection(), "cellule B1")
+        with self.assertRaises(banc.Appel) as refus:
+            self.client.RemplaceEtReselectionne("x")
+        self.assertEqual(refus.exception.nom, "Refuse")
+
+    def test_a_selected_shape_is_selected_whole(self):
+        self.e.ecrit("corps")
+        forme = self.e.forme("dans la forme")
+        self.doc.CurrentController.select(forme)
+        self.assertEqual(self.client.DonneContexteSelection(), "dans la forme")
+        zone = next(z for z in self.client.zones() if "forme" in z.texte)
+        self.assertEqual(zone.selection, (0, 13))
+        self.client.SelectionneIntervalle(zone.nom, 5, 7)
+        self.assertEqual(self.client.DonneContenuSelection(), "la")
+        self.client.RemplaceEtReselectionne("une")
+        self.assertEqual(forme.String, "dans une forme")
+        self.assertEqual(self.client.DonneContenuSelection(), "une")
 
     def test_the_context_is_the_paragraph_with_the_selection_in_it(self):
         self.texte.setString("un\rdeux mots\rtrois")

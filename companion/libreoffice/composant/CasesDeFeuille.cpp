@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "CasesDeFeuille.h"
 
+#include "Chaines.h"
+#include "Ecritures.h"
 #include "StyleDeLettres.h"
 
 #include <com/sun/star/beans/XMultiPropertySet.hpp>
@@ -147,8 +149,8 @@ class Recolte {
                   Format const& format) {
         OUString texte;
         if (format.seLit && (valeur >>= texte) && !EstDansUnPivot(ligne, colonne)) {
-            bool const uniforme =
-                formatees_.count({ligne, colonne}) == 0 && texte.indexOf('\n') < 0;
+            bool const uniforme = formatees_.count({ligne, colonne}) == 0 &&
+                                  texte.indexOf('\n') < 0 && EstToutLatin(Vue(texte));
             cases_.push_back({ligne, colonne, false, uniforme, format.style, texte});
         }
     }

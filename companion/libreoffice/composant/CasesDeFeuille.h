@@ -13,7 +13,7 @@ struct CaseDeFeuille {
     std::int32_t ligne;
     std::int32_t colonne;
     bool estCommentaire;
-    bool estUniforme; ///< one line in one format: `texte` and `style` are all there is
+    bool estUniforme; ///< one line of one format and script: `texte` and `style` are all there is
     std::uint16_t style;
     rtl::OUString texte;
 };

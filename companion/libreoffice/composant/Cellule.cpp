@@ -82,8 +82,10 @@ std::vector<ParagrapheLu> Cellule::LisTout() const {
     }
     uno::Reference<beans::XMultiPropertySet> const format(Objet(), uno::UNO_QUERY_THROW);
     uno::Sequence<uno::Any> const valeurs = format->getPropertyValues(NomsDesProprietesDeLettres());
-    std::vector<ParagrapheLu> lus;
-    lus.push_back(LisUniforme(TexteBrut(), StyleDeLettres(valeurs.getConstArray())));
+    OUString const texte = TexteBrut();
+    std::vector<ParagrapheLu> lus(1);
+    lus[0].plan.Ajoute(std::u16string(Vue(texte)),
+                       StylesDeLettres(Objet(), valeurs.getConstArray(), texte));
     return lus;
 }
 
@@ -91,18 +93,20 @@ bool Cellule::EstProtege() const {
     uno::Reference<sheet::XSheetCellRange> const cellule(Objet(), uno::UNO_QUERY_THROW);
     uno::Reference<util::XProtectable> const feuille(cellule->getSpreadsheet(),
                                                      uno::UNO_QUERY_THROW);
-    if (feuille->isProtected()) {
-        uno::Reference<beans::XPropertySet> const proprietes(Objet(), uno::UNO_QUERY_THROW);
-        util::CellProtection protection;
-        proprietes->getPropertyValue("CellProtection") >>= protection;
-        if (protection.IsLocked) {
-            return true;
-        }
+    if (!feuille->isProtected()) {
+        return false;
     }
+    uno::Reference<beans::XPropertySet> const proprietes(Objet(), uno::UNO_QUERY_THROW);
+    util::CellProtection protection;
+    proprietes->getPropertyValue("CellProtection") >>= protection;
+    return protection.IsLocked;
+}
+
+bool Cellule::EstEnFrappe() const {
     uno::Reference<sheet::XCellAddressable> const active(Modele()->getCurrentSelection(),
                                                          uno::UNO_QUERY);
-    return active.is() && active->getCellAddress() == *Adresse() &&
-           EstEnTrainDeTaper(Modele()->getCurrentController());
+    return active.is() && active->getCellAddress() == Adresse() &&
+           EstEnTrainDeTaper(Modele()->getCurrentController(), Frappe::DansUneCellule);
 }
 
 bool Cellule::Remplace(std::size_t rang, std::size_t debut, std::u16string const& avant,

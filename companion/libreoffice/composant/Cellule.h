@@ -21,8 +21,8 @@ class Cellule : public TexteDessine {
     std::optional<com::sun::star::table::CellAddress> Adresse() const;
 
     bool SAnnuleSeul() const override { return true; }
-    /// Also while the person types in it.
     bool EstProtege() const override;
+    bool EstEnFrappe() const override;
     bool Remplace(std::size_t rang, std::size_t debut, std::u16string const& avant,
                   std::u16string const& apres) override;
     void Selectionne() override;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "ChoixWriter.h"
 
+#include "Chaines.h"
 #include "ChoixDessine.h"
 #include "ParagrapheWriter.h"
 
@@ -8,8 +9,15 @@
 #include <com/sun/star/container/XIndexAccess.hpp>
 #include <com/sun/star/text/XTextCursor.hpp>
 #include <com/sun/star/text/XTextRangeCompare.hpp>
+#include <com/sun/star/text/XTextTable.hpp>
+#include <com/sun/star/text/XTextTableCursor.hpp>
+#include <com/sun/star/text/XTextViewCursorSupplier.hpp>
 
+#include <algorithm>
+#include <optional>
+#include <set>
 #include <utility>
+#include <vector>
 
 using namespace com::sun::star;
 using compagnon::Intervalle;
@@ -78,12 +86,84 @@ class ChoixDePlage : public Choix {
     bool finie_ = false;
 };
 
+/// Where a cell stands, from a name such as "B3"; columns count A to Z, then a to z, then AA.
+std::optional<std::pair<int, int>> PlaceDeCellule(std::u16string_view nom) {
+    int colonne = 0;
+    std::size_t i = 0;
+    for (; i < nom.size() && (nom[i] >= u'A' && nom[i] <= u'z'); ++i) {
+        colonne = colonne * 52 + (nom[i] <= u'Z' ? nom[i] - u'A' : nom[i] - u'a' + 26) + 1;
+    }
+    int ligne = 0;
+    for (; i < nom.size() && nom[i] >= u'0' && nom[i] <= u'9'; ++i) {
+        ligne = ligne * 10 + (nom[i] - u'0');
+    }
+    // Cells that were split have longer names: their place is another cell's.
+    return i < nom.size() && nom[i] != u'.' ? std::nullopt
+                                            : std::make_optional(std::make_pair(colonne, ligne));
+}
+
+/// Whole cells of a table.
+class ChoixDansUnTableau : public Choix {
+  public:
+    ChoixDansUnTableau(uno::Reference<text::XTextTable> const& tableau, std::u16string_view plage) {
+        std::size_t const milieu = std::min(plage.find(u':'), plage.size());
+        auto const un = PlaceDeCellule(plage.substr(0, milieu));
+        auto const autre = milieu < plage.size() ? PlaceDeCellule(plage.substr(milieu + 1)) : un;
+        for (rtl::OUString const& nom : tableau->getCellNames()) {
+            auto const ici = PlaceDeCellule(Vue(nom));
+            if (un && autre && ici && EstEntre(ici->first, un->first, autre->first) &&
+                EstEntre(ici->second, un->second, autre->second)) {
+                cellules_.emplace_back(tableau->getCellByName(nom), uno::UNO_QUERY);
+                identites_.insert(cellules_.back().get());
+            }
+        }
+    }
+
+    std::optional<Intervalle> Dans(ZoneOuverte& zone,
+                                   compagnon::PlanDePortions const& plan) override {
+        auto* const paragraphe = dynamic_cast<ParagrapheWriter*>(&zone);
+        if (paragraphe == nullptr || !paragraphe->EstDans(identites_)) {
+            return std::nullopt;
+        }
+        return Intervalle{0, static_cast<std::int32_t>(plan.DonneTexte().size())};
+    }
+
+    std::shared_ptr<ZoneOuverte> Premiere(CarnetDeZones& /*carnet*/) override { return nullptr; }
+    bool Deborde() override { return true; }
+
+  private:
+    static bool EstEntre(int valeur, int a, int b) {
+        return std::min(a, b) <= valeur && valeur <= std::max(a, b);
+    }
+
+    std::vector<uno::Reference<uno::XInterface>> cellules_;
+    std::set<uno::XInterface*> identites_;
+};
+
+std::unique_ptr<Choix> LisTableau(uno::Reference<frame::XModel> const& modele,
+                                  uno::Reference<text::XTextTableCursor> const& cellules) {
+    // The cells do not say of which table they are; the caret does.
+    uno::Reference<text::XTextViewCursorSupplier> const vue(modele->getCurrentController(),
+                                                            uno::UNO_QUERY_THROW);
+    uno::Reference<beans::XPropertySet> const curseur(vue->getViewCursor(), uno::UNO_QUERY_THROW);
+    uno::Reference<text::XTextTable> tableau;
+    curseur->getPropertyValue("TextTable") >>= tableau;
+    if (!tableau.is()) {
+        return nullptr;
+    }
+    return std::make_unique<ChoixDansUnTableau>(tableau, Vue(cellules->getRangeName()));
+}
+
 } // namespace
 
 std::unique_ptr<Choix> LisChoixWriter(uno::Reference<frame::XModel> const& modele) {
     uno::Reference<uno::XInterface> const selection = modele->getCurrentSelection();
     if (auto formes = ChoixDeFormes(selection)) {
         return formes;
+    }
+    uno::Reference<text::XTextTableCursor> const cellules(selection, uno::UNO_QUERY);
+    if (cellules.is()) {
+        return LisTableau(modele, cellules);
     }
     uno::Reference<container::XIndexAccess> const choix(selection, uno::UNO_QUERY);
     if (!choix.is() || choix->getCount() == 0) {
@@ -93,7 +173,7 @@ std::unique_ptr<Choix> LisChoixWriter(uno::Reference<frame::XModel> const& model
     uno::Reference<text::XText> const texte =
         etendue.is() ? etendue->getText() : uno::Reference<text::XText>();
     if (!texte.is()) {
-        return nullptr; // several cells
+        return nullptr;
     }
     uno::Reference<text::XTextRange> debut(
         texte->createTextCursorByRange(etendue->getStart()).get());

@@ -71,7 +71,7 @@ std::optional<std::string> RaisonDeRefuser(DocumentOuvert const& document,
 bool PeutCorriger(DocumentOuvert const& document, DialogueModal const& dialogue, ZoneOuverte& zone,
                   compagnon::TexteSuivi const& croyance, Intervalle plage,
                   std::u16string const& attendu) {
-    if (RaisonDeRefuser(document, dialogue) || zone.EstProtegee()) {
+    if (RaisonDeRefuser(document, dialogue) || zone.EstProtegee() || zone.EstEnFrappe()) {
         return false;
     }
     PlanDePortions const plan = zone.Lis();
@@ -105,7 +105,10 @@ void Corrige(DocumentOuvert const& document, DialogueModal const& dialogue, Zone
             throw Refuse(*raison);
         }
         if (zone.EstProtegee()) {
-            throw Refuse("the text is protected, or being typed");
+            throw Refuse("the text is protected");
+        }
+        if (zone.EstEnFrappe()) {
+            throw Refuse("the person is typing in it");
         }
         PlanDePortions const plan = zone.Lis();
         auto const trouve = croyance.Localise(plage, plan.DonneTexte());

@@ -24,26 +24,29 @@ class Etat : public cppu::WeakImplHelper1<frame::XStatusListener> {
 
 } // namespace
 
-bool EstEnTrainDeTaper(uno::Reference<frame::XController> const& vue) {
+bool EstEnTrainDeTaper(uno::Reference<frame::XController> const& vue, Frappe frappe) {
     uno::Reference<frame::XDispatchProvider> const commandes(
         vue.is() ? vue->getFrame() : uno::Reference<frame::XFrame>(), uno::UNO_QUERY);
     if (!commandes.is()) {
         return false;
     }
-    // The office says nowhere that letters are being typed, but raises letters only then.
-    util::URL commande;
-    commande.Complete = commande.Main = ".uno:SuperScript";
-    commande.Protocol = ".uno:";
-    commande.Path = "SuperScript";
-    uno::Reference<frame::XDispatch> const exposant =
-        commandes->queryDispatch(commande, rtl::OUString(), 0);
-    if (!exposant.is()) {
+    // The office says nowhere that letters are being typed, but does some things only then: raise
+    // letters in a cell, put a special one into a shape.
+    rtl::OUString const nom =
+        frappe == Frappe::DansUneCellule ? rtl::OUString("SuperScript") : "InsertSymbol";
+    util::URL adresse;
+    adresse.Complete = adresse.Main = ".uno:" + nom;
+    adresse.Protocol = ".uno:";
+    adresse.Path = nom;
+    uno::Reference<frame::XDispatch> const commande =
+        commandes->queryDispatch(adresse, rtl::OUString(), 0);
+    if (!commande.is()) {
         return false;
     }
     auto* const etat = new Etat;
     uno::Reference<frame::XStatusListener> const ecoute(etat);
-    exposant->addStatusListener(ecoute, commande); // tells the state before it returns
-    exposant->removeStatusListener(ecoute, commande);
+    commande->addStatusListener(ecoute, adresse); // tells the state before it returns
+    commande->removeStatusListener(ecoute, adresse);
     return etat->possible;
 }
 

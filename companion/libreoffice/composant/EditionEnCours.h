@@ -5,9 +5,12 @@
 
 namespace bureau {
 
-/// Is the person typing in a cell (or a shape's text) of this view of a spreadsheet? What is
-/// typed there replaces the cell's text at its end, whatever was done to it meanwhile. Main thread.
+enum class Frappe { DansUneCellule, DansUneForme };
+
+/// Is the person typing in the selected cell, or in the text of the selected shape, of this view?
+/// What is typed there replaces the text at its end, whatever was done to it meanwhile. Main
+/// thread.
 bool EstEnTrainDeTaper(
-    com::sun::star::uno::Reference<com::sun::star::frame::XController> const& vue);
+    com::sun::star::uno::Reference<com::sun::star::frame::XController> const& vue, Frappe frappe);
 
 } // namespace bureau

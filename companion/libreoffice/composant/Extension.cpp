@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Extension.h"
 
+#include "Ecritures.h"
 #include "Hasard.h"
 #include "Messages.h"
 
@@ -106,6 +107,7 @@ void Extension::Demarre(uno::Reference<uno::XComponentContext> const& contexte) 
         phase = Phase::Demarree;
     }
     MetsLangue(EstEnFrancais(contexte));
+    MetsContexteDesEcritures(contexte);
     uno::Reference<frame::XDesktop> const bureauOuvert(
         contexte->getServiceManager()->createInstanceWithContext("com.sun.star.frame.Desktop",
                                                                  contexte),

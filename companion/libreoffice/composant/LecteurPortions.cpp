@@ -84,8 +84,14 @@ void LecteurPortions::LisSuite(uno::Reference<container::XEnumerationAccess> con
         bool const exclue = suppressions > 0 || Vrai(v[kMasque]);
 
         if (genre == "Text") {
-            ajoute(exclue ? GenrePortion::Exclue : GenrePortion::Texte, etendue,
-                   std::u16string(Vue(etendue->getString())), StyleDeLettres(v));
+            OUString const texte = etendue->getString();
+            std::u16string source(Vue(texte));
+            if (exclue) {
+                ajoute(GenrePortion::Exclue, etendue, std::move(source));
+            } else {
+                lu.plan.Ajoute(std::move(source), StylesDeLettres(etendue, v, texte));
+                lu.etendues.push_back(etendue);
+            }
             continue;
         }
         uno::Reference<beans::XPropertySet> const portion(etendue, uno::UNO_QUERY);

@@ -207,6 +207,9 @@ void Service::RemplaceEtReselectionne(std::string const& appelant, std::u16strin
                      contexte->texte != lue->plan.DonneTexte())) {
         throw Refuse("the selection is another one than the caller was told");
     }
+    if (lue->zone->EstEnFrappe()) {
+        throw Refuse("the person is typing in it");
+    }
     Remplace(*document, *lue->zone, lue->plan, *lue->selection, mot);
     PlanDePortions const plan = lue->zone->Lis();
     auto const taille = static_cast<std::int32_t>(plan.DonneTexte().size());

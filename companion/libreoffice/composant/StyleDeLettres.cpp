@@ -1,13 +1,19 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "StyleDeLettres.h"
 
-#include "PlagesDeStyle.h"
+#include "Chaines.h"
+#include "Ecritures.h"
 
 #include <com/sun/star/awt/FontSlant.hpp>
 #include <com/sun/star/awt/FontStrikeout.hpp>
 #include <com/sun/star/awt/FontUnderline.hpp>
 #include <com/sun/star/awt/FontWeight.hpp>
+#include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/lang/Locale.hpp>
+
+#include <algorithm>
+#include <array>
+#include <optional>
 
 using namespace com::sun::star;
 using rtl::OUString;
@@ -53,6 +59,55 @@ std::uint16_t StyleDeLettres(uno::Any const* valeurs) {
         style |= compagnon::kStyleSansCorrection;
     }
     return style;
+}
+
+namespace {
+
+/// The style for another script, whose properties bear `suffixe`.
+std::uint16_t StyleDEcriture(uno::Reference<beans::XMultiPropertySet> const& source,
+                             uno::Any const* latines, char const* suffixe) {
+    OUString const fin = OUString::createFromAscii(suffixe);
+    uno::Sequence<OUString> noms(3);
+    noms[0] = "CharLocale" + fin;
+    noms[1] = "CharPosture" + fin;
+    noms[2] = "CharWeight" + fin;
+    uno::Sequence<uno::Any> const propres = source->getPropertyValues(noms);
+    std::array<uno::Any, kNombreDeProprietes> valeurs;
+    std::copy_n(latines, valeurs.size(), valeurs.begin());
+    valeurs[kLangue] = propres[0];
+    valeurs[kInclinaison] = propres[1];
+    valeurs[kGraisse] = propres[2];
+    return StyleDeLettres(valeurs.data());
+}
+
+} // namespace
+
+std::vector<compagnon::PlageDeStyle> StylesDeLettres(uno::Reference<uno::XInterface> const& source,
+                                                     uno::Any const* valeurs,
+                                                     OUString const& texte) {
+    std::uint16_t const latin = StyleDeLettres(valeurs);
+    if (EstToutLatin(Vue(texte))) {
+        return {{0, texte.getLength(), latin}};
+    }
+    uno::Reference<beans::XMultiPropertySet> const proprietes(source, uno::UNO_QUERY_THROW);
+    std::optional<std::uint16_t> asiatique;
+    std::optional<std::uint16_t> complexe;
+    compagnon::PlagesDeStyle plages;
+    std::int32_t debut = 0;
+    for (SuiteDEcriture const& suite : DonneEcritures(texte)) {
+        std::uint16_t style = latin;
+        if (suite.ecriture == Ecriture::Asiatique) {
+            asiatique = asiatique ? asiatique : StyleDEcriture(proprietes, valeurs, "Asian");
+            style = *asiatique;
+        } else if (suite.ecriture == Ecriture::Complexe) {
+            complexe = complexe ? complexe : StyleDEcriture(proprietes, valeurs, "Complex");
+            style = *complexe;
+        }
+        auto const fin = static_cast<std::int32_t>(suite.fin);
+        plages.Ajoute(debut, fin, style);
+        debut = fin;
+    }
+    return plages.Donne();
 }
 
 } // namespace bureau

@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
+#include "PlagesDeStyle.h"
+
 #include <com/sun/star/uno/Any.hxx>
+#include <com/sun/star/uno/Reference.hxx>
 #include <com/sun/star/uno/Sequence.hxx>
+#include <com/sun/star/uno/XInterface.hpp>
 #include <rtl/ustring.hxx>
 
 #include <cstdint>
+#include <vector>
 
 namespace bureau {
 
@@ -26,7 +31,13 @@ enum ProprieteDeLettres {
 
 com::sun::star::uno::Sequence<rtl::OUString> NomsDesProprietesDeLettres();
 
-/// The style bits (protocol/README.md) that their values mean.
+/// The style bits (protocol/README.md) that their values mean for letters of Latin script.
 std::uint16_t StyleDeLettres(com::sun::star::uno::Any const* valeurs);
+
+/// The style bits of a text in one format, whose values those are: weight, posture and language are
+/// each script's own.
+std::vector<compagnon::PlageDeStyle>
+StylesDeLettres(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& source,
+                com::sun::star::uno::Any const* valeurs, rtl::OUString const& texte);
 
 } // namespace bureau

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "TexteDeForme.h"
 
+#include "EditionEnCours.h"
 #include "Erreur.h"
 
 #include <com/sun/star/beans/XPropertySet.hpp>
@@ -8,6 +9,7 @@
 #include <com/sun/star/drawing/XDrawPage.hpp>
 #include <com/sun/star/drawing/XDrawView.hpp>
 #include <com/sun/star/drawing/XShape.hpp>
+#include <com/sun/star/drawing/XShapes.hpp>
 #include <com/sun/star/office/XAnnotationAccess.hpp>
 #include <com/sun/star/table/XTable.hpp>
 #include <com/sun/star/view/XSelectionSupplier.hpp>
@@ -31,6 +33,19 @@ class Forme : public TexteDessine {
     bool SAnnuleSeul() const override { return false; }
 
     uno::Reference<uno::XInterface> Porteur() const override { return porteur_; }
+
+    bool EstEnFrappe() const override {
+        uno::Reference<uno::XInterface> const selection = Modele()->getCurrentSelection();
+        uno::Reference<text::XTextRange> const plage(selection, uno::UNO_QUERY);
+        if (plage.is()) {
+            return plage->getText() == Objet();
+        }
+        // Without a selection in the text the office shows the shape alone as selected.
+        uno::Reference<drawing::XShapes> const formes(selection, uno::UNO_QUERY);
+        return formes.is() && formes->getCount() == 1 &&
+               uno::Reference<uno::XInterface>(formes->getByIndex(0), uno::UNO_QUERY) == porteur_ &&
+               EstEnTrainDeTaper(Modele()->getCurrentController(), Frappe::DansUneForme);
+    }
 
     void Selectionne() override {
         uno::Reference<frame::XController> const vue(Modele()->getCurrentController(),

@@ -49,6 +49,7 @@ class TexteDessine : public std::enable_shared_from_this<TexteDessine> {
     /// Does the office make an undo step of its own for a change of this text?
     virtual bool SAnnuleSeul() const = 0;
     virtual bool EstProtege() const { return contenant_ && contenant_->EstProtege(); }
+    virtual bool EstEnFrappe() const { return false; }
     /// Selects the object that holds it, which is all that the office offers, and shows it.
     virtual void Selectionne() = 0;
     /// The object that the office has as selected when this text is: a shape, a table, a cell.
@@ -93,6 +94,7 @@ class ParagrapheDessine : public ZoneOuverte {
 
     compagnon::PlanDePortions Lis() override;
     bool EstProtegee() override;
+    bool EstEnFrappe() override { return Texte()->EstEnFrappe(); }
     bool PermetsRetour() const override { return false; }
     void Applique(CorrectionPrete const& correction) override;
     void Selectionne(compagnon::PlanDePortions const& plan, std::size_t debut,

@@ -39,6 +39,10 @@ class ZoneOuverte {
     /// Is it protected from typing (section, cell, frame)? Says nothing of the whole document.
     virtual bool EstProtegee() = 0;
 
+    /// Is the person typing in it, where what was typed takes its place at the end whatever was
+    /// done to it meanwhile? Not so in Writer's own texts.
+    virtual bool EstEnFrappe() { return false; }
+
     /// Can a person start a new line in it?
     virtual bool PermetsRetour() const { return true; }
 

@@ -74,6 +74,20 @@ TEST(PortionPlan, WhatCannotTravelStandsAsTheFillerOneForOne) {
     EXPECT_EQ(plan.DonnePlace(5, false)->unite, 5U);
 }
 
+TEST(PortionPlan, StylesInsideAPortionStandWhereItsLettersAreRead) {
+    PlanDePortions plan;
+    plan.Ajoute(GenrePortion::Texte, u"un ");
+    plan.Ajoute(u"a\u00ADb \u05D0\u05D1",
+                {{0, 4, compagnon::kStyleGras}, {4, 6, compagnon::kStyleItalique}});
+    plan.Ajoute(u"c", {{0, 1, compagnon::kStyleItalique}});
+    plan.Ajoute(u"", {});
+    EXPECT_EQ(plan.DonneTexte(), u"un ab \u05D0\u05D1c");
+    EXPECT_THAT(plan.DonneStyles(),
+                ElementsAre(compagnon::PlageDeStyle{3, 6, compagnon::kStyleGras},
+                            compagnon::PlageDeStyle{6, 9, compagnon::kStyleItalique}));
+    EXPECT_EQ(plan.DonnePortions().size(), 4U);
+}
+
 TEST(PortionPlan, NeighbouringEqualStylesAreOneRun) {
     PlanDePortions plan;
     plan.Ajoute(GenrePortion::Texte, u"ab", compagnon::kStyleGras);

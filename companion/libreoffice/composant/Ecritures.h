@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include <com/sun/star/uno/XComponentContext.hpp>
+#include <rtl/ustring.hxx>
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+namespace bureau {
+
+/// The three kinds of script that the office keeps formats and languages apart for.
+enum class Ecriture { Latine, Asiatique, Complexe };
+
+struct SuiteDEcriture {
+    std::size_t fin; ///< where it ends, in UTF-16 units; it starts where the one before ends
+    Ecriture ecriture;
+};
+
+/// Whom to ask; once, before any question. Main thread, as all of these.
+void MetsContexteDesEcritures(
+    com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> const& contexte);
+
+/// Can all of it be nothing but Latin (or Greek, Cyrillic, signs)? Quick.
+bool EstToutLatin(std::u16string_view texte) noexcept;
+
+/// The text's scripts as the office sees them; what has none goes with what stands before.
+std::vector<SuiteDEcriture> DonneEcritures(rtl::OUString const& texte);
+
+} // namespace bureau
