@@ -14,18 +14,18 @@ import banc
 ITALIQUE = uno.Enum("com.sun.star.awt.FontSlant", "ITALIC")
 TEXTE = uno.Enum("com.sun.star.table.CellContentType", "TEXT")
 
-# A format inside a cell that says what the cell's own format says already: only a file brings one.
-REDONDANT = """<?xml version="1.0" encoding="UTF-8"?>
+# A format inside a cell that is the same for all its letters: only a file brings one.
+ENTIER = """<?xml version="1.0" encoding="UTF-8"?>
 <office:document xmlns:office="urn:oasis:names:tc:opendocument:xmlns:office:1.0"
  xmlns:style="urn:oasis:names:tc:opendocument:xmlns:style:1.0"
  xmlns:text="urn:oasis:names:tc:opendocument:xmlns:text:1.0"
  xmlns:table="urn:oasis:names:tc:opendocument:xmlns:table:1.0"
  xmlns:fo="urn:oasis:names:tc:opendocument:xmlns:xsl-fo-compatible:1.0"
  office:version="1.3" office:mimetype="application/vnd.oasis.opendocument.spreadsheet">
-<office:automatic-styles><style:style style:name="N" style:family="text">
-<style:text-properties fo:font-weight="normal"/></style:style></office:automatic-styles>
+<office:automatic-styles><style:style style:name="G" style:family="text">
+<style:text-properties fo:font-weight="bold"/></style:style></office:automatic-styles>
 <office:body><office:spreadsheet><table:table table:name="F"><table:table-row>
-<table:table-cell office:value-type="string"><text:p>1<text:span text:style-name="N">O</text:span>5</text:p>
+<table:table-cell office:value-type="string"><text:p><text:span text:style-name="G">1O5</text:span></text:p>
 </table:table-cell></table:table-row></table:table></office:spreadsheet></office:body>
 </office:document>
 """
@@ -305,17 +305,19 @@ class Correction(Cas):
         self.assertEqual((cellule.Type, cellule.String), (TEXTE, "105"))
         self.assertEqual(self.styles(cellule), ["0"])
 
-    def test_text_whose_formats_say_nothing_new_stays_text_too(self):
-        source = banc.DOSSIER / "redondant.fods"
-        source.write_text(REDONDANT, encoding="utf-8")
+    def test_text_in_one_format_of_its_own_stays_text_too(self):
+        source = banc.DOSSIER / "entier.fods"
+        source.write_text(ENTIER, encoding="utf-8")
         self.ouvre(source.as_uri())
         cellule = self.cellule("A1")
         format_ = cellule.NumberFormat
+        self.assertEqual(self.zone().styles, [(0, 3, 1)])
         self.corrige("1O5", "105")
         self.assertEqual((cellule.Type, self.client.textes()), (TEXTE, ["105"]))
-        self.assertEqual(cellule.NumberFormat, format_)
+        self.assertEqual((self.zone().styles, cellule.NumberFormat), ([(0, 3, 1)], format_))
         self.doc.UndoManager.undo()
         self.assertEqual((cellule.Type, self.client.textes()), (TEXTE, ["1O5"]))
+        self.assertEqual((self.zone().styles, cellule.NumberFormat), ([(0, 3, 1)], format_))
 
     def test_a_field_in_the_cell_survives_and_bars_the_way(self):
         cellule = self.cellule("A1", "voir  icy")

@@ -122,44 +122,35 @@ bool Cellule::Remplace(std::size_t rang, std::size_t debut, std::u16string const
         departs.push_back(lettres.size());
         lettres += portion.source;
     }
-    bool const uniforme = EstUniforme();
     for (compagnon::EtapeEdition const& etape : *etapes) {
         lettres.replace(departs[etape.portion] + etape.debut, etape.fin - etape.debut, etape.ajout);
-        if (uniforme) {
-            continue;
-        }
-        Execute(lus[rang], etape);
-        // Where all its formats are the cell's own, the office takes the text for typed anew, and
-        // makes a number of one, or a formula.
-        if (!lettres.empty() && Genre(Objet()) != table::CellContentType_TEXT) {
-            MetsTexte(lettres);
-        }
     }
-    if (uniforme) {
-        MetsTexte(lettres);
-    }
-    return true;
-}
-
-void Cellule::MetsTexte(std::u16string const& lettres) {
     uno::Reference<beans::XPropertySet> const proprietes(Objet(), uno::UNO_QUERY_THROW);
     uno::Any const format = proprietes->getPropertyValue("NumberFormat");
     // For what looks like a number the office turns the cell's number format into the one of text,
     // and its undo step forgets that: it must find nothing to turn.
-    bool const chiffre = std::any_of(lettres.begin(), lettres.end(),
-                                     [](char16_t unite) { return unite >= u'0' && unite <= u'9'; });
-    if (chiffre) {
-        uno::Reference<util::XNumberFormatsSupplier> const source(Modele(), uno::UNO_QUERY_THROW);
-        uno::Reference<util::XNumberFormatTypes> const formats(source->getNumberFormats(),
-                                                               uno::UNO_QUERY_THROW);
-        proprietes->setPropertyValue(
-            "NumberFormat",
-            uno::Any(formats->getStandardFormat(util::NumberFormat::TEXT, lang::Locale())));
+    if (std::any_of(lettres.begin(), lettres.end(),
+                    [](char16_t unite) { return unite >= u'0' && unite <= u'9'; })) {
+        proprietes->setPropertyValue("NumberFormat", FormatDeTexte());
     }
-    Texte()->setString(EnUno(lettres));
+    if (EstUniforme()) {
+        Texte()->setString(EnUno(lettres)); // as text, whatever it looks like
+    } else {
+        for (compagnon::EtapeEdition const& etape : *etapes) {
+            Execute(lus[rang], etape);
+        }
+    }
     if (proprietes->getPropertyValue("NumberFormat") != format) {
         proprietes->setPropertyValue("NumberFormat", format);
     }
+    return true;
+}
+
+uno::Any Cellule::FormatDeTexte() const {
+    uno::Reference<util::XNumberFormatsSupplier> const source(Modele(), uno::UNO_QUERY_THROW);
+    uno::Reference<util::XNumberFormatTypes> const formats(source->getNumberFormats(),
+                                                           uno::UNO_QUERY_THROW);
+    return uno::Any(formats->getStandardFormat(util::NumberFormat::TEXT, lang::Locale()));
 }
 
 void Cellule::Selectionne() {

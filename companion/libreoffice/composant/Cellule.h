@@ -37,8 +37,7 @@ class Cellule : public TexteDessine {
   private:
     bool EstUniforme() const;
     rtl::OUString TexteBrut() const;
-    /// Puts letters in as text, whatever they look like.
-    void MetsTexte(std::u16string const& lettres);
+    com::sun::star::uno::Any FormatDeTexte() const;
 };
 
 } // namespace bureau
