@@ -7,6 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <vector>
+
 namespace {
 
 QString const kClasse = QStringLiteral("VCLSalFrame:OpenOffice.org 4.0");
@@ -72,6 +75,58 @@ TEST_F(PilotedPlugin, AWholeCorrectionRunsFromRequestToFile) {
     EXPECT_TRUE(Resultat(reponses[6]).isNull());
     EXPECT_EQ(bureau.Finis(), 0);
     EXPECT_EQ(bureau.Contenu(), "Les chats \U0001F600.\nFin\n");
+}
+
+TEST_F(PilotedPlugin, TheAgentsFixedAnswersComeThroughForAnOpenOfficeWindowToo) {
+    BureauDeTest bureau({{"a.txt", "a\n"}});
+    QJsonObject creation = Cree(bureau.Identifiant());
+    QJsonObject infos = creation.value(QLatin1String("infos")).toObject();
+    infos.insert(QStringLiteral("Classe"), Q("VCLSalFrame:OpenOffice.org 3.0"));
+    creation.insert(QStringLiteral("infos"), infos);
+    struct Reponse {
+        char const* op;
+        QJsonValue resultat;
+    };
+    Reponse const attendues[] = {
+        {"Capacite1", true},
+        {"Capacite2", false},
+        {"Capacite3", false},
+        {"Capacite4", false},
+        {"Capacite5", true},
+        {"Capacite6", true},
+        {"Capacite7", true},
+        {"DonneAgentTexteur", true},
+        {"Requete10", 0},
+        {"Requete11", 0},
+        {"Requete12", 0},
+        {"Requete13", 0},
+        {"Requete14", 0},
+        {"Requete17", true},
+        {"Requete21", true},
+        {"Requete30", true},
+        {"Requete33", true},
+        {"EstLie", true},
+        {"DocEstMort", false},
+        {"DonneNomApplication", Q("LibreOffice")},
+        {"DonneFinDeParagraphe", Q("\n")},
+        {"DonneChaineAgent7", Q("")},
+        {"DonneImageApplication", QJsonValue::Null},
+        {"Crochet03", QJsonValue::Null},
+        {"Crochet19", QJsonValue::Null},
+        {"Crochet23", QJsonValue::Null},
+        {"Crochet24", QJsonValue::Null},
+        {"Crochet28", QJsonValue::Null},
+        {"Crochet29", QJsonValue::Null},
+        {"Suspends", QJsonValue::Null},
+    };
+    std::vector<QJsonObject> requetes{creation};
+    for (Reponse const& attendue : attendues)
+        requetes.push_back(Op(attendue.op));
+    auto const reponses = Dialogue(requetes);
+    EXPECT_EQ(Resultat(reponses[0]), QJsonValue(true));
+    std::size_t rang = 1;
+    for (Reponse const& attendue : attendues)
+        EXPECT_EQ(Resultat(reponses.at(rang++)), attendue.resultat) << attendue.op;
 }
 
 TEST_F(PilotedPlugin, TheExtensionsAlertStandsBesideTheNullAgent) {
