@@ -55,7 +55,9 @@ TEST_F(BridgeTimeouts, AnEarlierTimeoutIsBackAfterASuccessAndAnErrorAndATimeout)
 TEST_F(BridgeTimeouts, AWaitedCallEndsAtTheProxysOwnTimeout) {
     bureau.DonneCommande().Deregle("DonneTitreDocument", "muet");
     agent.DonneProxy()->setTimeout(300);
+    auto const depart = Horloge::now();
     EXPECT_EQ(S(agent.DonneTitreDocument()), "");
+    EXPECT_LT(MillisecondesDepuis(depart), 15000);
     agent.DonneProxy()->setTimeout(-1);
     bureau.DonneCommande().Retablis();
     EXPECT_EQ(S(agent.DonneTitreDocument()), "");
@@ -66,7 +68,9 @@ TEST_F(BridgeTimeouts, AWaitedCallEndsAtTheProxysOwnTimeout) {
 TEST_F(BridgeTimeouts, AFrozenBusHoldsDocEstMortNoLongerThanItsTimeout) {
     ASSERT_TRUE(agent.Initialise());
     bus.Fige();
+    auto const depart = Horloge::now();
     EXPECT_FALSE(agent.DocEstMort());
+    EXPECT_LT(MillisecondesDepuis(depart), 15000);
     bus.Degele();
     EXPECT_EQ(S(agent.DonneTitreDocument()), "lettre.txt");
 }

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cstdlib>
 #include <thread>
 
@@ -24,6 +25,18 @@ void AttendsNeutre(AgentDeTest& agent) {
     agent.SynchronisePositions(zones);
     EXPECT_EQ(zones.DonneNombre(), 0);
 }
+
+/// Fails where what happened since took as long as a call that nobody answers.
+class Montre {
+  public:
+    ~Montre() { EXPECT_LT(std::chrono::steady_clock::now() - depart_, std::chrono::seconds(15)); }
+    Montre() = default;
+    Montre(Montre const&) = delete;
+    Montre& operator=(Montre const&) = delete;
+
+  private:
+    std::chrono::steady_clock::time_point depart_ = std::chrono::steady_clock::now();
+};
 
 class BridgeNeutralValues : public testing::Test {
   protected:
@@ -89,12 +102,14 @@ TEST_F(BridgeNeutralValues, ACompanionThatDiesDuringTheCallIsNoAnswer) {
 }
 
 TEST_F(BridgeNeutralValues, ANameThatNobodyOwnsIsRefusedAtOnce) {
+    Montre const montre;
     AgentDeTest personne("personne~doc1");
     AttendsNeutre(personne);
     EXPECT_FALSE(personne.Initialise());
 }
 
 TEST_F(BridgeNeutralValues, NamesThatNoBusCanHaveAreRefusedAtOnce) {
+    Montre const montre;
     for (std::string const identifiant : {"7~doc3", "~doc1", "", "a b~c", "a.b~c", "\u00E9~c"}) {
         AgentDeTest impossible(identifiant);
         AttendsNeutre(impossible);
@@ -128,6 +143,7 @@ TEST_F(BridgeNeutralValues, ABusThatDiesDuringAWaitEndsIt) {
     bureau.DonneCommande().Deregle("InitialiseTexteur", "muet");
     auto& commande = bureau.DonneCommande();
     // Past the default of 25 s only the end of the bus can end this wait of four minutes.
+    Montre const montre;
     std::thread tueur([&] {
         commande.AttendsAppels("InitialiseTexteur", 1);
         bus.Tue();
@@ -139,6 +155,7 @@ TEST_F(BridgeNeutralValues, ABusThatDiesDuringAWaitEndsIt) {
 }
 
 TEST(BridgeWithoutABus, EverythingIsNeutralAndQuick) {
+    Montre const montre;
     for (char const* const adresse : {"", "unix:path=/nonexistent/bus"}) {
         ::setenv("DBUS_SESSION_BUS_ADDRESS", adresse, 1);
         AgentDeTest agent("instance~doc1");
