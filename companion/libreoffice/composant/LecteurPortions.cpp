@@ -2,6 +2,7 @@
 #include "LecteurPortions.h"
 
 #include "Chaines.h"
+#include "Ecritures.h"
 #include "StyleDeLettres.h"
 
 #include <com/sun/star/beans/PropertyValue.hpp>
@@ -88,6 +89,8 @@ void LecteurPortions::LisSuite(uno::Reference<container::XEnumerationAccess> con
             std::u16string source(Vue(texte));
             if (exclue) {
                 ajoute(GenrePortion::Exclue, etendue, std::move(source));
+            } else if (EstToutLatin(source)) {
+                ajoute(GenrePortion::Texte, etendue, std::move(source), StyleDeLettres(v));
             } else {
                 lu.plan.Ajoute(std::move(source), StylesDeLettres(etendue, v, texte));
                 lu.etendues.push_back(etendue);
