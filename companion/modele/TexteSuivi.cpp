@@ -74,6 +74,14 @@ void TexteSuivi::Donne(TextePartage texte) noexcept {
     borneSure_ = Croyance().size();
 }
 
+bool TexteSuivi::Confirme(std::u16string_view texte) noexcept {
+    if (!croyance_ || *croyance_ != texte) {
+        return false;
+    }
+    borneSure_ = texte.size();
+    return true;
+}
+
 void TexteSuivi::Oublie() noexcept {
     Donne(nullptr);
 }

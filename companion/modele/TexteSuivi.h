@@ -50,6 +50,9 @@ class TexteSuivi {
   public:
     /// The host has just been given this text; what was before is forgotten.
     void Donne(TextePartage texte) noexcept;
+    /// The host has just been given `texte`. When that is what it believes already, its own copy
+    /// goes on being used, and the answer is true; otherwise nothing happens: false.
+    bool Confirme(std::u16string_view texte) noexcept;
     /// The host knows nothing (any more): every range is refused.
     void Oublie() noexcept;
     /// What the host believes; empty when nothing is known.

@@ -107,14 +107,20 @@ std::string Service::SynchronisePositions(std::string const& appelant, std::stri
     session.document = document->Cle();
     compagnon::EcrivainZones ecrivain;
     ecrivain.Prevois(session.tailleZones + session.tailleZones / 16);
-    std::unordered_map<std::string, compagnon::TexteSuivi> croyances;
-    croyances.reserve(session.croyances.size()); // most often the same zones again
-    session.croyances.clear();
+    // Most often the same zones again with the same texts: those are taken over as they are.
+    auto anciennes = std::exchange(session.croyances, {});
+    decltype(anciennes) croyances;
+    croyances.reserve(anciennes.size());
     document->Parcours([&](ZoneLue const& lue) {
         std::u16string const& texte = lue.plan.DonneTexte();
         ecrivain.Ajoute(lue.zone->Cle(), texte, lue.selection.value_or(Intervalle()),
                         lue.plan.DonneStyles());
-        croyances[lue.zone->Cle()].Donne(std::make_shared<std::u16string const>(texte));
+        auto connue = anciennes.extract(lue.zone->Cle());
+        if (!connue.empty() && connue.mapped().Confirme(texte)) {
+            croyances.insert(std::move(connue));
+        } else {
+            croyances[lue.zone->Cle()].Donne(std::make_shared<std::u16string const>(texte));
+        }
     });
     std::optional<std::string> zones = ecrivain.Termine();
     if (!zones) {

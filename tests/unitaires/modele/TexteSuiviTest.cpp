@@ -50,6 +50,23 @@ TEST(FollowedText, NothingIsFoundInAZoneThatWasNeverGiven) {
     EXPECT_EQ(suivi.Localise({0, 1}, u"a"), Refusee(Refus::Inconnu));
 }
 
+TEST(FollowedText, OnlyTheTextThatTheHostBelievesIsConfirmed) {
+    TexteSuivi suivi = Suivi(u"Les chat");
+    EXPECT_FALSE(suivi.Confirme(u"Les chats"));
+    EXPECT_FALSE(suivi.Confirme(u"Les"));
+    EXPECT_EQ(suivi.Croyance(), u"Les chat");
+    EXPECT_TRUE(suivi.Confirme(u"Les chat"));
+    EXPECT_FALSE(TexteSuivi().Confirme(u""));
+}
+
+TEST(FollowedText, AConfirmedTextIsCertainAgainAfterARefusal) {
+    TexteSuivi suivi = Suivi(u"Les chat noir");
+    suivi.NoteRefus({4, 8});
+    EXPECT_EQ(suivi.Localise({9, 13}, u"Les chat noir").refus, Refus::Incertain);
+    EXPECT_TRUE(suivi.Confirme(u"Les chat noir"));
+    EXPECT_EQ(suivi.Localise({9, 13}, u"Les chat noir"), Trouvee(9, 13));
+}
+
 TEST(FollowedText, OffsetsThatAreNoRangeOfTheTextAreRefused) {
     TexteSuivi const suivi = Suivi(u"chat");
     for (Intervalle const plage :
