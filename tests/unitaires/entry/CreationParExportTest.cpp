@@ -8,6 +8,9 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <cstddef>
+#include <sys/mman.h>
+#include <unistd.h>
 
 namespace {
 
@@ -30,6 +33,17 @@ TEST(AgentFromTheExport, IsNullForAWindowThatIsNotServedWhateverTheIdentifier) {
             EXPECT_EQ(nullptr, GreffonCharge::Donne().CreeAgentTexteur(&infos, &identificateur));
     }
     EXPECT_TRUE(alertes.Donne().empty()) << "no agent was asked";
+}
+
+TEST(AgentFromTheExport, DoesNotLookAtTheIdentifierForAWindowThatIsNotServed) {
+    auto const taille = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+    auto* const interdite =
+        mmap(nullptr, taille, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0); // any read crashes
+    ASSERT_NE(MAP_FAILED, interdite);
+    auto const infos = Infos(u"other", kOpenOffice4);
+    EXPECT_EQ(nullptr, GreffonCharge::Donne().CreeAgentTexteur(
+                           &infos, static_cast<UniChaine const*>(interdite)));
+    munmap(interdite, taille);
 }
 
 TEST(AgentFromTheExport, IsNullForAnEmptyIdentifierWithoutAskingAnAgent) {
