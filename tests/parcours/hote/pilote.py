@@ -393,6 +393,13 @@ class Greffons(Pilote):
         reponses = self.demande({"op": "CreeTexteur"}, {"op": "CreeTexteurPalette"})
         self.assertEqual([r["alertes"] for r in reponses], [[alerte], []])
 
+    def test_alerts_before_an_exception_stand_beside_it_and_not_beside_the_next_result(self):
+        self.joue([], [{"op": "CreeTexteur", "avertis": "Sûr ?", "leve": "panne"}])
+        alerte = {"genre": 1, "texte": "Sûr ?", "information": "", "details": ""}
+        self.assertEqual(self.demande({"op": "CreeTexteur"}, {"op": "CreeTexteurPalette"}),
+                         [{"op": "CreeTexteur", "erreur": "panne", "alertes": [alerte]},
+                          {"op": "CreeTexteurPalette", "resultat": None, "alertes": []}])
+
     def test_answers_beyond_sense_are_passed_on(self):
         self.joue(["abc"], [{"op": "DonneLongueur", "reponse": -2147483648},
                             {"op": "DonneDebutSelection", "reponse": 2147483647}])

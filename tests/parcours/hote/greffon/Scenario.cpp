@@ -45,14 +45,14 @@ QJsonObject Scenario::Joue(char const* operation) {
         if (e.contains(QLatin1String("zones")))
             MetsZones(e.value(QLatin1String("zones")).toArray());
         mort = mort || e.value(QLatin1String("mort")).toBool();
-        if (e.contains(QLatin1String("leve")))
-            throw std::runtime_error(e.value(QLatin1String("leve")).toString().toStdString());
-        if (e.contains(QLatin1String("leveEntier")))
-            throw e.value(QLatin1String("leveEntier")).toInt();
         if (e.contains(QLatin1String("avertis")))
             DAlerte(nullptr, DAlerteInfo(DAlerteInfo::kQuestion,
                                          UniChaine(e.value(QLatin1String("avertis")).toString()),
                                          UniChaine(), UniChaine()));
+        if (e.contains(QLatin1String("leve")))
+            throw std::runtime_error(e.value(QLatin1String("leve")).toString().toStdString());
+        if (e.contains(QLatin1String("leveEntier")))
+            throw e.value(QLatin1String("leveEntier")).toInt();
         if (e.contains(QLatin1String("imprime"))) {
             std::puts(e.value(QLatin1String("imprime")).toString().toUtf8().constData());
             std::fflush(stdout);
