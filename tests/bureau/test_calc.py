@@ -239,7 +239,7 @@ class Lecture(Cas):
             return min(essais)
         petit, grand = duree(1000), duree(10000)
         self.assertLess(grand, 2.0)
-        self.assertLess(grand / petit, 20)
+        self.assertLess(grand / petit, 50)  # on a busy machine; by the square it would be 100
 
 
 class Cles(Cas):
@@ -256,9 +256,12 @@ class Cles(Cas):
     def test_keys_of_comments_shapes_and_paragraphs_last_too(self):
         self.remplis(A1="un\ndeux")
         self.commente("A1", "remarque")
-        self.forme("forme")
+        # Held, as the office's own are: let go of from outside between two looks, it may come back
+        # as another object, and its zone with another key.
+        forme = self.forme("forme")
         avant = {z.texte: z.nom for z in self.client.zones()}
         self.assertEqual({z.texte: z.nom for z in self.client.zones()}, avant)
+        self.assertEqual(forme.String, "forme")
 
 
 class Correction(Cas):
