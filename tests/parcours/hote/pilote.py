@@ -2,12 +2,24 @@
 """The dialogue by JSON Lines, against the scripted plug-in."""
 import json
 import os
+import random
 import resource
 import subprocess
 import unittest
 
 from commun import PATIENCE
 from hote import FAUX, GREFFONS, HOTE, AvecGreffonFaux
+
+TOUTES = """DonneNomsTexteurs CreeTexteur CreeTexteurPalette DonneIdentificateurDocumentCourant CreeAgentTexteur
+    Detruis Capacite1 Capacite2 Capacite3 Capacite4 Capacite5 Capacite6 Capacite7 DonneAgentTexteur Requete10
+    Requete11 Requete12 TraiteTexteLu Crochet03 DocEstMort DonneCheminDocument DonneImageApplication
+    DonneChaineAgent7 SynchronisePositions DonneZones DonneNomApplication DonneFinDeParagraphe
+    DonneTitreDocument Requete13 Requete14 InitialisePour InitialiseTexteur Requete17 EstLie Crochet19
+    PermetsRetourDeCharriot Requete21 ActivePour Crochet23 Crochet24 RompsLienCorrecteur RompsLienTexteur
+    Suspends Crochet28 Crochet29 Requete30 AjusteSelectionPourOutils DonneContexte Requete33
+    RemplaceEtReselectionne AccepteIntervalles CorrigeDansTexteur DonneDebutSelection DonneFinSelection
+    DonneChaineAuxiliaire DonneTexte DonneLongueur PeutCorriger AjusteIntervalle SelectionneIntervalle
+    EstMarquee Inconnue""".split()
 
 CREE = {"op": "CreeAgentTexteur", "infos": {"Classe": "Fenetre"}, "idDocument": "i~d"}
 
@@ -266,6 +278,28 @@ class Requetes(Pilote):
                 self.assertEqual(len(reponses), 2)
                 self.assertEqual(list(reponses[0]), ["op", "erreur"])
                 self.assertEqual(reponses[1]["resultat"], None)
+
+    def test_whatever_is_asked_each_line_has_one_answer(self):
+        hasard = random.Random(20261121)
+        valeurs = [0, 1, -1, 7, 2**31 - 1, -2**31, 2**31, 2**63, 1e300, 1.5, True, False, None, "", "chat",
+                   "\ud83d", "a\x00b", [], {}, [1], {"a": 1}, [{"debut": 0, "longueur": 2, "style": 70000}]]
+        sensees = {"infos": CREE["infos"], "idDocument": "i~d", "zone": 0, "debut": 0, "fin": 2, "debut2": 0,
+                   "fin2": 1, "texte": "mot", "drapeau": True, "mode": 1, "vide": True, "styles": []}
+        lignes = []
+        for _ in range(3000):
+            requete = {"op": hasard.choice(TOUTES)}
+            for nom, sensee in sensees.items():
+                if hasard.random() < 0.9:
+                    requete[nom] = sensee if hasard.random() < 0.8 else hasard.choice(valeurs)
+            ligne = bytearray(json.dumps(requete).encode())
+            if hasard.random() < 0.1:
+                ligne[hasard.randrange(len(ligne))] = hasard.choice([b for b in range(256) if b != 10])
+            lignes.append(bytes(ligne))
+        reponses = self.lignes(b"\n".join(lignes))
+        self.assertEqual(len(reponses), len(lignes))
+        self.assertEqual({tuple(r) for r in reponses}, {("op", "resultat", "alertes"), ("op", "erreur")})
+        # Not all of it was nonsense.
+        self.assertEqual({r["op"] for r in reponses if "resultat" in r}, set(TOUTES) - {"Inconnue"})
 
     def test_the_operation_of_a_wrong_line_is_null(self):
         self.assertIsNone(self.lignes(b"x\n")[0]["op"])
