@@ -9,6 +9,7 @@ import signal
 import subprocess
 import threading
 import time
+import unittest
 
 import gi
 gi.require_version("Gio", "2.0")
@@ -182,6 +183,15 @@ class Bureau:
         """As a crash would end it: the launcher and the office it started are one session."""
         os.killpg(self.processus.pid, signal.SIGKILL)
         self.processus.wait()
+
+
+def bus_et_bureau():
+    """A bus and an office on it, for the module whose setUpModule asks; they end with it."""
+    bus = Bus()
+    unittest.addModuleCleanup(bus.ferme)
+    bureau = Bureau(bus.adresse)
+    unittest.addModuleCleanup(bureau.ferme)
+    return bus, bureau
 
 
 class Appel(Exception):

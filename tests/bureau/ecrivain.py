@@ -7,6 +7,26 @@ from com.sun.star.awt import Size
 ANCRE = "com.sun.star.text.TextContentAnchorType"
 
 
+def plage(texte, debut, fin):
+    """A cursor over the characters debut to fin of the text."""
+    curseur = texte.createTextCursor()
+    curseur.gotoStart(False)
+    curseur.goRight(debut, False)
+    curseur.goRight(fin - debut, True)
+    return curseur
+
+
+def parties_grasses(texte):
+    """The bold parts of the text's first paragraph."""
+    portions = texte.createEnumeration().nextElement().createEnumeration()
+    parties = []
+    while portions.hasMoreElements():
+        portion = portions.nextElement()
+        if portion.CharWeight == 150.0:
+            parties.append(portion.String)
+    return parties
+
+
 class Ecrivain:
     """Writes at the end of a text."""
 
@@ -68,8 +88,4 @@ class Ecrivain:
                         **proprietes)
 
     def plage(self, debut, fin):
-        curseur = self.texte.createTextCursor()
-        curseur.gotoStart(False)
-        curseur.goRight(debut, False)
-        curseur.goRight(fin - debut, True)
-        return curseur
+        return plage(self.texte, debut, fin)

@@ -10,6 +10,7 @@ from com.sun.star.lang import Locale
 from com.sun.star.util import CellProtection
 
 import banc
+from ecrivain import parties_grasses, plage
 
 ITALIQUE = uno.Enum("com.sun.star.awt.FontSlant", "ITALIC")
 TEXTE = uno.Enum("com.sun.star.table.CellContentType", "TEXT")
@@ -33,10 +34,7 @@ ENTIER = """<?xml version="1.0" encoding="UTF-8"?>
 
 def setUpModule():
     global BUS, BUREAU
-    BUS = banc.Bus()
-    unittest.addModuleCleanup(BUS.ferme)
-    BUREAU = banc.Bureau(BUS.adresse)
-    unittest.addModuleCleanup(BUREAU.ferme)
+    BUS, BUREAU = banc.bus_et_bureau()
 
 
 class Cas(unittest.TestCase):
@@ -59,13 +57,6 @@ class Cas(unittest.TestCase):
     def remplis(self, **textes):
         for nom, texte in textes.items():
             self.cellule(nom, texte)
-
-    def plage(self, texte, debut, fin):
-        curseur = texte.createTextCursor()
-        curseur.gotoStart(False)
-        curseur.goRight(debut, False)
-        curseur.goRight(fin - debut, True)
-        return curseur
 
     def zone(self, contenant=""):
         return next(z for z in self.client.zones() if contenant in z.texte)
@@ -94,16 +85,6 @@ class Cas(unittest.TestCase):
         cellule = self.cellule(nom)
         self.feuille.Annotations.insertNew(cellule.CellAddress, texte)
         return cellule
-
-    def styles(self, cellule):
-        """The bold parts of the cell's first paragraph."""
-        portions = cellule.createEnumeration().nextElement().createEnumeration()
-        gras = []
-        while portions.hasMoreElements():
-            portion = portions.nextElement()
-            if portion.CharWeight == 150.0:
-                gras.append(portion.String)
-        return gras
 
 
 class Lecture(Cas):
@@ -137,7 +118,7 @@ class Lecture(Cas):
         cellule = self.cellule("A1", "voir  ici")
         champ = self.doc.createInstance("com.sun.star.text.TextField.URL")
         champ.URL, champ.Representation = "https://example.org/", "un lien"
-        cellule.insertTextContent(self.plage(cellule, 5, 5), champ, False)
+        cellule.insertTextContent(plage(cellule, 5, 5), champ, False)
         self.assertEqual(self.client.textes(), ["voir \a ici"])
 
     def test_hidden_sheets_rows_and_columns_are_not_read(self):
@@ -212,7 +193,7 @@ class Lecture(Cas):
         self.remplis(A1="gras", A2="gras", A3="rien", B1="un mot gras")
         self.feuille.getCellRangeByName("A1:A2").CharWeight = 150.0
         self.cellule("A2").CharPosture = ITALIQUE
-        self.plage(self.cellule("B1"), 3, 6).CharWeight = 150.0
+        plage(self.cellule("B1"), 3, 6).CharWeight = 150.0
         self.assertEqual({(z.texte, *z.styles) for z in self.client.zones()},
                          {("gras", (0, 4, 1)), ("gras", (0, 4, 3)), ("rien",),
                           ("un mot gras", (3, 6, 1))})
@@ -278,10 +259,10 @@ class Correction(Cas):
 
     def test_formats_inside_a_cell_stay(self):
         cellule = self.cellule("A1", "un chat noir")
-        self.plage(cellule, 3, 7).CharWeight = 150.0
+        plage(cellule, 3, 7).CharWeight = 150.0
         self.corrige("chat noir", "chiens noirs")
         self.assertEqual(self.client.textes(), ["un chiens noirs"])
-        self.assertEqual(self.styles(cellule), ["chiens"])
+        self.assertEqual(parties_grasses(cellule), ["chiens"])
 
     def test_one_paragraph_of_several_is_corrected(self):
         cellule = self.cellule("A1", "un mot\nun maux\nun mot")
@@ -303,10 +284,10 @@ class Correction(Cas):
 
     def test_text_with_formats_stays_text_too(self):
         cellule = self.cellule("A1", "1O5")
-        self.plage(cellule, 1, 2).CharWeight = 150.0
+        plage(cellule, 1, 2).CharWeight = 150.0
         self.corrige("1O5", "105")
         self.assertEqual((cellule.Type, cellule.String), (TEXTE, "105"))
-        self.assertEqual(self.styles(cellule), ["0"])
+        self.assertEqual(parties_grasses(cellule), ["0"])
 
     def test_text_in_one_format_of_its_own_stays_text_too(self):
         source = banc.DOSSIER / "entier.fods"
@@ -326,7 +307,7 @@ class Correction(Cas):
         cellule = self.cellule("A1", "voir  icy")
         champ = self.doc.createInstance("com.sun.star.text.TextField.URL")
         champ.URL, champ.Representation = "https://example.org/", "un lien"
-        cellule.insertTextContent(self.plage(cellule, 5, 5), champ, False)
+        cellule.insertTextContent(plage(cellule, 5, 5), champ, False)
         self.refuse("\a", "mot")
         self.corrige("icy", "ici")
         self.assertEqual(cellule.String, "voir un lien ici")
@@ -441,7 +422,7 @@ class Annulation(Cas):
     def test_one_correction_is_one_named_step_and_undo_restores_exactly(self):
         simple = self.cellule("A1", "un chat gris")
         riche = self.cellule("A2", "un chat noir\nsuite")
-        self.plage(riche, 3, 7).CharWeight = 150.0
+        plage(riche, 3, 7).CharWeight = 150.0
         zones = self.client.zones()
         avant = [(z.texte, z.styles) for z in zones]
         self.doc.UndoManager.clear()
@@ -450,11 +431,11 @@ class Annulation(Cas):
         self.assertEqual(self.titres(), (
             "Correction: \u201cchat noir\u201d to \u201cchiens noirs\u201d",
             "Correction: \u201cgris\u201d to \u201cgrise\u201d"))
-        self.assertEqual(self.styles(riche), ["chiens"])
+        self.assertEqual(parties_grasses(riche), ["chiens"])
         self.doc.UndoManager.undo()
         self.doc.UndoManager.undo()
         self.assertEqual([(z.texte, z.styles) for z in self.client.zones()], avant)
-        self.assertEqual(self.styles(riche), ["chat"])
+        self.assertEqual(parties_grasses(riche), ["chat"])
         self.doc.UndoManager.redo()
         self.assertEqual(simple.String, "un chat grise")
 

@@ -7,7 +7,7 @@ import uno
 
 import banc
 import menus
-from ecrivain import Ecrivain
+from ecrivain import Ecrivain, parties_grasses
 
 ITALIQUE = uno.Enum("com.sun.star.awt.FontSlant", "ITALIC")
 
@@ -29,10 +29,7 @@ COMMENTAIRE = """<?xml version="1.0" encoding="UTF-8"?>
 
 def setUpModule():
     global BUS, BUREAU
-    BUS = banc.Bus()
-    unittest.addModuleCleanup(BUS.ferme)
-    BUREAU = banc.Bureau(BUS.adresse)
-    unittest.addModuleCleanup(BUREAU.ferme)
+    BUS, BUREAU = banc.bus_et_bureau()
 
 
 class Cas(unittest.TestCase):
@@ -61,14 +58,7 @@ class Cas(unittest.TestCase):
         self.assertEqual(self.client.textes(), avant)
 
     def gras(self, texte=None):
-        """The bold parts of the first paragraph."""
-        enumeration = (texte or self.texte).createEnumeration().nextElement().createEnumeration()
-        parts = []
-        while enumeration.hasMoreElements():
-            portion = enumeration.nextElement()
-            if portion.CharWeight == 150.0:
-                parts.append(portion.String)
-        return parts
+        return parties_grasses(texte or self.texte)
 
 
 class Remplacement(Cas):

@@ -12,16 +12,14 @@ import uno
 from com.sun.star.awt import Size
 
 import banc
+from ecrivain import parties_grasses, plage
 
 ITALIQUE = uno.Enum("com.sun.star.awt.FontSlant", "ITALIC")
 
 
 def setUpModule():
     global BUS, BUREAU
-    BUS = banc.Bus()
-    unittest.addModuleCleanup(BUS.ferme)
-    BUREAU = banc.Bureau(BUS.adresse)
-    unittest.addModuleCleanup(BUREAU.ferme)
+    BUS, BUREAU = banc.bus_et_bureau()
 
 
 class Cas(unittest.TestCase):
@@ -83,23 +81,6 @@ class Cas(unittest.TestCase):
         for _ in range(fois):
             BUREAU.sur_le_fil_principal(pile.redo if encore else pile.undo)
 
-    def plage(self, texte, debut, fin):
-        curseur = texte.createTextCursor()
-        curseur.gotoStart(False)
-        curseur.goRight(debut, False)
-        curseur.goRight(fin - debut, True)
-        return curseur
-
-    def gras(self, texte):
-        """The bold parts of the text's first paragraph."""
-        portions = texte.createEnumeration().nextElement().createEnumeration()
-        parts = []
-        while portions.hasMoreElements():
-            portion = portions.nextElement()
-            if portion.CharWeight == 150.0:
-                parts.append(portion.String)
-        return parts
-
     def zone(self, contenant=""):
         return next(z for z in self.client.zones() if contenant in z.texte)
 
@@ -158,10 +139,10 @@ class Lecture(Cas):
     def test_fields_line_breaks_and_styles(self):
         forme = self.forme("page  ici")
         forme.insertTextContent(
-            self.plage(forme, 5, 5),
+            plage(forme, 5, 5),
             self.doc.createInstance("com.sun.star.text.TextField.PageNumber"), False)
-        self.plage(forme, 7, 10).CharWeight = 150.0
-        forme.insertControlCharacter(self.plage(forme, 6, 6), 1, False)
+        plage(forme, 7, 10).CharWeight = 150.0
+        forme.insertControlCharacter(plage(forme, 6, 6), 1, False)
         zone = self.zone()
         self.assertEqual((zone.texte, zone.styles), ("page \a\n ici", [(8, 11, 1)]))
 
@@ -214,16 +195,16 @@ class Correction(Cas):
 
     def test_formats_on_both_sides_of_a_border_stay_and_undo_restores_them(self):
         forme = self.forme("un chat noir\ndeux")
-        self.plage(forme, 3, 7).CharWeight = 150.0
+        plage(forme, 3, 7).CharWeight = 150.0
         self.corrige("chat noir", "chiens noirs")
-        self.assertEqual((forme.String, self.gras(forme)), ("un chiens noirs\ndeux", ["chiens"]))
+        self.assertEqual((forme.String, parties_grasses(forme)), ("un chiens noirs\ndeux", ["chiens"]))
         self.annule()
-        self.assertEqual((forme.String, self.gras(forme)), ("un chat noir\ndeux", ["chat"]))
+        self.assertEqual((forme.String, parties_grasses(forme)), ("un chat noir\ndeux", ["chat"]))
 
     def test_offsets_behind_emoji_and_fields_are_exact(self):
         forme = self.forme("\U0001f600 a  faute")
         forme.insertTextContent(
-            self.plage(forme, 5, 5),
+            plage(forme, 5, 5),
             self.doc.createInstance("com.sun.star.text.TextField.PageNumber"), False)
         self.corrige("faute", "correction")
         self.assertEqual(self.zone().texte, "\U0001f600 a \a correction")
@@ -231,7 +212,7 @@ class Correction(Cas):
     def test_a_field_or_a_line_break_bars_the_way(self):
         forme = self.forme("un chat")
         forme.insertTextContent(
-            self.plage(forme, 5, 5),
+            plage(forme, 5, 5),
             self.doc.createInstance("com.sun.star.text.TextField.PageNumber"), False)
         zone = self.zone()
         self.assertEqual(zone.texte, "un ch\aat")
@@ -279,7 +260,7 @@ class Correction(Cas):
 
     def test_saving_and_loading_keeps_everything_but_the_corrected_letters(self):
         forme = self.forme("un chat noir")
-        self.plage(forme, 3, 7).CharPosture = ITALIQUE
+        plage(forme, 3, 7).CharPosture = ITALIQUE
         self.tableau([["chat", "x"], ["y", "z"]])
 
         def contenu(nom):

@@ -16,10 +16,7 @@ DROIT = uno.Enum("com.sun.star.awt.FontSlant", "NONE")
 
 def setUpModule():
     global BUS, BUREAU
-    BUS = banc.Bus()
-    unittest.addModuleCleanup(BUS.ferme)
-    BUREAU = banc.Bureau(BUS.adresse)
-    unittest.addModuleCleanup(BUREAU.ferme)
+    BUS, BUREAU = banc.bus_et_bureau()
 
 
 class Cas(unittest.TestCase):

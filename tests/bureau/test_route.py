@@ -13,10 +13,7 @@ GRAS = 1
 
 def setUpModule():
     global BUS, BUREAU, HOTE
-    BUS = banc.Bus()
-    unittest.addModuleCleanup(BUS.ferme)
-    BUREAU = banc.Bureau(BUS.adresse)
-    unittest.addModuleCleanup(BUREAU.ferme)
+    BUS, BUREAU = banc.bus_et_bureau()
     HOTE = Hote(BUS.adresse)
 
 
