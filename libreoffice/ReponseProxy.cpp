@@ -73,9 +73,13 @@ namespace reponseProxy {
 
 bool Attends(QDBusAbstractInterface& proxy, QDBusPendingCall const& appel) {
     auto const delai = proxy.timeout() < 0 ? kDelaiParDefaut : milliseconds(proxy.timeout());
+    auto const depart = Horloge::now();
     if (!AttendsLaFin(proxy.connection(), appel, delai) || !appel.isValid())
         return false;
-    return VientDuCompagnon(proxy, appel.reply().service(), delai);
+    // Asking for the owner may take what is left of the time, not as much again.
+    auto const attendu = std::chrono::duration_cast<milliseconds>(Horloge::now() - depart);
+    return VientDuCompagnon(proxy, appel.reply().service(),
+                            std::max(delai - attendu, milliseconds(1)));
 }
 
 bool EstPartie(QDBusPendingCall const& appel) {
