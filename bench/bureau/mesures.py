@@ -4,6 +4,7 @@ means. Started by bench/lance-bureau, in a folder with all it needs.
 
 usage: mesures.py [--essai]
 """
+import contextlib
 import dataclasses
 import os
 import pathlib
@@ -95,6 +96,25 @@ class Salle:
         """Milliseconds of processor that the office's main thread has taken."""
         return int(pathlib.Path(f"/proc/{self.pid}/task/{self.pid}/schedstat").read_text().split()[0]) / 1e6
 
+    @contextlib.contextmanager
+    def coeur_reserve(self, autres):
+        """Gives the office's main thread a core of its own: once it has replied it goes on with work
+        of the office's, and on its core the reply's delivery would wait for the end of that."""
+        coeurs = sorted(os.sched_getaffinity(0))
+        fils = {int(fil.name) for fil in pathlib.Path(f"/proc/{self.pid}/task").iterdir()}
+        reste = (fils | {self.bus.processus.pid, *autres}) - {self.pid}
+
+        def places(principal, autres_fils):
+            for fil in reste:
+                with contextlib.suppress(ProcessLookupError):  # a thread of the office's has ended
+                    os.sched_setaffinity(fil, autres_fils)
+            os.sched_setaffinity(self.pid, principal)
+
+        if len(coeurs) > 1:
+            places(coeurs[:1], coeurs[1:])
+        yield
+        places(coeurs, coeurs)
+
     def calme(self):
         """Waits until the office has nothing to do: its own work after an edit is not ours."""
         tranquille = 0
@@ -173,10 +193,11 @@ class Lecture:
 def corrections(salle, petite, grande, tours):
     """One correction at a time, as a person makes them, in both documents in turn."""
     durees = {petite: [], grande: []}
-    for tour in range(2 if ESSAI else tours):
-        for lecture, prises in durees.items():
-            salle.calme()
-            prises.append(lecture.greffon.corrige((tour * 37 + 5) % lecture.nombre))
+    with salle.coeur_reserve([lecture.greffon.processus.pid for lecture in durees]):
+        for tour in range(2 if ESSAI else tours):
+            for lecture, prises in durees.items():
+                salle.calme()
+                prises.append(lecture.greffon.corrige((tour * 37 + 5) % lecture.nombre))
     return [statistics.median(prises) for prises in durees.values()]
 
 
