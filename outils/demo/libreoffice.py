@@ -208,8 +208,7 @@ def sers(bureau: Bureau, fichiers: list[pathlib.Path]):
     print("open", flush=True)
     ordre = None
     try:
-        while bureau.processus.poll() is None:
-            time.sleep(0.2)
+        bureau.processus.wait()  # until it dies, or an order comes
         raise bureau.mort()
     except Ordre as recu:
         ordre = recu.args[0]
