@@ -6,7 +6,7 @@
 namespace lectureJson {
 
 Json::Value Analyse(std::string const& octets) {
-    Analyseur analyseur;
+    AnalyseurJson analyseur;
     try {
         analyseur.Analyse(octets);
     } catch (Json::Exception const&) {

@@ -15,7 +15,7 @@
 namespace lectureJson {
 
 /// Parses one document after the other; cheaper than a parser for each.
-class Analyseur {
+class AnalyseurJson {
   public:
     /// Did the UTF-8 bytes parse? The root is what the parser left, in both cases. Throws
     /// Json::Exception for nesting beyond the parser's depth.

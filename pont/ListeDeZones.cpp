@@ -9,8 +9,8 @@
 
 namespace {
 
-ZoneLue LisZone(Json::Value const& element) {
-    ZoneLue zone;
+ZoneRecue LisZone(Json::Value const& element) {
+    ZoneRecue zone;
     std::string tampon;
     zone.nom = DecodeTexteJson(lectureJson::Texte(element, "Nom", tampon));
     zone.texte = DecodeTexteJson(lectureJson::Texte(element, "Texte", tampon));
@@ -27,13 +27,13 @@ ZoneLue LisZone(Json::Value const& element) {
 
 /// The zones of a document that can be taken apart and is right throughout, read one by one: the
 /// parser's tree of a whole long document takes three times its size, and is slow to walk.
-std::optional<std::vector<ZoneLue>> LisUneParUne(std::string const& octets) {
+std::optional<std::vector<ZoneRecue>> LisUneParUne(std::string const& octets) {
     auto const morceaux = DecoupeZones(octets);
     if (!morceaux)
         return std::nullopt;
-    std::vector<ZoneLue> zones;
+    std::vector<ZoneRecue> zones;
     zones.reserve(morceaux->size());
-    lectureJson::Analyseur analyseur;
+    lectureJson::AnalyseurJson analyseur;
     try {
         for (auto const& morceau : *morceaux) {
             if (!analyseur.Analyse(morceau))
@@ -48,7 +48,7 @@ std::optional<std::vector<ZoneLue>> LisUneParUne(std::string const& octets) {
 
 } // namespace
 
-void LisListeDeZones(std::string const& octets, std::function<void(ZoneLue&&)> const& recois) {
+void LisListeDeZones(std::string const& octets, std::function<void(ZoneRecue&&)> const& recois) {
     if (octets.empty())
         return;
     if (auto lues = LisUneParUne(octets)) {

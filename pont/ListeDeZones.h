@@ -9,7 +9,7 @@
 #include <vector>
 
 /// One zone as a zone-list document tells it, its texts decoded.
-struct ZoneLue {
+struct ZoneRecue {
     UniChaine nom;
     UniChaine texte;
     int debutSel = 0;
@@ -24,4 +24,4 @@ struct ZoneLue {
 /// object, or whose "Zones" is neither an array nor null. Throws Json::RuntimeError at the first
 /// integer member that is none, after the zones before it were handed out; and what `recois`
 /// throws.
-void LisListeDeZones(std::string const& octets, std::function<void(ZoneLue&&)> const& recois);
+void LisListeDeZones(std::string const& octets, std::function<void(ZoneRecue&&)> const& recois);

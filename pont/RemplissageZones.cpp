@@ -7,7 +7,7 @@
 
 void AjouteZones(std::string const& octets, VocalyneOpenOfficeProxyQDBUS* proxy,
                  ModuleProxyOOo* agent, CollectionZonesDeTexte& zones) {
-    LisListeDeZones(octets, [&](ZoneLue&& lue) {
+    LisListeDeZones(octets, [&](ZoneRecue&& lue) {
         auto zone = std::make_unique<ZoneDeTexteOOoProxy>(proxy, agent, lue.texte, lue.nom,
                                                           lue.debutSel, lue.finSel);
         for (auto const& plage : lue.styles)

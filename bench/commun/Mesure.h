@@ -16,7 +16,7 @@ struct Ampleur {
 };
 
 /// One line of the table. `mesure` and `reference` are in `unite`.
-struct Ligne {
+struct LigneDeMesure {
     std::string nom;
     double mesure;
     double reference;

@@ -8,22 +8,22 @@
 namespace banc {
 
 /// A waited call through the agent over QtDBus' bare one on the same proxy.
-Ligne MesureAttente(Ampleur ampleur);
+LigneDeMesure MesureAttente(Ampleur ampleur);
 
 /// A reply's string to zones, freed, over JsonCpp's parse and destruction alone.
-Ligne MesureLecture(Ampleur ampleur);
+LigneDeMesure MesureLecture(Ampleur ampleur);
 
 /// Reading a zone of a long document over reading one of a short document.
-Ligne MesureCroissance(Ampleur ampleur);
+LigneDeMesure MesureCroissance(Ampleur ampleur);
 
 /// Peak memory of reading a reply over the reply's size.
-Ligne MesureMemoire(Ampleur ampleur);
+LigneDeMesure MesureMemoire(Ampleur ampleur);
 
 /// Setting ten times as many style runs in order.
-Ligne MesureAttributs(Ampleur ampleur);
+LigneDeMesure MesureAttributs(Ampleur ampleur);
 
 /// Loading the plug-in over loading a bare library with the same needs.
-Ligne MesureChargement(Ampleur ampleur, QString const& greffon, QString const& temoin,
-                       QString const& chargeur);
+LigneDeMesure MesureChargement(Ampleur ampleur, QString const& greffon, QString const& temoin,
+                               QString const& chargeur);
 
 } // namespace banc

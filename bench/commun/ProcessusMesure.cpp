@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Processus.h"
+#include "ProcessusMesure.h"
 
 #include <QCoreApplication>
 

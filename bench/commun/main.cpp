@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Bureau.h"
 #include "Machine.h"
-#include "Memoire.h"
 #include "Mesures.h"
-#include "Repondeur.h"
+#include "pont/BureauDuBanc.h"
+#include "pont/Memoire.h"
+#include "pont/Repondeur.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -16,7 +16,7 @@
 
 namespace {
 
-void Imprime(banc::Ligne const& ligne, bool essai) {
+void Imprime(banc::LigneDeMesure const& ligne, bool essai) {
     std::printf("%-58s %10.2f %10.2f %-8s %7.2f %7.2f  %-6s %s\n", ligne.nom.c_str(), ligne.mesure,
                 ligne.reference, ligne.unite.c_str(), ligne.Rapport(), ligne.limite,
                 essai              ? "-"
@@ -28,7 +28,7 @@ void Imprime(banc::Ligne const& ligne, bool essai) {
 
 struct Mesure {
     char const* nom;
-    std::function<banc::Ligne(banc::Ampleur)> prends;
+    std::function<banc::LigneDeMesure(banc::Ampleur)> prends;
 };
 
 std::vector<Mesure> Mesures(QString const& greffon) {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Mesures.h"
-#include "Processus.h"
+#include "commun/Mesures.h"
+#include "commun/ProcessusMesure.h"
 
 namespace banc {
 
-Ligne MesureChargement(Ampleur ampleur, QString const& greffon, QString const& temoin,
-                       QString const& chargeur) {
+LigneDeMesure MesureChargement(Ampleur ampleur, QString const& greffon, QString const& temoin,
+                               QString const& chargeur) {
     auto const charge = [&chargeur](QString const& bibliotheque) {
         return Processus(chargeur, {bibliotheque}).LisLigne().toDouble();
     };

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MPL-2.0
 """Measures the extension in a running LibreOffice, through the plug-in; README.md says what each line
-means. Started by bench/lance-bureau, in a folder with all it needs.
+means. Started by bench/lance-extension, in a folder with all it needs.
 
 usage: mesures.py [--essai]
 """

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "AgentDuBanc.h"
-#include "Mesures.h"
-#include "Processus.h"
+#include "commun/Mesures.h"
+#include "commun/ProcessusMesure.h"
 
 #include <QDBusPendingReply>
 
 namespace banc {
 
-Ligne MesureAttente(Ampleur ampleur) {
+LigneDeMesure MesureAttente(Ampleur ampleur) {
     constexpr int kParTour = 1; // calls
     auto const instance = QStringLiteral("attente");
     Processus repondeur(Processus::Soi(), {QStringLiteral("--repondeur"), instance});

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "InterfaceZoneDeTexte.h"
-#include "Mesures.h"
+#include "commun/Mesures.h"
 
 namespace banc {
 
@@ -17,7 +17,7 @@ void MetsEnOrdre(sdd::ChaineN const& texte, int nombre) {
 
 } // namespace
 
-Ligne MesureAttributs(Ampleur ampleur) {
+LigneDeMesure MesureAttributs(Ampleur ampleur) {
     auto const petit = ampleur.Taille(10000);
     auto const grand = petit * 10;
     sdd::ChaineN const texte(grand * kPas, u'a');

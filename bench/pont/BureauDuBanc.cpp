@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Bureau.h"
+#include "BureauDuBanc.h"
 
 #include "AgentDuBanc.h"
 #include "CollectionZonesDeTexte.h"
-#include "Mesure.h"
 #include "ZoneDeTexteOOoProxy.h"
+#include "commun/Mesure.h"
 
 #include <QDBusPendingReply>
 

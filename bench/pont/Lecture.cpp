@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "CollectionZonesDeTexte.h"
 #include "DocumentDeZones.h"
-#include "Mesures.h"
 #include "RemplissageZones.h"
+#include "commun/Mesures.h"
 
 #include <json/reader.h>
 
@@ -37,7 +37,7 @@ QString Reponse(std::string const& document) {
 
 } // namespace
 
-Ligne MesureLecture(Ampleur ampleur) {
+LigneDeMesure MesureLecture(Ampleur ampleur) {
     auto const nombre = ampleur.Taille(1000);
     auto const document = FaisDocument(nombre);
     auto const reponse = Reponse(document);
@@ -53,7 +53,7 @@ Ligne MesureLecture(Ampleur ampleur) {
                 std::to_string(document.size() / static_cast<std::size_t>(nombre)) + " bytes"};
 }
 
-Ligne MesureCroissance(Ampleur ampleur) {
+LigneDeMesure MesureCroissance(Ampleur ampleur) {
     constexpr int kRapport = 100;
     auto const petit = ampleur.Taille(100);
     auto const grand = petit * kRapport;

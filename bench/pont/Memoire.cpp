@@ -3,8 +3,8 @@
 
 #include "AgentDuBanc.h"
 #include "DocumentDeZones.h"
-#include "Mesures.h"
-#include "Processus.h"
+#include "commun/Mesures.h"
+#include "commun/ProcessusMesure.h"
 
 #include <cstdio>
 #include <fstream>
@@ -40,7 +40,7 @@ int LisEtDisMemoire(QString const& instance, int zones) {
     return 0;
 }
 
-Ligne MesureMemoire(Ampleur ampleur) {
+LigneDeMesure MesureMemoire(Ampleur ampleur) {
     auto const zones = ampleur.Taille(57400); // 50 MiB
     auto const instance = QStringLiteral("memoire");
     Processus repondeur(Processus::Soi(), {QStringLiteral("--repondeur"), instance});

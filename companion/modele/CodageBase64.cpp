@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Base64.h"
+#include "CodageBase64.h"
 
 #include <cstdint>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "EcrivainZones.h"
 
-#include "Base64.h"
+#include "CodageBase64.h"
 #include "Utf.h"
 
 #include <array>

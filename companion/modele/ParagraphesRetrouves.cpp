@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Alignement.h"
+#include "ParagraphesRetrouves.h"
 
 #include <algorithm>
 
 namespace compagnon {
 
 std::vector<std::optional<std::size_t>>
-AligneParagraphes(std::vector<std::u16string> const& avant,
-                  std::vector<std::u16string> const& maintenant) {
+RetrouveParagraphes(std::vector<std::u16string> const& avant,
+                    std::vector<std::u16string> const& maintenant) {
     std::size_t const plusCourt = std::min(avant.size(), maintenant.size());
     std::size_t debut = 0;
     while (debut < plusCourt && avant[debut] == maintenant[debut]) {

@@ -12,7 +12,7 @@ namespace compagnon {
 /// be told from the words alone. Never guesses: of equal neighbours, one of which is new, neither
 /// is known again; a paragraph whose words changed is known only when it alone did. Linear.
 std::vector<std::optional<std::size_t>>
-AligneParagraphes(std::vector<std::u16string> const& avant,
-                  std::vector<std::u16string> const& maintenant);
+RetrouveParagraphes(std::vector<std::u16string> const& avant,
+                    std::vector<std::u16string> const& maintenant);
 
 } // namespace compagnon

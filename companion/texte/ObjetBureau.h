@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "Bureau.h"
 #include "Portier.h"
+#include "coeur/Bureau.h"
 
 #include <QDBusContext>
 #include <QObject>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Publication.h"
 
-#include "Chaines.h"
-#include "Messages.h"
+#include "ChainesQt.h"
+#include "coeur/MessagesTexte.h"
 
 #include <QDBusConnectionInterface>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "Descripteur.h"
+#include "coeur/Descripteur.h"
 
 #include <QObject>
 #include <QSocketNotifier>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "VeilleAppelants.h"
 
-#include "Chaines.h"
+#include "ChainesQt.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>

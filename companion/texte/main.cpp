@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Bureau.h"
-#include "Dereglements.h"
-#include "Messages.h"
 #include "ObjetBureau.h"
-#include "ObjetCommande.h"
-#include "Options.h"
 #include "Publication.h"
 #include "Signaux.h"
 #include "VeilleAppelants.h"
+#include "coeur/Bureau.h"
+#include "coeur/MessagesTexte.h"
+#include "coeur/OptionsBureau.h"
+#include "commande/Dereglements.h"
+#include "commande/ObjetCommande.h"
 #include "commandeadaptor.h"
 #include "documentsadaptor.h"
 #include "proxyadaptor.h"
@@ -89,7 +89,7 @@ bool EnregistreTous(Bureau& bureau) {
     return tous;
 }
 
-int Sers(Options const& options, Bureau& bureau) {
+int Sers(OptionsBureau const& options, Bureau& bureau) {
     ObjetBureau objet(bureau, !options.sansEnregistrer);
     new ProxyAdaptor(&objet); // owned by the object, as all adaptors are
     new DocumentsAdaptor(&objet);
@@ -145,7 +145,7 @@ int Sers(Options const& options, Bureau& bureau) {
 } // namespace
 
 int main(int argc, char* argv[]) {
-    Options const options = LisOptions(argc, argv);
+    OptionsBureau const options = LisOptions(argc, argv);
     switch (options.action) {
     case Action::Aide:
         std::cout << DonneAide();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "AlertesConsole.h"
 
-#include "Contexte.h"
+#include "langue/Contexte.h"
 
 #include <QStringList>
 

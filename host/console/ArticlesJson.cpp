@@ -2,7 +2,7 @@
 #include "ArticlesJson.h"
 
 #include "ChoixLangue.h"
-#include "EcritureJson.h"
+#include "commun/EcritureJson.h"
 
 namespace hote {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "Articles.h"
+#include "langue/Articles.h"
 
 #include <string>
 

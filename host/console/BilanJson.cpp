@@ -2,7 +2,7 @@
 #include "BilanJson.h"
 
 #include "ChoixLangue.h"
-#include "EcritureJson.h"
+#include "commun/EcritureJson.h"
 
 namespace hote {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "Bilan.h"
-#include "Lexique.h"
+#include "correction/Bilan.h"
+#include "langue/Lexique.h"
 
 #include <string>
 

@@ -2,9 +2,9 @@
 #include "ChoixDocument.h"
 
 #include "Commandes.h"
-#include "Documents.h"
-#include "ErreurHote.h"
-#include "Messages.h"
+#include "bus/DocumentsDuBus.h"
+#include "commun/ErreurHote.h"
+#include "commun/MessagesHote.h"
 
 #include <algorithm>
 
@@ -24,7 +24,7 @@ QString ChoisisDocument() {
     if (unSeulLogiciel)
         return documents.front().id;
     std::string noms;
-    for (DocumentOuvert const& document : documents)
+    for (DocumentAnnonce const& document : documents)
         noms += (noms.empty() ? "" : ", ") + document.id.toStdString() + " (" +
                 document.titre.toStdString() + ')';
     throw ErreurHote(kSortieDocument, Tr("Lequel ? Plusieurs documents sont à portée : {1}", noms));

@@ -2,10 +2,10 @@
 #include "ChoixLangue.h"
 
 #include "Commandes.h"
-#include "DetecteLangue.h"
-#include "DictionnaireHunspell.h"
 #include "InitialisationGenerale.h"
-#include "Messages.h"
+#include "commun/MessagesHote.h"
+#include "langue/DetecteLangue.h"
+#include "langue/DictionnaireHunspell.h"
 
 #include <utility>
 

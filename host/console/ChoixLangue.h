@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "Lexique.h"
+#include "langue/Lexique.h"
 
 #include <QString>
 

@@ -4,14 +4,14 @@
 #include "ChoixDocument.h"
 #include "ChoixLangue.h"
 #include "Commandes.h"
-#include "Contexte.h"
-#include "Correcteur.h"
-#include "DictionnaireHunspell.h"
 #include "InterlocuteurRegle.h"
 #include "InterlocuteurTerminal.h"
-#include "LocaliseGreffon.h"
-#include "Messages.h"
 #include "SurGreffon.h"
+#include "commun/MessagesHote.h"
+#include "correction/Correcteur.h"
+#include "greffon/LocaliseGreffon.h"
+#include "langue/Contexte.h"
+#include "langue/DictionnaireHunspell.h"
 
 #include <unistd.h>
 
@@ -26,7 +26,7 @@ namespace {
 /// other.
 class Seance {
   public:
-    Seance(Options const& options, std::unique_ptr<Lexique> lexique, Greffon const& greffon)
+    Seance(OptionsHote const& options, std::unique_ptr<Lexique> lexique, Greffon const& greffon)
         : options_(options)
         , choix_{std::move(lexique), false}
         , id_(options.id.isEmpty() ? ChoisisDocument() : options.id)
@@ -86,7 +86,7 @@ class Seance {
         return bilan.Compte(EtatFaute::Refusee) > 0 ? kSortiePartielle : kSortieReussie;
     }
 
-    Options const& options_;
+    OptionsHote const& options_;
     ChoixLangue choix_;
     QString id_;
     Document document_;
@@ -98,7 +98,7 @@ class Seance {
 
 } // namespace
 
-eCodeSortie ExecuteCorrige(Options const& options) {
+eCodeSortie ExecuteCorrige(OptionsHote const& options) {
     // What is missing is said before anything is touched.
     auto lexique = options.langue ? OuvreDictionnaire(*options.langue) : nullptr;
     AlertesConsole alertes;

@@ -4,15 +4,15 @@
 #include "ChoixDocument.h"
 #include "ChoixLangue.h"
 #include "Commandes.h"
-#include "Contexte.h"
-#include "DictionnaireHunspell.h"
-#include "LocaliseGreffon.h"
-#include "Messages.h"
 #include "PresentationArticles.h"
-#include "SelectionTenue.h"
 #include "Sortie.h"
 #include "SurGreffon.h"
-#include "ThesaurusMyThes.h"
+#include "commun/MessagesHote.h"
+#include "greffon/LocaliseGreffon.h"
+#include "greffon/SelectionTenue.h"
+#include "langue/Contexte.h"
+#include "langue/DictionnaireHunspell.h"
+#include "langue/ThesaurusMyThes.h"
 
 #include <unistd.h>
 
@@ -56,7 +56,7 @@ eCodeSortie Choisis(Recherche const& recherche, SelectionTenue::Etat const& etat
     return fait ? kSortieReussie : kSortiePartielle;
 }
 
-eCodeSortie Cherche(Options const& options, ChoixLangue choix, Greffon const& greffon) {
+eCodeSortie Cherche(OptionsHote const& options, ChoixLangue choix, Greffon const& greffon) {
     QString const id = options.id.isEmpty() ? ChoisisDocument() : options.id;
     SelectionTenue selection(greffon, id);
     auto const etat = selection.Lis();
@@ -93,7 +93,7 @@ eCodeSortie Cherche(Options const& options, ChoixLangue choix, Greffon const& gr
 
 } // namespace
 
-eCodeSortie ExecuteDictionnaire(Options const& options) {
+eCodeSortie ExecuteDictionnaire(OptionsHote const& options) {
     // What is missing is said before anything is touched.
     auto lexique = options.langue ? OuvreDictionnaire(*options.langue) : nullptr;
     AlertesConsole alertes;

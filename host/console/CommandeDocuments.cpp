@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Commandes.h"
-#include "Contexte.h"
-#include "Documents.h"
-#include "EcritureJson.h"
-#include "Messages.h"
 #include "Sortie.h"
+#include "bus/DocumentsDuBus.h"
+#include "commun/EcritureJson.h"
+#include "commun/MessagesHote.h"
+#include "langue/Contexte.h"
 
 #include <unistd.h>
 
@@ -15,7 +15,7 @@ namespace {
 std::string EcrisJson(ListeDocuments const& liste) {
     EcritureJson json;
     json.Tableau();
-    for (DocumentOuvert const& document : liste.documents) {
+    for (DocumentAnnonce const& document : liste.documents) {
         json.Objet();
         json.Cle("id").Texte(document.id);
         json.Cle("titre").Texte(document.titre);
@@ -28,7 +28,7 @@ std::string EcrisJson(ListeDocuments const& liste) {
 
 std::string EcrisTexte(ListeDocuments const& liste) {
     std::string texte;
-    for (DocumentOuvert const& document : liste.documents) {
+    for (DocumentAnnonce const& document : liste.documents) {
         texte += PourTerminal(document.id).toStdString();
         texte += "  " + PourTerminal(document.titre).toStdString();
         if (!document.chemin.isEmpty())
@@ -40,7 +40,7 @@ std::string EcrisTexte(ListeDocuments const& liste) {
 
 } // namespace
 
-eCodeSortie ExecuteDocuments(Options const& options) {
+eCodeSortie ExecuteDocuments(OptionsHote const& options) {
     auto const liste = EnumereDocuments(kDelaiDocumentsMs);
     for (std::string const& avertissement : liste.avertissements)
         Avertis(avertissement);

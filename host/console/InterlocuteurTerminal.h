@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "Interlocuteur.h"
 #include "PresentationTexte.h"
 #include "Progression.h"
 #include "Sortie.h"
+#include "correction/Interlocuteur.h"
 
 #include <istream>
 #include <optional>

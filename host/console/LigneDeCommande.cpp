@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "LigneDeCommande.h"
 
-#include "ErreurHote.h"
-#include "Messages.h"
+#include "commun/ErreurHote.h"
+#include "commun/MessagesHote.h"
 
 #include <QCommandLineParser>
 
@@ -14,35 +14,35 @@ ErreurHote DonneErreurUsage(std::string const& message) {
     return {kSortieUsage, message};
 }
 
-Options::Commande LisCommande(QString const& nom) {
+OptionsHote::Commande LisCommande(QString const& nom) {
     if (nom == QLatin1String("documents"))
-        return Options::Commande::Documents;
+        return OptionsHote::Commande::Documents;
     if (nom == QLatin1String("corrige"))
-        return Options::Commande::Corrige;
+        return OptionsHote::Commande::Corrige;
     if (nom == QLatin1String("dictionnaire"))
-        return Options::Commande::Dictionnaire;
+        return OptionsHote::Commande::Dictionnaire;
     if (nom == QLatin1String("pilote"))
-        return Options::Commande::Pilote;
+        return OptionsHote::Commande::Pilote;
     throw DonneErreurUsage(Tr("Commande inconnue : {1}", nom));
 }
 
 /// One command's options. Each command knows its own only, so that a misplaced one is an error.
-class Analyseur {
+class AnalyseurDeLigne {
   public:
-    explicit Analyseur(Options::Commande commande) {
+    explicit AnalyseurDeLigne(OptionsHote::Commande commande) {
         parseur_.addOptions({aide_, version_});
         bool const surDocument = PrendsDocument(commande);
         if (surDocument)
             parseur_.addOption(langue_);
-        if (commande == Options::Commande::Corrige)
+        if (commande == OptionsHote::Commande::Corrige)
             parseur_.addOption(automatique_);
-        if (surDocument || commande == Options::Commande::Documents)
+        if (surDocument || commande == OptionsHote::Commande::Documents)
             parseur_.addOption(sortie_);
-        if (surDocument || commande == Options::Commande::Pilote)
+        if (surDocument || commande == OptionsHote::Commande::Pilote)
             parseur_.addOption(greffon_);
     }
 
-    Options Analyse(Options options, QStringList const& arguments) {
+    OptionsHote Analyse(OptionsHote options, QStringList const& arguments) {
         if (!parseur_.parse(arguments)) {
             auto const inconnues = parseur_.unknownOptionNames();
             throw DonneErreurUsage(inconnues.isEmpty()
@@ -50,18 +50,18 @@ class Analyseur {
                                        : Tr("Option inconnue : {1}", Nomme(inconnues.first())));
         }
         if (parseur_.isSet(aide_))
-            options.commande = Options::Commande::Aide;
+            options.commande = OptionsHote::Commande::Aide;
         else if (parseur_.isSet(version_))
-            options.commande = Options::Commande::Version;
+            options.commande = OptionsHote::Commande::Version;
         LisValeurs(options);
         LisPositionnels(options);
         return options;
     }
 
   private:
-    static bool PrendsDocument(Options::Commande commande) {
-        return commande == Options::Commande::Corrige ||
-               commande == Options::Commande::Dictionnaire;
+    static bool PrendsDocument(OptionsHote::Commande commande) {
+        return commande == OptionsHote::Commande::Corrige ||
+               commande == OptionsHote::Commande::Dictionnaire;
     }
 
     static QString Nomme(QString const& option) {
@@ -73,7 +73,7 @@ class Analyseur {
         return parseur_.optionNames().contains(option.names().first());
     }
 
-    void LisValeurs(Options& options) const {
+    void LisValeurs(OptionsHote& options) const {
         options.automatique = EstDonnee(automatique_);
         if (EstDonnee(langue_)) {
             QString const valeur = parseur_.value(langue_);
@@ -97,7 +97,7 @@ class Analyseur {
         }
     }
 
-    void LisPositionnels(Options& options) const {
+    void LisPositionnels(OptionsHote& options) const {
         QStringList positionnels = parseur_.positionalArguments();
         if (PrendsDocument(options.commande) && !positionnels.isEmpty())
             options.id = positionnels.takeFirst();
@@ -116,8 +116,8 @@ class Analyseur {
 
 } // namespace
 
-Options AnalyseLigne(QStringList const& arguments) {
-    Options options;
+OptionsHote AnalyseLigne(QStringList const& arguments) {
+    OptionsHote options;
     if (arguments.size() < 2)
         throw DonneErreurUsage(Tr("Il manque une commande"));
     QString const& premier = arguments.at(1);
@@ -125,8 +125,8 @@ Options AnalyseLigne(QStringList const& arguments) {
     if (commande)
         options.commande = LisCommande(premier);
     // The parser takes its first element for the program's name.
-    options = Analyseur(options.commande).Analyse(options, arguments.mid(commande ? 1 : 0));
-    bool const ilFautUneCommande = !commande && options.commande == Options::Commande::Aide &&
+    options = AnalyseurDeLigne(options.commande).Analyse(options, arguments.mid(commande ? 1 : 0));
+    bool const ilFautUneCommande = !commande && options.commande == OptionsHote::Commande::Aide &&
                                    premier != QLatin1String("--help") &&
                                    premier != QLatin1String("-h");
     if (ilFautUneCommande)

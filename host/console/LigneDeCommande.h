@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "Lexique.h"
+#include "langue/Lexique.h"
 
 #include <QStringList>
 
@@ -11,7 +11,7 @@
 namespace hote {
 
 /// What the person asked for.
-struct Options {
+struct OptionsHote {
     enum class Commande { Aide, Version, Documents, Corrige, Dictionnaire, Pilote };
 
     Commande commande = Commande::Aide;
@@ -24,7 +24,7 @@ struct Options {
 
 /// Reads the arguments, the program's name first. Throws ErreurHote (kSortieUsage) when they are
 /// wrong: unknown commands and options, missing or wrong values, arguments too many.
-Options AnalyseLigne(QStringList const& arguments);
+OptionsHote AnalyseLigne(QStringList const& arguments);
 
 /// The few lines shown when the command line is wrong, and the whole help; both end in a line feed.
 std::string DonneUsage();

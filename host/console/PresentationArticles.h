@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "Articles.h"
 #include "Couleurs.h"
+#include "langue/Articles.h"
 
 #include <string>
 

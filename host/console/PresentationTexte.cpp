@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "PresentationTexte.h"
 
-#include "Contexte.h"
-#include "Messages.h"
+#include "commun/MessagesHote.h"
+#include "langue/Contexte.h"
 
 namespace hote {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "Bilan.h"
 #include "Couleurs.h"
-#include "Interlocuteur.h"
+#include "correction/Bilan.h"
+#include "correction/Interlocuteur.h"
 
 #include <string>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Sortie.h"
 
-#include "ErreurHote.h"
-#include "Messages.h"
+#include "commun/ErreurHote.h"
+#include "commun/MessagesHote.h"
 
 #include <fcntl.h>
 #include <poll.h>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Commandes.h"
-#include "Contexte.h"
 #include "InitialisationGenerale.h"
-#include "Messages.h"
 #include "Sortie.h"
+#include "commun/MessagesHote.h"
+#include "langue/Contexte.h"
 
 #include <QCoreApplication>
 
@@ -44,20 +44,20 @@ eCodeSortie EcrisEtFinis(std::string const& texte) {
 }
 
 eCodeSortie Execute(QStringList const& arguments) {
-    Options const options = AnalyseLigne(arguments);
-    if (options.commande == Options::Commande::Aide)
+    OptionsHote const options = AnalyseLigne(arguments);
+    if (options.commande == OptionsHote::Commande::Aide)
         return EcrisEtFinis(DonneAide());
-    if (options.commande == Options::Commande::Version)
+    if (options.commande == OptionsHote::Commande::Version)
         return EcrisEtFinis("vocalyne-hote " VOCALYNE_VERSION "\n");
     qInstallMessageHandler(FiltreMessagesQt);
     Application const application;
     InitialisationGenerale::InitApresQApp();
     switch (options.commande) {
-    case Options::Commande::Documents:
+    case OptionsHote::Commande::Documents:
         return ExecuteDocuments(options);
-    case Options::Commande::Corrige:
+    case OptionsHote::Commande::Corrige:
         return ExecuteCorrige(options);
-    case Options::Commande::Dictionnaire:
+    case OptionsHote::Commande::Dictionnaire:
         return ExecuteDictionnaire(options);
     default:
         qInstallMessageHandler(nullptr);

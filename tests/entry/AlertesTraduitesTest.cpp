@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MPL-2.0
 // The alerts as a person reads them, through the plug-in's own catalogs, in both languages.
 #include "AlertesConnecteur.h"
-#include "AlertesNotees.h"
 #include "Catalogues.h"
 #include "InitialisationGenerale.h"
 #include "ModuleProxyOOo.h"
-#include "Textes.h"
 #include "domaineTexteur.h"
+#include "outils/AlertesNotees.h"
+#include "outils/Textes.h"
 
 #include <gtest/gtest.h>
 

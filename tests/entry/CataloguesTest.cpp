@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
 // The two catalogs inside the plug-in, read by their bytes.
-#include "Textes.h"
+#include "outils/Textes.h"
 
 #include <QFile>
 #include <gtest/gtest.h>

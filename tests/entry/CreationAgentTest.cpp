@@ -2,8 +2,8 @@
 // The creation of an agent, on agents that count themselves.
 #include "CreationAgent.h"
 
-#include "ConnecteurMuet.h"
-#include "Textes.h"
+#include "outils/ConnecteurMuet.h"
+#include "outils/Textes.h"
 
 #include <gtest/gtest.h>
 

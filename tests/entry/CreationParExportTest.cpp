@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 // CreeAgentTexteur where no agent can come of it: no bus, no document, no window, no support.
-#include "AlertesNotees.h"
 #include "GreffonCharge.h"
-#include "Textes.h"
+#include "outils/AlertesNotees.h"
+#include "outils/Textes.h"
 
 #include <QCoreApplication>
 #include <gtest/gtest.h>

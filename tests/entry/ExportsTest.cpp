@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "GreffonCharge.h"
-#include "Textes.h"
+#include "outils/Textes.h"
 
 #include <gtest/gtest.h>
 

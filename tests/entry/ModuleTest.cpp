@@ -6,8 +6,8 @@
 #include "Catalogues.h"
 #include "ChaineN.h"
 #include "StockageReponse.h"
-#include "Textes.h"
 #include "domaineTexteur.h"
+#include "outils/Textes.h"
 
 #include <QApplication>
 #include <QDir>

@@ -54,7 +54,7 @@ def main():
     ici = pathlib.Path(__file__).resolve().parent
     with tempfile.TemporaryDirectory(prefix="vocalyne-bureau-") as dossier:
         travail = pathlib.Path(dossier)
-        for source in [*ici.glob("*.py"), *voulu.avec]:
+        for source in [*ici.rglob("*.py"), *voulu.avec]:
             shutil.copy(source, travail)
         shutil.copy(voulu.oxt, travail / "vocalyne-libreoffice.oxt")
         if voulu.hote:

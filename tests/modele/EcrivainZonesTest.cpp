@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "EcrivainZones.h"
+#include "modele/EcrivainZones.h"
 
 #include <gtest/gtest.h>
 #include <json/json.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "EditionMinimale.h"
-#include "Frontieres.h"
-#include "Hasard.h"
+#include "modele/EditionMinimale.h"
+#include "TirageDeTextes.h"
+#include "modele/Frontieres.h"
 
 #include <gtest/gtest.h>
 

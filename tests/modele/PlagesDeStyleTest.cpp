@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "PlagesDeStyle.h"
+#include "modele/PlagesDeStyle.h"
 
-#include "Hasard.h"
+#include "TirageDeTextes.h"
 
 #include <gtest/gtest.h>
 

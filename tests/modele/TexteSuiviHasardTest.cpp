@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Hasard.h"
 #include "Suivis.h"
+#include "TirageDeTextes.h"
 
 #include <gtest/gtest.h>
 

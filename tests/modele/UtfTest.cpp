@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Utf.h"
-#include "Base64.h"
+#include "modele/Utf.h"
+#include "modele/CodageBase64.h"
 
 #include <gtest/gtest.h>
 

@@ -2,10 +2,10 @@
 // The agent where no bus can be reached, or where its identifier gives names that no bus can have:
 // neutral answers, at once.
 #include "AgentEssai.h"
-#include "AlertesNotees.h"
-#include "Textes.h"
 #include "VocalyneOpenOfficeProxyQDBUS.h"
 #include "ZoneDeTexteOOoProxy.h"
+#include "outils/AlertesNotees.h"
+#include "outils/Textes.h"
 
 #include <gtest/gtest.h>
 

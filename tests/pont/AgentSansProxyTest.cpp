@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
 // The agent whose link is gone: each operation gives its neutral answer and nothing is sent.
 #include "AgentEssai.h"
-#include "AlertesNotees.h"
-#include "Textes.h"
 #include "ZoneDeTexteOOoProxy.h"
+#include "outils/AlertesNotees.h"
+#include "outils/Textes.h"
 
 #include <gtest/gtest.h>
 

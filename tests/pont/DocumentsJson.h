@@ -2,7 +2,7 @@
 #pragma once
 
 #include "ListeDeZones.h"
-#include "Textes.h"
+#include "outils/Textes.h"
 
 #include <QByteArray>
 #include <json/value.h>
@@ -38,7 +38,7 @@ inline std::string Liste(std::string const& zones) {
 
 /// What a document gave, and the error that ended it, if any.
 struct Lecture {
-    std::vector<ZoneLue> zones;
+    std::vector<ZoneRecue> zones;
     std::string erreur;
 };
 
@@ -46,7 +46,7 @@ inline Lecture LisTout(std::string const& document) {
     Lecture lecture;
     try {
         LisListeDeZones(document,
-                        [&](ZoneLue&& zone) { lecture.zones.push_back(std::move(zone)); });
+                        [&](ZoneRecue&& zone) { lecture.zones.push_back(std::move(zone)); });
     } catch (Json::RuntimeError const& erreur) {
         lecture.erreur = erreur.what();
     }

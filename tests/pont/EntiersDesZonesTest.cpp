@@ -13,30 +13,30 @@ namespace {
 struct Place {
     char const* nom;
     std::function<std::string(std::string const&)> zone; ///< a zone with the value there
-    std::function<long long(ZoneLue const&)> lue;
+    std::function<long long(ZoneRecue const&)> lue;
 };
 
 std::vector<Place> const& Places() {
     static std::vector<Place> const places{
         {"DebutSel", [](auto const& v) { return Zone("n", "t", Membre("DebutSel", v)); },
-         [](ZoneLue const& z) -> long long { return z.debutSel; }},
+         [](ZoneRecue const& z) -> long long { return z.debutSel; }},
         {"FinSel", [](auto const& v) { return Zone("n", "t", Membre("FinSel", v)); },
-         [](ZoneLue const& z) -> long long { return z.finSel; }},
+         [](ZoneRecue const& z) -> long long { return z.finSel; }},
         {"Debut",
          [](auto const& v) {
              return Zone("n", "t", R"("InfosStyle":[{"Debut":1},{)" + Membre("Debut", v) + "}]");
          },
-         [](ZoneLue const& z) -> long long { return static_cast<int>(z.styles.at(1).debut); }},
+         [](ZoneRecue const& z) -> long long { return static_cast<int>(z.styles.at(1).debut); }},
         {"Fin",
          [](auto const& v) {
              return Zone("n", "t", R"("InfosStyle":[{"Debut":1},{)" + Membre("Fin", v) + "}]");
          },
-         [](ZoneLue const& z) -> long long { return static_cast<int>(z.styles.at(1).Fin()); }},
+         [](ZoneRecue const& z) -> long long { return static_cast<int>(z.styles.at(1).Fin()); }},
         {"Style",
          [](auto const& v) {
              return Zone("n", "t", R"("InfosStyle":[{"Debut":1},{)" + Membre("Style", v) + "}]");
          },
-         [](ZoneLue const& z) -> long long { return z.styles.at(1).style; }},
+         [](ZoneRecue const& z) -> long long { return z.styles.at(1).style; }},
     };
     return places;
 }

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MPL-2.0
 // What an agent sends for each operation of the host: method, arguments and their types.
 #include "AgentEssai.h"
-#include "AlertesNotees.h"
 #include "AppelsNotes.h"
-#include "Textes.h"
 #include "VocalyneOpenOfficeProxyQDBUS.h"
+#include "outils/AlertesNotees.h"
+#include "outils/Textes.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 // What a zone sends, and what becomes of its own copy of the text meanwhile.
 #include "AgentEssai.h"
 #include "AppelsNotes.h"
-#include "Textes.h"
 #include "ZoneDeTexteOOoProxy.h"
+#include "outils/Textes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "IdentificateurDocument.h"
 
-#include "Textes.h"
+#include "outils/Textes.h"
 
 #include <gtest/gtest.h>
 

@@ -180,7 +180,7 @@ TEST(ZoneReader, UnknownMembersAreLeftOut) {
 TEST(ZoneReader, WhatTheReceiverThrowsEndsTheReading) {
     int recues = 0;
     EXPECT_THROW(LisListeDeZones(Liste("{},{},{}"),
-                                 [&](ZoneLue&& /*zone*/) {
+                                 [&](ZoneRecue&& /*zone*/) {
                                      if (++recues == 2)
                                          throw std::logic_error("enough");
                                  }),
@@ -194,7 +194,7 @@ TEST(ZoneReader, AHundredThousandZonesAreHandedOutInOrder) {
     for (int i = 0; i < kNombre; ++i)
         zones += (i == 0 ? "" : ",") + Zone(std::to_string(i), "texte");
     int rang = 0;
-    LisListeDeZones(Liste(zones), [&](ZoneLue&& zone) {
+    LisListeDeZones(Liste(zones), [&](ZoneRecue&& zone) {
         EXPECT_EQ(rang, zone.nom.VersQString().toInt());
         ++rang;
     });

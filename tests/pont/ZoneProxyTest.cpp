@@ -3,8 +3,8 @@
 #include "ZoneDeTexteOOoProxy.h"
 
 #include "AgentEssai.h"
-#include "Textes.h"
 #include "VocalyneOpenOfficeProxyQDBUS.h"
+#include "outils/Textes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
 // What a connector that overrides nothing answers.
-#include "ConnecteurMuet.h"
 #include "ImageCommune.h"
 #include "InitialisationGenerale.h"
-#include "Textes.h"
+#include "outils/ConnecteurMuet.h"
+#include "outils/Textes.h"
 
 #include <QCoreApplication>
 #include <gtest/gtest.h>

@@ -2,9 +2,9 @@
 // The toolkit's alerts where no catalog was loaded: the messages' own French text.
 #include "AlertesConnecteur.h"
 
-#include "AlertesNotees.h"
-#include "Textes.h"
 #include "domaineTexteur.h"
+#include "outils/AlertesNotees.h"
+#include "outils/Textes.h"
 
 #include <gtest/gtest.h>
 

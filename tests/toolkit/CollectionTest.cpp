@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "CollectionZonesDeTexte.h"
 
-#include "ConnecteurMuet.h"
 #include "ImplZoneDeTexteTEMP.h"
 #include "MAJCollectionZoneTexte.h"
+#include "outils/ConnecteurMuet.h"
 
 #include <gtest/gtest.h>
 

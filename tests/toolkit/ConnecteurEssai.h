@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "ConnecteurMuet.h"
-#include "Textes.h"
+#include "outils/ConnecteurMuet.h"
+#include "outils/Textes.h"
 
 #include <functional>
 #include <optional>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "ConnecteurMuet.h"
-#include "Textes.h"
+#include "outils/ConnecteurMuet.h"
+#include "outils/Textes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Appels.h"
 
-#include "Chaines.h"
-#include "Erreur.h"
+#include "commun/ChainesUno.h"
+#include "commun/ErreurDuService.h"
 
 #include <com/sun/star/lang/DisposedException.hpp>
 #include <com/sun/star/uno/Exception.hpp>
@@ -12,11 +12,11 @@
 
 using namespace com::sun::star;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
-constexpr char kPrefixeErreur[] = "com.ombrel.vocalyne.texteurs.Erreur.";
+constexpr char kPrefixeErreur[] = "com.ombrel.vocalyne.texteurs.ErreurDuService.";
 
 } // namespace
 
@@ -64,7 +64,7 @@ void Appels::Sert(GDBusMethodInvocation* invocation, std::chrono::milliseconds d
             try {
                 GVariant* const resultat = travail(*service_, appelant);
                 g_dbus_method_invocation_return_value(ici->invocation, resultat);
-            } catch (Erreur const& erreur) {
+            } catch (ErreurDuService const& erreur) {
                 RepondsErreur(ici->invocation, erreur.Nom().c_str(), erreur.what());
             } catch (lang::DisposedException const&) {
                 RepondsErreur(ici->invocation, "DocumentFerme", "the document is being closed");
@@ -131,4 +131,4 @@ void Appels::Ferme() {
     }
 }
 
-} // namespace bureau
+} // namespace extension

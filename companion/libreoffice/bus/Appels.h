@@ -2,7 +2,7 @@
 #pragma once
 
 #include "FilPrincipal.h"
-#include "Service.h"
+#include "service/Service.h"
 
 #include <gio/gio.h>
 
@@ -12,7 +12,7 @@
 #include <mutex>
 #include <set>
 
-namespace bureau {
+namespace extension {
 
 /// Carries the calls of the bus over to the main thread and their answers back. Each call is
 /// answered exactly once: with its result, with the error that it met, or, when the main thread
@@ -52,4 +52,4 @@ class Appels {
 /// Answers with an error of ours.
 void RepondsErreur(GDBusMethodInvocation* invocation, char const* nom, char const* message);
 
-} // namespace bureau
+} // namespace extension

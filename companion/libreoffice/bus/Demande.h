@@ -5,7 +5,7 @@
 #include <mutex>
 #include <utility>
 
-namespace bureau {
+namespace extension {
 
 /// Work asked of the main thread that may be given up until it starts, and never after. One lock
 /// decides: a caller who was told "too late" can rely on nothing happening any more, and work that
@@ -48,4 +48,4 @@ class Demande {
     std::function<void()> travail_;
 };
 
-} // namespace bureau
+} // namespace extension

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "EtatDuBus.h"
 
-#include "Messages.h"
+#include "commun/MessagesExtension.h"
 
-namespace bureau {
+namespace extension {
 
 std::string PourLeJournal(EtatDuBus const& etat, std::string const& nom) {
     switch (etat.genre) {
@@ -64,4 +64,4 @@ std::string RemedeDuBus(EtatDuBus const& etat, std::string const& nom) {
     return {};
 }
 
-} // namespace bureau
+} // namespace extension

@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace bureau {
+namespace extension {
 
 /// How the extension stands on the session bus.
 struct EtatDuBus {
@@ -20,4 +20,4 @@ std::string PourLeJournal(EtatDuBus const& etat, std::string const& nom);
 /// What is wrong and what to do about it, in the person's language; empty when all is well. UTF-8.
 std::string RemedeDuBus(EtatDuBus const& etat, std::string const& nom);
 
-} // namespace bureau
+} // namespace extension

@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <utility>
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -261,4 +261,4 @@ void FilDuBus::Deconnecte() {
     appels_->Poste([](Service& service) { service.OublieTous(); });
 }
 
-} // namespace bureau
+} // namespace extension

@@ -13,7 +13,7 @@
 #include <string>
 #include <thread>
 
-namespace bureau {
+namespace extension {
 
 /// The session bus's address; empty without one. GLib would start a bus of its own then: not for us
 /// to do. Any thread.
@@ -67,4 +67,4 @@ class FilDuBus {
     std::thread fil_;
 };
 
-} // namespace bureau
+} // namespace extension

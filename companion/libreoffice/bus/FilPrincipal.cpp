@@ -9,7 +9,7 @@
 
 using namespace com::sun::star;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -35,4 +35,4 @@ void FilPrincipal::Poste(std::shared_ptr<Demande> demande) {
     file_->addCallback(new Rappel(std::move(demande)), uno::Any());
 }
 
-} // namespace bureau
+} // namespace extension

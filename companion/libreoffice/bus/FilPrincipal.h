@@ -8,7 +8,7 @@
 
 #include <memory>
 
-namespace bureau {
+namespace extension {
 
 /// The only way to a document: the office's main thread, through its event queue. Never waits and
 /// never takes the office's lock on the calling thread.
@@ -27,4 +27,4 @@ class FilPrincipal {
     com::sun::star::uno::Reference<com::sun::star::awt::XRequestCallback> file_;
 };
 
-} // namespace bureau
+} // namespace extension

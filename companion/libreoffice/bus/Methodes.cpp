@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Methodes.h"
 
-#include "Chaines.h"
-#include "Utf.h"
+#include "commun/ChainesUno.h"
+#include "modele/Utf.h"
 #include "squelette.h"
 
 #include <string>
@@ -10,7 +10,7 @@
 
 using compagnon::Intervalle;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -241,4 +241,4 @@ void Methodes::Retire() {
     }
 }
 
-} // namespace bureau
+} // namespace extension

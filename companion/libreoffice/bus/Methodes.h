@@ -5,7 +5,7 @@
 
 #include <chrono>
 
-namespace bureau {
+namespace extension {
 
 /// How long calls wait for a busy main thread before they are given up.
 struct Delais {
@@ -42,4 +42,4 @@ class Methodes {
     GDBusInterfaceSkeleton* documents_;
 };
 
-} // namespace bureau
+} // namespace extension

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "CasesDeFeuille.h"
 
-#include "Chaines.h"
-#include "Ecritures.h"
-#include "StyleDeLettres.h"
+#include "commun/ChainesUno.h"
+#include "lecture/Ecritures.h"
+#include "lecture/StyleDeLettres.h"
 
 #include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/beans/XPropertySet.hpp>
@@ -29,7 +29,7 @@ using namespace com::sun::star;
 using rtl::OUString;
 using Adresses = uno::Sequence<table::CellRangeAddress>;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -241,4 +241,4 @@ std::vector<CaseDeFeuille> CasesDeFeuille(uno::Reference<sheet::XSpreadsheet> co
     return Recolte(feuille).Fais();
 }
 
-} // namespace bureau
+} // namespace extension

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace bureau {
+namespace extension {
 
 /// Something to read in a cell of a sheet: its text, or its comment.
 struct CaseDeFeuille {
@@ -25,4 +25,4 @@ struct CaseDeFeuille {
 std::vector<CaseDeFeuille>
 CasesDeFeuille(com::sun::star::uno::Reference<com::sun::star::sheet::XSpreadsheet> const& feuille);
 
-} // namespace bureau
+} // namespace extension

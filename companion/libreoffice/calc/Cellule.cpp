@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Cellule.h"
 
-#include "Chaines.h"
-#include "EditionEnCours.h"
-#include "Erreur.h"
-#include "StyleDeLettres.h"
+#include "commun/ChainesUno.h"
+#include "commun/ErreurDuService.h"
+#include "dessin/EditionEnCours.h"
+#include "lecture/StyleDeLettres.h"
 
 #include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/beans/XPropertySet.hpp>
@@ -26,7 +26,7 @@
 using namespace com::sun::star;
 using rtl::OUString;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -159,4 +159,4 @@ void Cellule::Selectionne() {
     vue->select(uno::Any(Objet()));
 }
 
-} // namespace bureau
+} // namespace extension

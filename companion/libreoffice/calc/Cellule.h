@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "TexteDessine.h"
+#include "dessin/TexteDessine.h"
 
 #include <com/sun/star/table/CellAddress.hpp>
 
 #include <optional>
 
-namespace bureau {
+namespace extension {
 
 /// A spreadsheet's cell with text; a zone for each of its paragraphs. The office keeps the object
 /// it was made for on the same cell while rows and columns come and go. Main thread only.
@@ -40,4 +40,4 @@ class Cellule : public TexteDessine {
     com::sun::star::uno::Any FormatDeTexte() const;
 };
 
-} // namespace bureau
+} // namespace extension

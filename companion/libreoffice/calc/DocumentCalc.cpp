@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "DocumentCalc.h"
 
-#include "ChoixCalc.h"
+#include "SelectionCalc.h"
 
-namespace bureau {
+namespace extension {
 
 void DocumentCalc::ParcoursZones(Recueil const& recueil) {
     cellules_ = ParcoursCalc(Modele(), Carnet(), cellules_, recueil).Parcours();
 }
 
-std::unique_ptr<Choix> DocumentCalc::LisChoixDuBureau() {
+std::unique_ptr<SelectionVue> DocumentCalc::LisChoixDuBureau() {
     return LisChoixCalc(Modele(), cellules_);
 }
 
-} // namespace bureau
+} // namespace extension

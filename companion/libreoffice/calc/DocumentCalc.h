@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "DocumentOuvert.h"
 #include "ParcoursCalc.h"
+#include "document/DocumentOuvert.h"
 
-namespace bureau {
+namespace extension {
 
 /// A spreadsheet document.
 class DocumentCalc : public DocumentOuvert {
@@ -13,10 +13,10 @@ class DocumentCalc : public DocumentOuvert {
 
   protected:
     void ParcoursZones(Recueil const& recueil) override;
-    std::unique_ptr<Choix> LisChoixDuBureau() override;
+    std::unique_ptr<SelectionVue> LisChoixDuBureau() override;
 
   private:
     Cellules cellules_; // met in the last walk
 };
 
-} // namespace bureau
+} // namespace extension

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "ParcoursCalc.h"
 
-#include "ParcoursFormes.h"
-#include "TexteDeForme.h"
+#include "dessin/ParcoursFormes.h"
+#include "dessin/TexteDeForme.h"
 
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/container/XIndexAccess.hpp>
@@ -13,7 +13,7 @@
 
 using namespace com::sun::star;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -110,4 +110,4 @@ void ParcoursCalc::LisCommentaire(Feuille const& feuille, CaseDeFeuille const& e
     }
 }
 
-} // namespace bureau
+} // namespace extension

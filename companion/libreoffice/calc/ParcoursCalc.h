@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "CarnetDeZones.h"
 #include "CasesDeFeuille.h"
 #include "Cellule.h"
+#include "document/CarnetDeZones.h"
 
 #include <cstdint>
 #include <unordered_map>
 #include <vector>
 
-namespace bureau {
+namespace extension {
 
 /// The cells whose zones were given out, in reading order.
 using Cellules = std::vector<std::shared_ptr<Cellule>>;
@@ -42,4 +42,4 @@ class ParcoursCalc {
     Cellules vues_;
 };
 
-} // namespace bureau
+} // namespace extension

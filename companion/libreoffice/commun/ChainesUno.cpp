@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Chaines.h"
+#include "ChainesUno.h"
 
-#include "Utf.h"
+#include "modele/Utf.h"
 
-namespace bureau {
+namespace extension {
 
 std::string EnUtf8(rtl::OUString const& chaine) {
     return compagnon::Utf16VersUtf8(Vue(chaine));
@@ -13,4 +13,4 @@ std::u16string DepuisUtf8(char const* octets) {
     return compagnon::Utf8VersUtf16(octets).value_or(std::u16string());
 }
 
-} // namespace bureau
+} // namespace extension

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace bureau {
+namespace extension {
 
 /// A view of the office's string, valid as long as it lives.
 inline std::u16string_view Vue(rtl::OUString const& chaine) noexcept {
@@ -28,4 +28,4 @@ std::string EnUtf8(rtl::OUString const& chaine);
 /// Text that came from the bus, which lets through nothing but UTF-8.
 std::u16string DepuisUtf8(char const* octets);
 
-} // namespace bureau
+} // namespace extension

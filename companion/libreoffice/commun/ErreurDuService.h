@@ -4,12 +4,12 @@
 #include <stdexcept>
 #include <string>
 
-namespace bureau {
+namespace extension {
 
 /// Why a call is answered with an error. `Nom` is the last element of the D-Bus error's name.
-class Erreur : public std::runtime_error {
+class ErreurDuService : public std::runtime_error {
   public:
-    Erreur(std::string nom, std::string const& message)
+    ErreurDuService(std::string nom, std::string const& message)
         : std::runtime_error(message)
         , nom_(std::move(nom)) {}
 
@@ -19,14 +19,14 @@ class Erreur : public std::runtime_error {
     std::string nom_;
 };
 
-inline Erreur DocumentInconnu() {
+inline ErreurDuService DocumentInconnu() {
     return {"DocumentInconnu", "no open document of this office has that identifier"};
 }
-inline Erreur ZoneInconnue() {
+inline ErreurDuService ZoneInconnue() {
     return {"ZoneInconnue", "that zone is not, or no longer, in an open document"};
 }
-inline Erreur Refuse(std::string const& raison) {
+inline ErreurDuService Refuse(std::string const& raison) {
     return {"Refuse", raison};
 }
 
-} // namespace bureau
+} // namespace extension

@@ -3,7 +3,7 @@
 
 #include <random>
 
-namespace bureau {
+namespace extension {
 
 std::string HasardHexadecimal() {
     static constexpr char kChiffres[] = "0123456789abcdef";
@@ -15,4 +15,4 @@ std::string HasardHexadecimal() {
     return chiffres;
 }
 
-} // namespace bureau
+} // namespace extension

@@ -3,9 +3,9 @@
 
 #include <string>
 
-namespace bureau {
+namespace extension {
 
 /// Sixteen hexadecimal digits that no other call, in this process or another, is likely to give.
 std::string HasardHexadecimal();
 
-} // namespace bureau
+} // namespace extension

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Messages.h"
+#include "MessagesExtension.h"
 
-#include "Frontieres.h"
+#include "modele/Frontieres.h"
 
 #include <algorithm>
 #include <atomic>
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -48,4 +48,4 @@ std::u16string NomDeCorrection(std::u16string const& avant, std::u16string const
     return u"Correction: \u201c" + Abrege(avant) + u"\u201d to \u201c" + Abrege(apres) + u"\u201d";
 }
 
-} // namespace bureau
+} // namespace extension

@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace bureau {
+namespace extension {
 
 /// The office's language for people is French? Read once, at the start.
 bool EstEnFrancais();
@@ -15,4 +15,4 @@ std::string Dis(char const* enFrancais, char const* enAnglais);
 /// The name of a correction in the undo list.
 std::u16string NomDeCorrection(std::u16string const& avant, std::u16string const& apres);
 
-} // namespace bureau
+} // namespace extension

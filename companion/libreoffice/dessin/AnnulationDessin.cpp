@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "AnnulationDessin.h"
 
-#include "Chaines.h"
 #include "TexteDessine.h"
+#include "commun/ChainesUno.h"
 
 #include <com/sun/star/document/UndoFailedException.hpp>
 #include <com/sun/star/document/XUndoAction.hpp>
@@ -14,7 +14,7 @@
 
 using namespace com::sun::star;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -63,4 +63,4 @@ void AjouteAnnulation(std::shared_ptr<TexteDessine> const& texte, std::size_t ra
     document->getUndoManager()->addUndoAction(new Annulation(texte, rang, correction));
 }
 
-} // namespace bureau
+} // namespace extension

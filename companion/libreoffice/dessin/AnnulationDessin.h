@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "ZoneOuverte.h"
+#include "document/ZoneOuverte.h"
 
 #include <cstddef>
 #include <memory>
 
-namespace bureau {
+namespace extension {
 
 class TexteDessine;
 
@@ -15,4 +15,4 @@ class TexteDessine;
 void AjouteAnnulation(std::shared_ptr<TexteDessine> const& texte, std::size_t rang,
                       CorrectionPrete const& correction);
 
-} // namespace bureau
+} // namespace extension

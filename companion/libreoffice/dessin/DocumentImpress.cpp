@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "DocumentImpress.h"
 
-#include "ChoixDessine.h"
 #include "ParcoursFormes.h"
+#include "SelectionDessinee.h"
 #include "TexteDeForme.h"
 
 #include <com/sun/star/container/XEnumeration.hpp>
@@ -12,7 +12,7 @@
 
 using namespace com::sun::star;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -54,11 +54,11 @@ void DocumentImpress::ParcoursZones(Recueil const& recueil) {
     }
 }
 
-std::unique_ptr<Choix> DocumentImpress::LisChoixDuBureau() {
+std::unique_ptr<SelectionVue> DocumentImpress::LisChoixDuBureau() {
     uno::Reference<uno::XInterface> const selection = Modele()->getCurrentSelection();
     // While a person edits a text: the range that is selected in it.
     uno::Reference<text::XTextRange> const plage(selection, uno::UNO_QUERY);
     return plage.is() ? ChoixDansUneForme(plage) : ChoixDeFormes(selection);
 }
 
-} // namespace bureau
+} // namespace extension

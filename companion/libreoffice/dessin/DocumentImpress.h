@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "DocumentOuvert.h"
+#include "document/DocumentOuvert.h"
 
-namespace bureau {
+namespace extension {
 
 /// A presentation or a drawing: page by page its shapes, its comments, its notes.
 class DocumentImpress : public DocumentOuvert {
@@ -12,7 +12,7 @@ class DocumentImpress : public DocumentOuvert {
 
   protected:
     void ParcoursZones(Recueil const& recueil) override;
-    std::unique_ptr<Choix> LisChoixDuBureau() override;
+    std::unique_ptr<SelectionVue> LisChoixDuBureau() override;
 };
 
-} // namespace bureau
+} // namespace extension

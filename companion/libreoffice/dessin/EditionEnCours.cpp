@@ -8,11 +8,11 @@
 
 using namespace com::sun::star;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
-class Etat : public cppu::WeakImplHelper1<frame::XStatusListener> {
+class EcouteurDEtat : public cppu::WeakImplHelper1<frame::XStatusListener> {
   public:
     void SAL_CALL statusChanged(frame::FeatureStateEvent const& etat) override {
         possible = etat.IsEnabled != sal_False;
@@ -43,11 +43,11 @@ bool EstEnTrainDeTaper(uno::Reference<frame::XController> const& vue, Frappe fra
     if (!commande.is()) {
         return false;
     }
-    auto* const etat = new Etat;
+    auto* const etat = new EcouteurDEtat;
     uno::Reference<frame::XStatusListener> const ecoute(etat);
     commande->addStatusListener(ecoute, adresse); // tells the state before it returns
     commande->removeStatusListener(ecoute, adresse);
     return etat->possible;
 }
 
-} // namespace bureau
+} // namespace extension

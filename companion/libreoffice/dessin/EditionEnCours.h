@@ -3,7 +3,7 @@
 
 #include <com/sun/star/frame/XController.hpp>
 
-namespace bureau {
+namespace extension {
 
 enum class Frappe { DansUneCellule, DansUneForme };
 
@@ -13,4 +13,4 @@ enum class Frappe { DansUneCellule, DansUneForme };
 bool EstEnTrainDeTaper(
     com::sun::star::uno::Reference<com::sun::star::frame::XController> const& vue, Frappe frappe);
 
-} // namespace bureau
+} // namespace extension

@@ -13,7 +13,7 @@
 using namespace com::sun::star;
 using rtl::OUString;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -86,4 +86,4 @@ void ParcoursFormes(uno::Reference<drawing::XShapes> const& formes, FondDeFormes
     }
 }
 
-} // namespace bureau
+} // namespace extension

@@ -7,7 +7,7 @@
 
 #include <functional>
 
-namespace bureau {
+namespace extension {
 
 /// What a walk over shapes needs to know.
 struct FondDeFormes {
@@ -23,4 +23,4 @@ struct FondDeFormes {
 void ParcoursFormes(com::sun::star::uno::Reference<com::sun::star::drawing::XShapes> const& formes,
                     FondDeFormes const& fond);
 
-} // namespace bureau
+} // namespace extension

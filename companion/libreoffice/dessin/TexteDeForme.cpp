@@ -2,7 +2,7 @@
 #include "TexteDeForme.h"
 
 #include "EditionEnCours.h"
-#include "Erreur.h"
+#include "commun/ErreurDuService.h"
 
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/container/XChild.hpp>
@@ -18,7 +18,7 @@
 
 using namespace com::sun::star;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -119,4 +119,4 @@ std::shared_ptr<TexteDessine> TexteDeForme(uno::Reference<uno::XInterface> const
     return std::make_shared<Forme>(texte, porteur, modele, std::move(contenant));
 }
 
-} // namespace bureau
+} // namespace extension

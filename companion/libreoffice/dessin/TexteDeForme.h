@@ -3,7 +3,7 @@
 
 #include "TexteDessine.h"
 
-namespace bureau {
+namespace extension {
 
 /// A text of the drawing engine: a shape's, a cell's of a table on a slide, a comment's of a slide
 /// or spreadsheet. `porteur`: what is selected, or for a page brought into view, with it.
@@ -13,4 +13,4 @@ TexteDeForme(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> con
              com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& modele,
              std::shared_ptr<Contenant const> contenant);
 
-} // namespace bureau
+} // namespace extension

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "TexteDessine.h"
 
-#include "Alignement.h"
 #include "AnnulationDessin.h"
-#include "Chaines.h"
-#include "Curseur.h"
-#include "Erreur.h"
-#include "PlaceParmi.h"
+#include "commun/ChainesUno.h"
+#include "commun/ErreurDuService.h"
+#include "lecture/Curseur.h"
+#include "lecture/PlaceParmi.h"
+#include "modele/ParagraphesRetrouves.h"
 
 #include <com/sun/star/container/XEnumerationAccess.hpp>
 #include <com/sun/star/text/XTextRangeCompare.hpp>
@@ -17,7 +17,7 @@
 using namespace com::sun::star;
 using compagnon::PlanDePortions;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -83,7 +83,7 @@ void TexteDessine::Accueille(std::vector<ParagrapheLu> const& lus, CarnetDeZones
     for (ParagrapheLu const& lu : lus) {
         textes.push_back(lu.plan.DonneTexte());
     }
-    auto const origine = compagnon::AligneParagraphes(textes_, textes);
+    auto const origine = compagnon::RetrouveParagraphes(textes_, textes);
     std::vector<std::shared_ptr<ParagrapheDessine>> zones(lus.size());
     for (std::size_t i = 0; i < zones.size(); ++i) {
         if (origine[i]) {
@@ -242,4 +242,4 @@ void ParcoursTexteDessine(uno::Reference<uno::XInterface> const& objet,
     DonneZones(*texte, texte->Relis(carnet), recueil);
 }
 
-} // namespace bureau
+} // namespace extension

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "CarnetDeZones.h"
-#include "Contenant.h"
-#include "Intervalle.h"
-#include "LecteurPortions.h"
-#include "ZoneOuverte.h"
+#include "document/CarnetDeZones.h"
+#include "document/Contenant.h"
+#include "document/ZoneOuverte.h"
+#include "lecture/LecteurPortions.h"
+#include "modele/Intervalle.h"
 
 #include <com/sun/star/frame/XModel.hpp>
 #include <com/sun/star/text/XText.hpp>
@@ -16,7 +16,7 @@
 #include <string>
 #include <vector>
 
-namespace bureau {
+namespace extension {
 
 class ParagrapheDessine;
 
@@ -100,7 +100,8 @@ class ParagrapheDessine : public ZoneOuverte {
     void Selectionne(compagnon::PlanDePortions const& plan, std::size_t debut,
                      std::size_t fin) override;
 
-    /// The text that it is a paragraph of; throws `Erreur` when that has left the document.
+    /// The text that it is a paragraph of; throws `ErreurDuService` when that has left the
+    /// document.
     std::shared_ptr<TexteDessine> Texte() const;
     std::size_t Rang() const noexcept { return rang_; }
 
@@ -121,4 +122,4 @@ void ParcoursTexteDessine(
     std::function<std::shared_ptr<TexteDessine>()> const& fabrique, CarnetDeZones& carnet,
     TexteDessine::Recueil const& recueil);
 
-} // namespace bureau
+} // namespace extension

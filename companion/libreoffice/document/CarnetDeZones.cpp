@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "CarnetDeZones.h"
 
-#include "TexteDessine.h"
+#include "dessin/TexteDessine.h"
 
 using namespace com::sun::star;
 
-namespace bureau {
+namespace extension {
 
 std::string CarnetDeZones::NouvelleCle() {
     return prefixe_ + ":" + std::to_string(++derniere_);
@@ -84,4 +84,4 @@ void CarnetDeZones::Termine() {
     }
 }
 
-} // namespace bureau
+} // namespace extension

@@ -11,7 +11,7 @@
 #include <string>
 #include <unordered_map>
 
-namespace bureau {
+namespace extension {
 
 class TexteDessine;
 
@@ -67,4 +67,4 @@ class CarnetDeZones {
     std::unordered_map<std::string, std::shared_ptr<ZoneOuverte>> parCle_;
 };
 
-} // namespace bureau
+} // namespace extension

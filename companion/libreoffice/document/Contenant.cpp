@@ -6,7 +6,7 @@
 using namespace com::sun::star;
 using rtl::OUString;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -61,4 +61,4 @@ bool EstDansSectionNonLue(uno::Reference<beans::XPropertySet> const& paragraphe)
     });
 }
 
-} // namespace bureau
+} // namespace extension

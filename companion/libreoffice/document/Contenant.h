@@ -7,7 +7,7 @@
 
 #include <memory>
 
-namespace bureau {
+namespace extension {
 
 /// The text that a paragraph stands in (the body, a cell, a note, a frame) and what protects it.
 struct Contenant {
@@ -32,4 +32,4 @@ bool EstDansSectionProtegee(
 bool EstDansSectionNonLue(
     com::sun::star::uno::Reference<com::sun::star::beans::XPropertySet> const& paragraphe);
 
-} // namespace bureau
+} // namespace extension

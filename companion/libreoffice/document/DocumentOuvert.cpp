@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "DocumentOuvert.h"
 
-#include "Chaines.h"
-#include "Erreur.h"
+#include "commun/ChainesUno.h"
+#include "commun/ErreurDuService.h"
 
 #include <com/sun/star/awt/XTopWindow.hpp>
 #include <com/sun/star/awt/XWindow.hpp>
@@ -17,7 +17,7 @@
 using namespace com::sun::star;
 using compagnon::Intervalle;
 
-namespace bureau {
+namespace extension {
 
 DocumentOuvert::DocumentOuvert(uno::Reference<frame::XModel> const& modele, std::string cle)
     : modele_(modele)
@@ -66,28 +66,29 @@ void DocumentOuvert::Active() const {
     }
 }
 
-std::unique_ptr<Choix> DocumentOuvert::LisChoix() {
-    std::unique_ptr<Choix> choix = LisChoixDuBureau();
+std::unique_ptr<SelectionVue> DocumentOuvert::LisChoix() {
+    std::unique_ptr<SelectionVue> choix = LisChoixDuBureau();
     if (retenue_) {
         if (choix && EstEncore(*retenue_, *choix)) {
-            return std::make_unique<ChoixRetenu>(carnet_.ParCle(retenue_->cle), retenue_->plage);
+            return std::make_unique<SelectionRetenue>(carnet_.ParCle(retenue_->cle),
+                                                      retenue_->plage);
         }
         retenue_.reset();
     }
     return choix;
 }
 
-bool DocumentOuvert::EstEncore(Retenue const& retenue, Choix& choix) const {
+bool DocumentOuvert::EstEncore(Retenue const& retenue, SelectionVue& choix) const {
     std::shared_ptr<ZoneOuverte> const zone = carnet_.ParCle(retenue.cle);
     try {
         return zone && choix.EstEntier(*zone) && zone->Lis().DonneTexte() == retenue.texte;
-    } catch (Erreur const&) {
+    } catch (ErreurDuService const&) {
         return false; // it left the document
     }
 }
 
 void DocumentOuvert::Parcours(Visiteur const& visiteur) {
-    std::unique_ptr<Choix> const choix = LisChoix();
+    std::unique_ptr<SelectionVue> const choix = LisChoix();
     carnet_.Commence();
     ParcoursZones([&](std::shared_ptr<ZoneOuverte> const& zone, compagnon::PlanDePortions&& plan) {
         auto const choisi = choix ? choix->Dans(*zone, plan) : std::nullopt;
@@ -97,7 +98,7 @@ void DocumentOuvert::Parcours(Visiteur const& visiteur) {
 }
 
 std::optional<ZoneLue> DocumentOuvert::DonneSelection() {
-    std::unique_ptr<Choix> choix = LisChoix();
+    std::unique_ptr<SelectionVue> choix = LisChoix();
     if (!choix) {
         return std::nullopt;
     }
@@ -124,4 +125,4 @@ void DocumentOuvert::Selectionne(ZoneOuverte& zone, compagnon::PlanDePortions co
     retenue_ = Retenue{zone.Cle(), plan.DonneTexte(), plage};
 }
 
-} // namespace bureau
+} // namespace extension

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "CarnetDeZones.h"
-#include "Choix.h"
+#include "SelectionVue.h"
 
 #include <com/sun/star/frame/XModel.hpp>
 
@@ -11,7 +11,7 @@
 #include <optional>
 #include <string>
 
-namespace bureau {
+namespace extension {
 
 /// A zone with what it holds now.
 struct ZoneLue {
@@ -65,7 +65,7 @@ class DocumentOuvert {
 
     virtual void ParcoursZones(Recueil const& recueil) = 0;
     /// What is selected now; null for nothing with a text.
-    virtual std::unique_ptr<Choix> LisChoixDuBureau() = 0;
+    virtual std::unique_ptr<SelectionVue> LisChoixDuBureau() = 0;
 
     CarnetDeZones& Carnet() noexcept { return carnet_; }
 
@@ -77,8 +77,8 @@ class DocumentOuvert {
         compagnon::Intervalle plage;
     };
 
-    std::unique_ptr<Choix> LisChoix();
-    bool EstEncore(Retenue const& retenue, Choix& choix) const;
+    std::unique_ptr<SelectionVue> LisChoix();
+    bool EstEncore(Retenue const& retenue, SelectionVue& choix) const;
 
     com::sun::star::uno::Reference<com::sun::star::frame::XModel> modele_;
     std::string cle_;
@@ -86,4 +86,4 @@ class DocumentOuvert {
     std::optional<Retenue> retenue_;
 };
 
-} // namespace bureau
+} // namespace extension

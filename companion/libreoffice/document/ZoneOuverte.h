@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "PlanDePortions.h"
+#include "modele/PlanDePortions.h"
 
 #include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>
 
-namespace bureau {
+namespace extension {
 
 /// A correction whose every condition has been checked.
 struct CorrectionPrete {
@@ -20,7 +20,7 @@ struct CorrectionPrete {
 };
 
 /// One paragraph of an open document, as long as it lives there. Main thread only. Every operation
-/// may throw a UNO exception, or `Erreur` when the paragraph has left the document.
+/// may throw a UNO exception, or `ErreurDuService` when the paragraph has left the document.
 class ZoneOuverte {
   public:
     explicit ZoneOuverte(std::string cle)
@@ -57,4 +57,4 @@ class ZoneOuverte {
     std::string cle_;
 };
 
-} // namespace bureau
+} // namespace extension

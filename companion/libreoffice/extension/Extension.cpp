@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Extension.h"
 
-#include "Ecritures.h"
-#include "Hasard.h"
-#include "Messages.h"
+#include "commun/Hasard.h"
+#include "commun/MessagesExtension.h"
+#include "lecture/Ecritures.h"
 
 #include <com/sun/star/beans/PropertyValue.hpp>
 #include <com/sun/star/container/XNameAccess.hpp>
@@ -19,7 +19,7 @@
 
 using namespace com::sun::star;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -142,4 +142,4 @@ std::string Extension::Identifiant(uno::Reference<frame::XModel> const& modele) 
     return document ? service_->Identifiant(*document) : std::string();
 }
 
-} // namespace bureau
+} // namespace extension

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "FilDuBus.h"
-#include "Service.h"
+#include "bus/FilDuBus.h"
+#include "service/Service.h"
 
 #include <com/sun/star/frame/XModel.hpp>
 #include <com/sun/star/uno/XComponentContext.hpp>
@@ -11,7 +11,7 @@
 #include <memory>
 #include <string>
 
-namespace bureau {
+namespace extension {
 
 /// The extension in one running office.
 class Extension {
@@ -41,4 +41,4 @@ class Extension {
     std::unique_ptr<FilDuBus> fil_;
 };
 
-} // namespace bureau
+} // namespace extension

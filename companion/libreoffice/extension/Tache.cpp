@@ -22,7 +22,7 @@ class Tache : public cppu::WeakImplHelper2<task::XJob, lang::XServiceInfo> {
 
     uno::Any SAL_CALL execute(uno::Sequence<beans::NamedValue> const& /*arguments*/) override {
         try {
-            bureau::Extension::Demarre(contexte_);
+            extension::Extension::Demarre(contexte_);
         } catch (uno::Exception const& erreur) {
             // A document must open even where this extension cannot work.
             std::fprintf(stderr, "vocalyne: cannot start: %s\n",

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Curseur.h"
 
-#include "Frontieres.h"
+#include "modele/Frontieres.h"
 
 #include <algorithm>
 
 using namespace com::sun::star;
 
-namespace bureau {
+namespace extension {
 
 std::size_t CompteLesPas(std::u16string_view lettres, Pas pas) noexcept {
     if (pas == Pas::Unites) {
@@ -37,4 +37,4 @@ uno::Reference<text::XTextCursor> PlaceCurseur(uno::Reference<text::XText> const
     return curseur;
 }
 
-} // namespace bureau
+} // namespace extension

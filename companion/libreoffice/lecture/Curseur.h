@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <string_view>
 
-namespace bureau {
+namespace extension {
 
 /// How a cursor of the office counts its steps inside letters.
 enum class Pas { PointsDeCode, Unites };
@@ -25,4 +25,4 @@ PlaceCurseur(com::sun::star::uno::Reference<com::sun::star::text::XText> const& 
              com::sun::star::uno::Reference<com::sun::star::text::XTextRange> const& depart,
              std::size_t nombre);
 
-} // namespace bureau
+} // namespace extension

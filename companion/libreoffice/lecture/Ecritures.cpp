@@ -9,7 +9,7 @@
 
 using namespace com::sun::star;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -66,4 +66,4 @@ std::vector<SuiteDEcriture> DonneEcritures(rtl::OUString const& texte) {
     return suites;
 }
 
-} // namespace bureau
+} // namespace extension

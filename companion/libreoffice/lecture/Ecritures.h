@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace bureau {
+namespace extension {
 
 /// The three kinds of script that the office keeps formats and languages apart for.
 enum class Ecriture { Latine, Asiatique, Complexe };
@@ -28,4 +28,4 @@ bool EstToutLatin(std::u16string_view texte) noexcept;
 /// The text's scripts as the office sees them; what has none goes with what stands before.
 std::vector<SuiteDEcriture> DonneEcritures(rtl::OUString const& texte);
 
-} // namespace bureau
+} // namespace extension

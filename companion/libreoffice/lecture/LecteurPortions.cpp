@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "LecteurPortions.h"
 
-#include "Chaines.h"
 #include "Ecritures.h"
 #include "StyleDeLettres.h"
+#include "commun/ChainesUno.h"
 
 #include <com/sun/star/beans/PropertyValue.hpp>
 #include <com/sun/star/beans/XMultiPropertySet.hpp>
@@ -17,7 +17,7 @@ using namespace com::sun::star;
 using compagnon::GenrePortion;
 using rtl::OUString;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -177,4 +177,4 @@ void LecteurPortions::LisSuite(uno::Reference<container::XEnumerationAccess> con
     }
 }
 
-} // namespace bureau
+} // namespace extension

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "PlanDePortions.h"
+#include "modele/PlanDePortions.h"
 
 #include <com/sun/star/container/XEnumerationAccess.hpp>
 #include <com/sun/star/text/XTextRange.hpp>
@@ -9,7 +9,7 @@
 
 #include <vector>
 
-namespace bureau {
+namespace extension {
 
 /// Something met inside a paragraph that holds text of its own.
 struct Rencontre {
@@ -46,4 +46,4 @@ class LecteurPortions {
     com::sun::star::uno::Sequence<rtl::OUString> proprietes_;
 };
 
-} // namespace bureau
+} // namespace extension

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "PlaceParmi.h"
 
-#include "Chaines.h"
 #include "Curseur.h"
+#include "commun/ChainesUno.h"
 
 #include <com/sun/star/text/XTextRangeCompare.hpp>
 
 using namespace com::sun::star;
 
-namespace bureau {
+namespace extension {
 
 compagnon::PlaceDansPortion
 PlaceParmi(std::vector<uno::Reference<text::XTextRange>> const& etendues,
@@ -37,4 +37,4 @@ PlaceParmi(std::vector<uno::Reference<text::XTextRange>> const& etendues,
     return {portion, lettres};
 }
 
-} // namespace bureau
+} // namespace extension

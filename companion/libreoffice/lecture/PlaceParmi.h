@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "PlanDePortions.h"
+#include "modele/PlanDePortions.h"
 
 #include <com/sun/star/text/XText.hpp>
 
 #include <vector>
 
-namespace bureau {
+namespace extension {
 
 /// Where a position of `texte` stands among the ranges of a paragraph's portions; what lies outside
 /// of them counts as the nearest end. Main thread.
@@ -16,4 +16,4 @@ compagnon::PlaceDansPortion PlaceParmi(
     com::sun::star::uno::Reference<com::sun::star::text::XText> const& texte,
     com::sun::star::uno::Reference<com::sun::star::text::XTextRange> const& position);
 
-} // namespace bureau
+} // namespace extension

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "StyleDeLettres.h"
 
-#include "Chaines.h"
 #include "Ecritures.h"
+#include "commun/ChainesUno.h"
 
 #include <com/sun/star/awt/FontSlant.hpp>
 #include <com/sun/star/awt/FontStrikeout.hpp>
@@ -18,7 +18,7 @@
 using namespace com::sun::star;
 using rtl::OUString;
 
-namespace bureau {
+namespace extension {
 
 uno::Sequence<OUString> NomsDesProprietesDeLettres() {
     static char const* const noms[kNombreDeProprietes] = {
@@ -110,4 +110,4 @@ std::vector<compagnon::PlageDeStyle> StylesDeLettres(uno::Reference<uno::XInterf
     return plages.Donne();
 }
 
-} // namespace bureau
+} // namespace extension

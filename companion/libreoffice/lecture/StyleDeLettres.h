@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "PlagesDeStyle.h"
+#include "modele/PlagesDeStyle.h"
 
 #include <com/sun/star/uno/Any.hxx>
 #include <com/sun/star/uno/Reference.hxx>
@@ -12,7 +12,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace bureau {
+namespace extension {
 
 /// The properties of letters that are asked for together, in this order: ascending, as the office
 /// looks them up fastest. Cells know neither `kExposant`, `kMasque` nor `kGenre`, and leave them
@@ -40,4 +40,4 @@ std::vector<compagnon::PlageDeStyle>
 StylesDeLettres(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& source,
                 com::sun::star::uno::Any const* valeurs, rtl::OUString const& texte);
 
-} // namespace bureau
+} // namespace extension

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Avis.h"
 
-#include "Chaines.h"
+#include "commun/ChainesUno.h"
 
 #include <com/sun/star/awt/MessageBoxButtons.hpp>
 #include <com/sun/star/awt/MessageBoxType.hpp>
@@ -19,7 +19,7 @@
 
 using namespace com::sun::star;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -78,4 +78,4 @@ void Avise(uno::Reference<uno::XComponentContext> const& contexte,
     }
 }
 
-} // namespace bureau
+} // namespace extension

@@ -6,7 +6,7 @@
 
 #include <string>
 
-namespace bureau {
+namespace extension {
 
 /// Tells the person something, in a box above the window `cadre` (UTF-8; lines end in "\n"), and
 /// returns when it was read. Without a screen nobody could close a box: it is written to standard
@@ -15,4 +15,4 @@ void Avise(com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext
            com::sun::star::uno::Reference<com::sun::star::frame::XFrame> const& cadre,
            std::string const& texte, bool avertit);
 
-} // namespace bureau
+} // namespace extension

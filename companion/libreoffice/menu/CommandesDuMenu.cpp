@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Commandes.h"
+#include "CommandesDuMenu.h"
 
 #include "Avis.h"
 #include "Constat.h"
-#include "Environnement.h"
-#include "Extension.h"
-#include "Lance.h"
-#include "LigneDeTerminal.h"
-#include "Messages.h"
+#include "commun/MessagesExtension.h"
+#include "extension/Extension.h"
+#include "menu/lancement/EnvironnementEnfant.h"
+#include "menu/lancement/Lance.h"
+#include "menu/lancement/LigneDeTerminal.h"
 
 #include <com/sun/star/frame/XController.hpp>
 #include <com/sun/star/frame/XModel.hpp>
@@ -17,7 +17,7 @@
 
 using namespace com::sun::star;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -95,4 +95,4 @@ void ExecuteCommande(Commande commande, uno::Reference<uno::XComponentContext> c
     }
 }
 
-} // namespace bureau
+} // namespace extension

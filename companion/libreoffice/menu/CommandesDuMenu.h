@@ -7,7 +7,7 @@
 #include <optional>
 #include <string_view>
 
-namespace bureau {
+namespace extension {
 
 /// What the menu offers.
 enum class Commande { Corrige, Dictionnaire, Diagnostic };
@@ -22,4 +22,4 @@ void ExecuteCommande(
     com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> const& contexte,
     com::sun::star::uno::Reference<com::sun::star::frame::XFrame> const& cadre);
 
-} // namespace bureau
+} // namespace extension

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Constat.h"
 
-#include "Messages.h"
+#include "commun/MessagesExtension.h"
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -107,4 +107,4 @@ std::string Rapport(Constat const& constat) {
     return rapport;
 }
 
-} // namespace bureau
+} // namespace extension

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "EtatDuBus.h"
-#include "Recherche.h"
+#include "bus/EtatDuBus.h"
+#include "menu/lancement/Recherche.h"
 
 #include <cstddef>
 #include <string>
 #include <vector>
 
-namespace bureau {
+namespace extension {
 
 /// All that it takes for a host to work on the document in front, as it stands now.
 struct Constat {
@@ -27,4 +27,4 @@ std::vector<std::string> Manques(Constat const& constat);
 /// What "About and diagnosis" says.
 std::string Rapport(Constat const& constat);
 
-} // namespace bureau
+} // namespace extension

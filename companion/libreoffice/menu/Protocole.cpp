@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
 // The addresses "com.ombrel.vocalyne:NAME" that menus and toolbars hold, one object a window.
-#include "Chaines.h"
-#include "Commandes.h"
-#include "Extension.h"
-#include "FilPrincipal.h"
+#include "CommandesDuMenu.h"
+#include "bus/FilPrincipal.h"
+#include "commun/ChainesUno.h"
+#include "extension/Extension.h"
 
 #include <com/sun/star/frame/FeatureStateEvent.hpp>
 #include <com/sun/star/frame/XDispatch.hpp>
@@ -24,18 +24,18 @@ namespace {
 constexpr char kNom[] = "com.ombrel.vocalyne.libreoffice.Protocole";
 constexpr char16_t kProtocole[] = u"com.ombrel.vocalyne:";
 
-std::optional<bureau::Commande> CommandeDe(util::URL const& adresse) {
-    return bureau::Vue(adresse.Protocol) == kProtocole
-               ? bureau::CommandeDeNom(bureau::Vue(adresse.Path))
+std::optional<extension::Commande> CommandeDe(util::URL const& adresse) {
+    return extension::Vue(adresse.Protocol) == kProtocole
+               ? extension::CommandeDeNom(extension::Vue(adresse.Path))
                : std::nullopt;
 }
 
-void Execute(bureau::Commande commande, uno::Reference<uno::XComponentContext> const& contexte,
+void Execute(extension::Commande commande, uno::Reference<uno::XComponentContext> const& contexte,
              uno::Reference<frame::XFrame> const& cadre) {
     try {
-        bureau::ExecuteCommande(commande, contexte, cadre);
+        extension::ExecuteCommande(commande, contexte, cadre);
     } catch (uno::Exception const& erreur) {
-        std::fprintf(stderr, "vocalyne: %s\n", bureau::EnUtf8(erreur.Message).c_str());
+        std::fprintf(stderr, "vocalyne: %s\n", extension::EnUtf8(erreur.Message).c_str());
     } catch (std::exception const& erreur) {
         std::fprintf(stderr, "vocalyne: %s\n", erreur.what());
     }
@@ -72,13 +72,13 @@ class Protocole : public cppu::WeakImplHelper4<frame::XDispatchProvider, frame::
 
     void SAL_CALL dispatch(util::URL const& adresse,
                            uno::Sequence<beans::PropertyValue> const& /*arguments*/) override {
-        std::optional<bureau::Commande> const commande = CommandeDe(adresse);
+        std::optional<extension::Commande> const commande = CommandeDe(adresse);
         if (!commande) {
             return;
         }
-        bureau::Extension::Demarre(contexte_);
+        extension::Extension::Demarre(contexte_);
         // Whatever thread asks: boxes belong on the main one, and the caller waits for none.
-        fil_.Poste(std::make_shared<bureau::Demande>(
+        fil_.Poste(std::make_shared<extension::Demande>(
             [commande, contexte = contexte_, cadre = uno::Reference<frame::XFrame>(cadre_)] {
                 Execute(*commande, contexte, cadre);
             }));
@@ -110,7 +110,7 @@ class Protocole : public cppu::WeakImplHelper4<frame::XDispatchProvider, frame::
   private:
     uno::Reference<uno::XComponentContext> contexte_;
     uno::WeakReference<frame::XFrame> cadre_; // the window holds this object
-    bureau::FilPrincipal fil_;
+    extension::FilPrincipal fil_;
 };
 
 } // namespace

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Correction.h"
 
-#include "Chaines.h"
-#include "Erreur.h"
-#include "Messages.h"
+#include "commun/ChainesUno.h"
+#include "commun/ErreurDuService.h"
+#include "commun/MessagesExtension.h"
 
 #include <com/sun/star/document/XUndoManagerSupplier.hpp>
 
@@ -11,7 +11,7 @@ using namespace com::sun::star;
 using compagnon::Intervalle;
 using compagnon::PlanDePortions;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -123,4 +123,4 @@ void Corrige(DocumentOuvert const& document, DialogueModal const& dialogue, Zone
     croyance.NoteCorrection(plage, texte);
 }
 
-} // namespace bureau
+} // namespace extension

@@ -2,13 +2,13 @@
 #pragma once
 
 #include "DialogueModal.h"
-#include "DocumentOuvert.h"
 #include "Session.h"
+#include "document/DocumentOuvert.h"
 
 #include <optional>
 #include <string>
 
-namespace bureau {
+namespace extension {
 
 /// Why nothing in the document may be changed now, whatever the range: read-only, or a dialogue
 /// waits for the person. Nothing when it may. Main thread.
@@ -21,7 +21,7 @@ bool PeutCorriger(DocumentOuvert const& document, DialogueModal const& dialogue,
                   std::u16string const& attendu);
 
 /// Compares and replaces, in one go: the range must hold what the host believes. Follows in its
-/// belief; where it throws `Erreur` nothing was changed, and the refusal was noted.
+/// belief; where it throws `ErreurDuService` nothing was changed, and the refusal was noted.
 void Corrige(DocumentOuvert const& document, DialogueModal const& dialogue, ZoneOuverte& zone,
              compagnon::TexteSuivi& croyance, compagnon::Intervalle plage,
              std::u16string const& texte);
@@ -31,4 +31,4 @@ void Remplace(DocumentOuvert const& document, ZoneOuverte& zone,
               compagnon::PlanDePortions const& plan, compagnon::Intervalle plage,
               std::u16string const& texte);
 
-} // namespace bureau
+} // namespace extension

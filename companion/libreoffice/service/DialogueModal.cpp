@@ -13,7 +13,7 @@
 
 using namespace com::sun::star;
 
-namespace bureau {
+namespace extension {
 
 // The office marks its list of windows as deprecated, and has nothing in its place.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
@@ -81,4 +81,4 @@ bool DialogueModal::EstOuvert() const {
     return false;
 }
 
-} // namespace bureau
+} // namespace extension

@@ -4,7 +4,7 @@
 #include <com/sun/star/frame/XModel.hpp>
 #include <com/sun/star/uno/XComponentContext.hpp>
 
-namespace bureau {
+namespace extension {
 
 /// Finds out whether a modal dialogue of this office waits for the person. Calls are served beneath
 /// one, and an edit there would land under the person's hands. Main thread only.
@@ -21,4 +21,4 @@ class DialogueModal {
     com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> contexte_;
 };
 
-} // namespace bureau
+} // namespace extension

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Documents.h"
+#include "DocumentsOuverts.h"
 
-#include "DocumentCalc.h"
-#include "DocumentImpress.h"
-#include "DocumentWriter.h"
-#include "Hasard.h"
+#include "calc/DocumentCalc.h"
+#include "commun/Hasard.h"
+#include "dessin/DocumentImpress.h"
+#include "writer/DocumentWriter.h"
 
 #include <com/sun/star/beans/PropertyValue.hpp>
 #include <com/sun/star/container/XEnumeration.hpp>
@@ -23,7 +23,7 @@
 
 using namespace com::sun::star;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -155,4 +155,4 @@ std::shared_ptr<DocumentOuvert> Documents::ParZone(std::string const& cleDeZone)
     return ParCle(cleDeZone.substr(0, cleDeZone.find(':')));
 }
 
-} // namespace bureau
+} // namespace extension

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "DocumentOuvert.h"
+#include "document/DocumentOuvert.h"
 
 #include <com/sun/star/frame/XDesktop.hpp>
 #include <com/sun/star/uno/XComponentContext.hpp>
@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-namespace bureau {
+namespace extension {
 
 /// The keys of the documents that are open; any thread. Shared, as a document may close last.
 class ClesVivantes {
@@ -58,4 +58,4 @@ class Documents {
     unsigned dernier_ = 0;
 };
 
-} // namespace bureau
+} // namespace extension

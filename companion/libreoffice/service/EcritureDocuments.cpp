@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "EcritureDocuments.h"
 
-#include "Utf.h"
+#include "modele/Utf.h"
 
 #include <utility>
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -46,4 +46,4 @@ std::string EcritureDocuments::Termine() {
     return std::move(json_);
 }
 
-} // namespace bureau
+} // namespace extension

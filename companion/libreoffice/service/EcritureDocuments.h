@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace bureau {
+namespace extension {
 
 /// Writes the reply of "DonneDocuments": a JSON array in UTF-8.
 class EcritureDocuments {
@@ -18,4 +18,4 @@ class EcritureDocuments {
     std::string json_ = "[";
 };
 
-} // namespace bureau
+} // namespace extension

@@ -3,8 +3,8 @@
 
 #include "Correction.h"
 #include "EcritureDocuments.h"
-#include "EcrivainZones.h"
-#include "Erreur.h"
+#include "commun/ErreurDuService.h"
+#include "modele/EcrivainZones.h"
 
 #include <algorithm>
 #include <utility>
@@ -13,7 +13,7 @@ using namespace com::sun::star;
 using compagnon::Intervalle;
 using compagnon::PlanDePortions;
 
-namespace bureau {
+namespace extension {
 
 Service::Service(uno::Reference<uno::XComponentContext> const& contexte, std::string instance)
     : instance_(std::move(instance))
@@ -124,7 +124,8 @@ std::string Service::SynchronisePositions(std::string const& appelant, std::stri
     });
     std::optional<std::string> zones = ecrivain.Termine();
     if (!zones) {
-        throw Erreur("TropGrand", "the document's text does not fit in one message of the bus");
+        throw ErreurDuService("TropGrand",
+                              "the document's text does not fit in one message of the bus");
     }
     session.croyances = std::move(croyances);
     session.tailleZones = zones->size();
@@ -135,8 +136,8 @@ bool Service::PeutCorriger(std::string const& appelant, std::string const& cle, 
                            std::u16string const& attendu) {
     Session& session = sessions_[appelant];
     auto const [document, zone] = ZoneDe(session, cle);
-    return bureau::PeutCorriger(*document, dialogue_, *zone, session.croyances[cle], plage,
-                                attendu);
+    return extension::PeutCorriger(*document, dialogue_, *zone, session.croyances[cle], plage,
+                                   attendu);
 }
 
 void Service::CorrigeDansTexteur(std::string const& appelant, std::string const& cle,
@@ -226,4 +227,4 @@ void Service::RemplaceEtReselectionne(std::string const& appelant, std::u16strin
     contexte = Session::Contexte{lue->zone->Cle(), plan.DonneTexte(), resultat};
 }
 
-} // namespace bureau
+} // namespace extension

@@ -2,17 +2,17 @@
 #pragma once
 
 #include "DialogueModal.h"
-#include "Documents.h"
+#include "DocumentsOuverts.h"
 #include "Session.h"
 
 #include <cstdint>
 #include <memory>
 #include <string>
 
-namespace bureau {
+namespace extension {
 
 /// The methods of both interfaces (protocol/), as one caller sees them. Main thread only. Every
-/// operation may throw `Erreur` or a UNO exception; nothing was changed then.
+/// operation may throw `ErreurDuService` or a UNO exception; nothing was changed then.
 class Service {
   public:
     /// `instance`: the first part of the identifiers handed out.
@@ -66,4 +66,4 @@ class Service {
     Sessions sessions_;
 };
 
-} // namespace bureau
+} // namespace extension

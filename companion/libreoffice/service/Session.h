@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "TexteSuivi.h"
+#include "modele/TexteSuivi.h"
 
 #include <cstddef>
 #include <map>
@@ -9,7 +9,7 @@
 #include <string>
 #include <unordered_map>
 
-namespace bureau {
+namespace extension {
 
 /// What one connection on the bus was told, and what it therefore believes. Main thread only.
 struct Session {
@@ -34,4 +34,4 @@ struct Session {
 /// By the unique name of the connection.
 using Sessions = std::map<std::string, Session>;
 
-} // namespace bureau
+} // namespace extension

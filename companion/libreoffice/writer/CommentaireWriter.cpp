@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "CommentaireWriter.h"
 
-#include "Chaines.h"
+#include "commun/ChainesUno.h"
 
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/text/XTextContent.hpp>
@@ -11,7 +11,7 @@
 
 using namespace com::sun::star;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -75,4 +75,4 @@ std::shared_ptr<TexteDessine> TexteDeCommentaire(uno::Reference<uno::XInterface>
     return std::make_shared<Commentaire>(champ, modele, std::move(contenant));
 }
 
-} // namespace bureau
+} // namespace extension

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "TexteDessine.h"
+#include "dessin/TexteDessine.h"
 
-namespace bureau {
+namespace extension {
 
 /// A Writer comment: can be changed only while it has no format of its own, for the office takes
 /// new words for a comment as plain text.
@@ -12,4 +12,4 @@ TexteDeCommentaire(com::sun::star::uno::Reference<com::sun::star::uno::XInterfac
                    com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& modele,
                    std::shared_ptr<Contenant const> contenant);
 
-} // namespace bureau
+} // namespace extension

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "DocumentWriter.h"
 
-#include "ChoixWriter.h"
 #include "ParcoursWriter.h"
+#include "SelectionWriter.h"
 
 #include <utility>
 
 using namespace com::sun::star;
 
-namespace bureau {
+namespace extension {
 
 DocumentWriter::DocumentWriter(uno::Reference<frame::XModel> const& modele, std::string cle)
     : DocumentOuvert(modele, std::move(cle))
@@ -18,8 +18,8 @@ void DocumentWriter::ParcoursZones(Recueil const& recueil) {
     ParcoursWriter(fond_, Carnet(), recueil).Parcours();
 }
 
-std::unique_ptr<Choix> DocumentWriter::LisChoixDuBureau() {
+std::unique_ptr<SelectionVue> DocumentWriter::LisChoixDuBureau() {
     return LisChoixWriter(Modele());
 }
 
-} // namespace bureau
+} // namespace extension

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "DocumentOuvert.h"
 #include "ParagrapheWriter.h"
+#include "document/DocumentOuvert.h"
 
-namespace bureau {
+namespace extension {
 
 /// A Writer document (also a web or master document).
 class DocumentWriter : public DocumentOuvert {
@@ -14,10 +14,10 @@ class DocumentWriter : public DocumentOuvert {
 
   protected:
     void ParcoursZones(Recueil const& recueil) override;
-    std::unique_ptr<Choix> LisChoixDuBureau() override;
+    std::unique_ptr<SelectionVue> LisChoixDuBureau() override;
 
   private:
     std::shared_ptr<FondWriter const> fond_;
 };
 
-} // namespace bureau
+} // namespace extension

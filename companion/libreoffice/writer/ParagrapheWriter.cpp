@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "ParagrapheWriter.h"
 
-#include "Chaines.h"
-#include "Curseur.h"
-#include "Erreur.h"
-#include "PlaceParmi.h"
+#include "commun/ChainesUno.h"
+#include "commun/ErreurDuService.h"
+#include "lecture/Curseur.h"
+#include "lecture/PlaceParmi.h"
 
 #include <com/sun/star/container/XEnumerationAccess.hpp>
 #include <com/sun/star/frame/XController.hpp>
@@ -18,7 +18,7 @@ using namespace com::sun::star;
 using compagnon::PlaceDansPortion;
 using compagnon::PlanDePortions;
 
-namespace bureau {
+namespace extension {
 
 ParagrapheWriter::ParagrapheWriter(std::string cle,
                                    uno::Reference<text::XTextContent> const& paragraphe,
@@ -120,4 +120,4 @@ PlaceDansPortion ParagrapheWriter::PlaceDe(uno::Reference<text::XTextRange> cons
     return PlaceParmi(etendues_, contenant_->texte, position);
 }
 
-} // namespace bureau
+} // namespace extension

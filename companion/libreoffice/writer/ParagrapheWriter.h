@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "Contenant.h"
-#include "LecteurPortions.h"
 #include "Suppressions.h"
-#include "ZoneOuverte.h"
+#include "document/Contenant.h"
+#include "document/ZoneOuverte.h"
+#include "lecture/LecteurPortions.h"
 
 #include <com/sun/star/frame/XModel.hpp>
 #include <com/sun/star/text/XTextContent.hpp>
@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-namespace bureau {
+namespace extension {
 
 /// What a Writer document's paragraphs share.
 struct FondWriter {
@@ -61,4 +61,4 @@ class ParagrapheWriter : public ZoneOuverte {
     std::vector<com::sun::star::uno::Reference<com::sun::star::text::XTextRange>> etendues_;
 };
 
-} // namespace bureau
+} // namespace extension

@@ -2,7 +2,7 @@
 #include "ParcoursWriter.h"
 
 #include "CommentaireWriter.h"
-#include "TexteDeForme.h"
+#include "dessin/TexteDeForme.h"
 
 #include <com/sun/star/container/XContentEnumerationAccess.hpp>
 #include <com/sun/star/container/XEnumerationAccess.hpp>
@@ -20,7 +20,7 @@
 using namespace com::sun::star;
 using rtl::OUString;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -272,4 +272,4 @@ void ParcoursWriter::ParcoursEntetes(char const* actif, char const* texte) {
     }
 }
 
-} // namespace bureau
+} // namespace extension

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "CarnetDeZones.h"
 #include "ParagrapheWriter.h"
+#include "document/CarnetDeZones.h"
 
 #include <com/sun/star/text/XTextTable.hpp>
 
@@ -11,7 +11,7 @@
 #include <set>
 #include <vector>
 
-namespace bureau {
+namespace extension {
 
 /// One walk over a Writer document in reading order: headers, the body with its tables, each
 /// paragraph followed by the notes, comments and frames that hang on it, then what is anchored to
@@ -54,4 +54,4 @@ class ParcoursWriter {
     std::vector<std::pair<Rencontre, std::shared_ptr<Contenant const>>> notesDeFin_;
 };
 
-} // namespace bureau
+} // namespace extension

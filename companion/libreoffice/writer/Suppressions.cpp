@@ -9,7 +9,7 @@
 
 using namespace com::sun::star;
 
-namespace bureau {
+namespace extension {
 
 int Suppressions::OuvertesAuDebut(uno::Reference<text::XTextRange> const& paragraphe,
                                   uno::Reference<text::XText> const& texte) const {
@@ -46,4 +46,4 @@ int Suppressions::OuvertesAuDebut(uno::Reference<text::XTextRange> const& paragr
     return ouvertes;
 }
 
-} // namespace bureau
+} // namespace extension

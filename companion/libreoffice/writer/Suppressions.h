@@ -5,7 +5,7 @@
 #include <com/sun/star/frame/XModel.hpp>
 #include <com/sun/star/text/XText.hpp>
 
-namespace bureau {
+namespace extension {
 
 /// The tracked deletions of a Writer document. Main thread only.
 class Suppressions {
@@ -24,4 +24,4 @@ class Suppressions {
     com::sun::star::uno::Reference<com::sun::star::document::XRedlinesSupplier> modele_;
 };
 
-} // namespace bureau
+} // namespace extension

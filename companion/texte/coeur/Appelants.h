@@ -2,7 +2,7 @@
 #pragma once
 
 #include "DocumentTexte.h"
-#include "TexteSuivi.h"
+#include "modele/TexteSuivi.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Bureau.h"
 
-#include "EcrivainZones.h"
-#include "Frontieres.h"
+#include "modele/EcrivainZones.h"
+#include "modele/Frontieres.h"
 
 #include <algorithm>
 #include <charconv>

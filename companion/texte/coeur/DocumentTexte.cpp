@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "DocumentTexte.h"
 
-#include "Frontieres.h"
-#include "Selection.h"
-#include "Utf.h"
+#include "modele/DecaleSelection.h"
+#include "modele/Frontieres.h"
+#include "modele/Utf.h"
 
 #include <algorithm>
 #include <utility>

@@ -2,10 +2,10 @@
 #pragma once
 
 #include "EcritureSure.h"
-#include "Intervalle.h"
 #include "LectureFichier.h"
 #include "Paragraphes.h"
 #include "Resultat.h"
+#include "modele/Intervalle.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -3,7 +3,7 @@
 
 #include "Descripteur.h"
 #include "Paragraphes.h"
-#include "Utf.h"
+#include "modele/Utf.h"
 
 #include <cerrno>
 #include <climits>

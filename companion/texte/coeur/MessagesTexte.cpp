@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Messages.h"
+#include "MessagesTexte.h"
 
 #include <cstdlib>
 #include <cstring>

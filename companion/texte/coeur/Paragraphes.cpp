@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Paragraphes.h"
 
-#include "Utf.h"
+#include "modele/Utf.h"
 
 namespace compagnon {
 
@@ -9,16 +9,16 @@ namespace {
 
 constexpr std::string_view kMarque = "\xEF\xBB\xBF";
 
-struct Ligne {
+struct LigneDeFichier {
     std::string_view texte;
     FinDeLigne fin;
 };
 
 /// The first line of what is left, taken off it.
-Ligne PrendsLigne(std::string_view& reste) noexcept {
+LigneDeFichier PrendsLigne(std::string_view& reste) noexcept {
     std::size_t const longueur = reste.find_first_of("\r\n");
     if (longueur == std::string_view::npos) {
-        Ligne const derniere{reste, FinDeLigne::Aucune};
+        LigneDeFichier const derniere{reste, FinDeLigne::Aucune};
         reste = {};
         return derniere;
     }
@@ -26,7 +26,7 @@ Ligne PrendsLigne(std::string_view& reste) noexcept {
     if (reste[longueur] == '\r') {
         fin = reste.substr(longueur, 2) == "\r\n" ? FinDeLigne::Les2 : FinDeLigne::RetourChariot;
     }
-    Ligne const ligne{reste.substr(0, longueur), fin};
+    LigneDeFichier const ligne{reste.substr(0, longueur), fin};
     reste.remove_prefix(longueur + Octets(fin).size());
     return ligne;
 }
@@ -71,7 +71,7 @@ TexteDecoupe Decoupe(std::string_view octets) {
         octets.remove_prefix(kMarque.size());
     }
     do {
-        Ligne const ligne = PrendsLigne(octets);
+        LigneDeFichier const ligne = PrendsLigne(octets);
         resultat.paragraphes.push_back({std::make_shared<std::u16string const>(
                                             Utf8VersUtf16(ligne.texte).value_or(std::u16string())),
                                         ligne.fin});

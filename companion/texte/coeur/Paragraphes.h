@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "TexteSuivi.h"
+#include "modele/TexteSuivi.h"
 
 #include <cstddef>
 #include <string>

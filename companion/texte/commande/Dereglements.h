@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "Bureau.h"
 #include "Journal.h"
 #include "Portier.h"
+#include "coeur/Bureau.h"
 
 #include <QHash>
 #include <QObject>

@@ -8,7 +8,7 @@
 namespace hote {
 
 /// A document that a companion serves.
-struct DocumentOuvert {
+struct DocumentAnnonce {
     QString id; ///< the whole identifier, INSTANCE~DOCUMENT
     QString titre;
     QString chemin; ///< empty when it has none
@@ -19,7 +19,7 @@ struct DocumentOuvert {
 
 /// The documents within reach, and what stood in the way of others.
 struct ListeDocuments {
-    std::vector<DocumentOuvert> documents;   ///< each companion's own order: the one in front first
+    std::vector<DocumentAnnonce> documents;  ///< each companion's own order: the one in front first
     std::vector<std::string> avertissements; ///< for the person, translated, UTF-8
 };
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Documents.h"
+#include "DocumentsDuBus.h"
 
-#include "ErreurHote.h"
-#include "Messages.h"
 #include "ProxyDocuments.h"
+#include "commun/ErreurHote.h"
+#include "commun/MessagesHote.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

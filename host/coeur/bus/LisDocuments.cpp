@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Documents.h"
+#include "DocumentsDuBus.h"
 
-#include "Messages.h"
+#include "commun/MessagesHote.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -16,7 +16,7 @@ namespace {
 constexpr int kTailleMax = 4 * 1024 * 1024;
 constexpr int kNombreMax = 10000;
 
-bool LisDocument(QString const& instance, QJsonValue const& valeur, DocumentOuvert& document) {
+bool LisDocument(QString const& instance, QJsonValue const& valeur, DocumentAnnonce& document) {
     QJsonObject const objet = valeur.toObject();
     QJsonValue const id = objet.value(QLatin1String("id"));
     QJsonValue const titre = objet.value(QLatin1String("titre"));
@@ -46,7 +46,7 @@ void LisDocuments(QString const& instance, QString const& reponse, ListeDocument
     bool averti = false;
     int nombre = 0;
     for (QJsonValue const valeur : json.array()) {
-        DocumentOuvert document;
+        DocumentAnnonce document;
         if (++nombre <= kNombreMax && LisDocument(instance, valeur, document)) {
             liste.documents.push_back(document);
         } else if (!averti) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Messages.h"
+#include "MessagesHote.h"
 
 #include "InitialisationGenerale.h"
 #include "PrefsGeneralesQt.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "ErreurHote.h"
-#include "Orthographe.h"
+#include "commun/ErreurHote.h"
+#include "langue/Orthographe.h"
 
 #include <QString>
 #include <QStringList>

@@ -2,10 +2,10 @@
 #include "Correcteur.h"
 
 #include "Alignement.h"
-#include "Contexte.h"
-#include "Decoupeur.h"
-#include "Messages.h"
 #include "Recalage.h"
+#include "commun/MessagesHote.h"
+#include "langue/Contexte.h"
+#include "langue/Decoupeur.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "Document.h"
 #include "Envois.h"
 #include "Interlocuteur.h"
 #include "Relectures.h"
+#include "greffon/Document.h"
 
 #include <QSet>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Document.h"
 
-#include "ErreurHote.h"
-#include "Messages.h"
 #include "OuvreAgent.h"
+#include "commun/ErreurHote.h"
+#include "commun/MessagesHote.h"
 
 #include <utility>
 

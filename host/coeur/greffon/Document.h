@@ -3,7 +3,7 @@
 
 #include "AgentTenu.h"
 #include "Greffon.h"
-#include "Orthographe.h"
+#include "langue/Orthographe.h"
 
 #include <QString>
 

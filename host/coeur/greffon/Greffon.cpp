@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Greffon.h"
 
-#include "ErreurHote.h"
 #include "InfosApplication.h"
 #include "InterfaceAgentTexteur.h"
-#include "Messages.h"
+#include "commun/ErreurHote.h"
+#include "commun/MessagesHote.h"
 
 #include <dlfcn.h>
 

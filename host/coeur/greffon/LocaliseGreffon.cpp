@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "LocaliseGreffon.h"
 
-#include "ErreurHote.h"
-#include "Messages.h"
+#include "commun/ErreurHote.h"
+#include "commun/MessagesHote.h"
 
 #include <sys/auxv.h>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "OuvreAgent.h"
 
-#include "ErreurHote.h"
 #include "InfosApplication.h"
-#include "Messages.h"
+#include "commun/ErreurHote.h"
+#include "commun/MessagesHote.h"
 
 namespace hote {
 

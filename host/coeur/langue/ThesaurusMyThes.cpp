@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "ThesaurusMyThes.h"
 
-#include "ErreurHote.h"
 #include "LocaliseDictionnaire.h"
-#include "Messages.h"
+#include "commun/ErreurHote.h"
+#include "commun/MessagesHote.h"
 
 #include <QTextCodec>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "AlertesNotees.h"
+#include "AlertesDuPilote.h"
 
-#include "AlertesConsole.h"
-#include "EcritureJson.h"
+#include "commun/EcritureJson.h"
+#include "console/AlertesConsole.h"
 
 namespace hote {
 

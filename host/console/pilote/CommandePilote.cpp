@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Commandes.h"
-#include "LocaliseGreffon.h"
-#include "Messages.h"
 #include "Pilote.h"
-#include "Sortie.h"
+#include "commun/MessagesHote.h"
+#include "console/Commandes.h"
+#include "console/Sortie.h"
+#include "greffon/LocaliseGreffon.h"
 
 #include <QEventLoop>
 #include <QSocketNotifier>
@@ -71,7 +71,7 @@ void Dialogue(Pilote& pilote, Sortie& sortie) {
 
 } // namespace
 
-eCodeSortie ExecutePilote(Options const& options) {
+eCodeSortie ExecutePilote(OptionsHote const& options) {
     auto const greffon = Greffon::Charge(LocaliseGreffon(options.greffon));
     Sortie sortie(ReserveSortie());
     {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Operations.h"
 
-#include "Messages.h"
+#include "commun/MessagesHote.h"
 
 namespace hote {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "AgentTenu.h"
 #include "Arguments.h"
-#include "EcritureJson.h"
-#include "Greffon.h"
+#include "commun/EcritureJson.h"
+#include "greffon/AgentTenu.h"
+#include "greffon/Greffon.h"
 
 #include <QString>
 

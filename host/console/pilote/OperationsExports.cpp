@@ -2,7 +2,7 @@
 #include "Operations.h"
 
 #include "InfosApplication.h"
-#include "Messages.h"
+#include "commun/MessagesHote.h"
 
 #include <utility>
 

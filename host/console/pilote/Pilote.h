@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "AlertesNotees.h"
+#include "AlertesDuPilote.h"
 #include "LecteurDeLignes.h"
 #include "Operations.h"
 

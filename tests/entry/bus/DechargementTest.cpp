@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 // The plug-in is unloaded while its calls are under way: QtDBus keeps their messages beyond it.
-#include "BureauDeTest.h"
-#include "BusPrive.h"
+#include "outils/bus/BureauDeTest.h"
+#include "outils/bus/BusPrive.h"
 
 #include <gtest/gtest.h>
 

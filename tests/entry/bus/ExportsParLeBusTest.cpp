@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MPL-2.0
 // The plug-in's own door over a bus: what the creation of an agent asks, and when it answers none.
-#include "AlertesNotees.h"
-#include "BureauDeTest.h"
-#include "BusPrive.h"
 #include "InfosApplication.h"
 #include "InterfaceAgentTexteur.h"
+#include "outils/AlertesNotees.h"
+#include "outils/bus/BureauDeTest.h"
+#include "outils/bus/BusPrive.h"
 
 #include <gtest/gtest.h>
 

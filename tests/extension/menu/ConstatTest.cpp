@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Constat.h"
-#include "Messages.h"
+#include "menu/Constat.h"
+#include "commun/MessagesExtension.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-using bureau::Constat;
-using bureau::EtatDuBus;
-using bureau::Manques;
-using bureau::Rapport;
+using extension::Constat;
+using extension::EtatDuBus;
+using extension::Manques;
+using extension::Rapport;
 using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -20,8 +20,8 @@ namespace {
 /// Both languages; the language goes back to English.
 class Diagnostic : public testing::TestWithParam<bool> {
   protected:
-    void SetUp() override { bureau::MetsLangue(GetParam()); }
-    void TearDown() override { bureau::MetsLangue(false); }
+    void SetUp() override { extension::MetsLangue(GetParam()); }
+    void TearDown() override { extension::MetsLangue(false); }
 
     static Constat ToutVaBien() {
         return {"com.x.lo1", {EtatDuBus::Genre::Sert, {}},       2,

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Paragraphes.h"
 #include "Sonde.h"
-#include "Utf.h"
+#include "coeur/Paragraphes.h"
+#include "modele/Utf.h"
 
 #include <string>
 

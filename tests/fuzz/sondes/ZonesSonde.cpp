@@ -10,7 +10,7 @@
 namespace {
 
 struct Lecture {
-    std::vector<ZoneLue> zones;
+    std::vector<ZoneRecue> zones;
     std::string erreur;
 };
 
@@ -18,14 +18,14 @@ Lecture Lis(std::string const& document) {
     Lecture lecture;
     try {
         LisListeDeZones(document,
-                        [&](ZoneLue&& zone) { lecture.zones.push_back(std::move(zone)); });
+                        [&](ZoneRecue&& zone) { lecture.zones.push_back(std::move(zone)); });
     } catch (Json::RuntimeError const& erreur) {
         lecture.erreur = erreur.what();
     }
     return lecture;
 }
 
-bool SontEgales(ZoneLue const& a, ZoneLue const& b) {
+bool SontEgales(ZoneRecue const& a, ZoneRecue const& b) {
     auto const memePlage = [](PlageStyle const& p, PlageStyle const& q) {
         return p.debut == q.debut && p.longueur == q.longueur && p.style == q.style;
     };

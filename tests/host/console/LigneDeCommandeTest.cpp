@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "LigneDeCommande.h"
-#include "ErreurHote.h"
+#include "console/LigneDeCommande.h"
+#include "commun/ErreurHote.h"
 
 #include <gtest/gtest.h>
 
@@ -8,34 +8,34 @@ using namespace hote;
 
 namespace {
 
-Options Lis(QStringList arguments) {
+OptionsHote Lis(QStringList arguments) {
     arguments.prepend(QStringLiteral("vocalyne-hote"));
     return AnalyseLigne(arguments);
 }
 
-Options Lis(char const* arguments) {
+OptionsHote Lis(char const* arguments) {
     return Lis(QString::fromUtf8(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts));
 }
 
 } // namespace
 
 TEST(LigneDeCommande, CommandsHaveTheirDefaults) {
-    Options const options = Lis("corrige");
-    EXPECT_EQ(options.commande, Options::Commande::Corrige);
+    OptionsHote const options = Lis("corrige");
+    EXPECT_EQ(options.commande, OptionsHote::Commande::Corrige);
     EXPECT_TRUE(options.id.isEmpty());
     EXPECT_FALSE(options.langue);
     EXPECT_FALSE(options.automatique);
     EXPECT_FALSE(options.json);
     EXPECT_TRUE(options.greffon.empty());
-    EXPECT_EQ(Lis("documents").commande, Options::Commande::Documents);
-    EXPECT_EQ(Lis("pilote").commande, Options::Commande::Pilote);
+    EXPECT_EQ(Lis("documents").commande, OptionsHote::Commande::Documents);
+    EXPECT_EQ(Lis("pilote").commande, OptionsHote::Commande::Pilote);
 }
 
 TEST(LigneDeCommande, OptionsStandBeforeOrBehindTheDocumentInEitherForm) {
     for (char const* ligne :
          {"corrige A~1 --langue en --automatique --sortie json --greffon g.so",
           "corrige --sortie=json --langue=en --greffon=g.so --automatique A~1"}) {
-        Options const options = Lis(ligne);
+        OptionsHote const options = Lis(ligne);
         EXPECT_EQ(options.id, QStringLiteral("A~1"));
         EXPECT_EQ(options.langue, Langue::Anglais);
         EXPECT_TRUE(options.automatique);
@@ -45,8 +45,8 @@ TEST(LigneDeCommande, OptionsStandBeforeOrBehindTheDocumentInEitherForm) {
 }
 
 TEST(LigneDeCommande, TheDictionaryTakesTheOptionsOfAWorkThatChangesNothingByItself) {
-    Options const options = Lis("dictionnaire A~1 --langue fr --sortie json --greffon g.so");
-    EXPECT_EQ(options.commande, Options::Commande::Dictionnaire);
+    OptionsHote const options = Lis("dictionnaire A~1 --langue fr --sortie json --greffon g.so");
+    EXPECT_EQ(options.commande, OptionsHote::Commande::Dictionnaire);
     EXPECT_EQ(options.id, QStringLiteral("A~1"));
     EXPECT_EQ(options.langue, Langue::Francais);
     EXPECT_TRUE(options.json);
@@ -60,9 +60,9 @@ TEST(LigneDeCommande, TheLastOfSeveralWins) {
 
 TEST(LigneDeCommande, HelpAndVersionStandAnywhere) {
     for (char const* ligne : {"--help", "-h", "corrige --help", "documents -h"})
-        EXPECT_EQ(Lis(ligne).commande, Options::Commande::Aide) << ligne;
+        EXPECT_EQ(Lis(ligne).commande, OptionsHote::Commande::Aide) << ligne;
     for (char const* ligne : {"--version", "pilote --version"})
-        EXPECT_EQ(Lis(ligne).commande, Options::Commande::Version) << ligne;
+        EXPECT_EQ(Lis(ligne).commande, OptionsHote::Commande::Version) << ligne;
 }
 
 TEST(LigneDeCommande, AFilesNameKeepsItsLetters) {

@@ -3,7 +3,7 @@
 // steps out: not one wrong letter.
 #include "ModeleDeParagraphe.h"
 
-#include "Frontieres.h"
+#include "modele/Frontieres.h"
 
 #include <gtest/gtest.h>
 

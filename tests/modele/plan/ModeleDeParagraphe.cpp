@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "ModeleDeParagraphe.h"
 
-#include "Frontieres.h"
+#include "modele/Frontieres.h"
 
 using compagnon::GenrePortion;
 

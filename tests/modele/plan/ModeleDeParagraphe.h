@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "PlanDePortions.h"
+#include "modele/PlanDePortions.h"
 
 #include <cstdint>
 #include <random>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Alignement.h"
+#include "modele/ParagraphesRetrouves.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-using compagnon::AligneParagraphes;
+using compagnon::RetrouveParagraphes;
 using testing::ElementsAre;
 using Origine = std::optional<std::size_t>;
 
@@ -13,30 +13,30 @@ Origine const kNouveau = std::nullopt;
 } // namespace
 
 TEST(ParagraphAlignment, TheSameParagraphsAreThemselves) {
-    EXPECT_THAT(AligneParagraphes({u"a", u"a", u"b"}, {u"a", u"a", u"b"}),
+    EXPECT_THAT(RetrouveParagraphes({u"a", u"a", u"b"}, {u"a", u"a", u"b"}),
                 ElementsAre(Origine(0), Origine(1), Origine(2)));
 }
 
 TEST(ParagraphAlignment, TheOneThatChangedIsKnownByTheOthers) {
-    EXPECT_THAT(AligneParagraphes({u"a", u"b", u"c"}, {u"a", u"x", u"c"}),
+    EXPECT_THAT(RetrouveParagraphes({u"a", u"b", u"c"}, {u"a", u"x", u"c"}),
                 ElementsAre(Origine(0), Origine(1), Origine(2)));
 }
 
 TEST(ParagraphAlignment, ParagraphsAroundANewOneKeepTheirPlace) {
-    EXPECT_THAT(AligneParagraphes({u"a", u"b"}, {u"a", u"new", u"b"}),
+    EXPECT_THAT(RetrouveParagraphes({u"a", u"b"}, {u"a", u"new", u"b"}),
                 ElementsAre(Origine(0), kNouveau, Origine(1)));
 }
 
 TEST(ParagraphAlignment, OfEqualNeighboursWithANewOneNoneIsKnown) {
-    EXPECT_THAT(AligneParagraphes({u"x", u"a", u"a", u"y"}, {u"x", u"a", u"a", u"a", u"y"}),
+    EXPECT_THAT(RetrouveParagraphes({u"x", u"a", u"a", u"y"}, {u"x", u"a", u"a", u"a", u"y"}),
                 ElementsAre(Origine(0), kNouveau, kNouveau, kNouveau, Origine(3)));
 }
 
 TEST(ParagraphAlignment, TwoThatChangedPlacesAreNotTakenForEachOther) {
-    EXPECT_THAT(AligneParagraphes({u"a", u"b"}, {u"b", u"a"}), ElementsAre(kNouveau, kNouveau));
+    EXPECT_THAT(RetrouveParagraphes({u"a", u"b"}, {u"b", u"a"}), ElementsAre(kNouveau, kNouveau));
 }
 
 TEST(ParagraphAlignment, FromNothingEverythingIsNew) {
-    EXPECT_THAT(AligneParagraphes({}, {u"a"}), ElementsAre(kNouveau));
-    EXPECT_THAT(AligneParagraphes({u"a"}, {}), testing::IsEmpty());
+    EXPECT_THAT(RetrouveParagraphes({}, {u"a"}), ElementsAre(kNouveau));
+    EXPECT_THAT(RetrouveParagraphes({u"a"}, {}), testing::IsEmpty());
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "PlanDePortions.h"
+#include "modele/PlanDePortions.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

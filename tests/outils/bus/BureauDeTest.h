@@ -2,8 +2,8 @@
 #pragma once
 
 #include "CommandeBureau.h"
-#include "DossierTemporaire.h"
 #include "Processus.h"
+#include "outils/DossierTemporaire.h"
 
 #include <filesystem>
 #include <initializer_list>

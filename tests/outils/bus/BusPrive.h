@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "DossierTemporaire.h"
 #include "Processus.h"
+#include "outils/DossierTemporaire.h"
 
 #include <memory>
 #include <optional>

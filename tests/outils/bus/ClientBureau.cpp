@@ -32,14 +32,14 @@ void ClientBureau::Initialise(std::string const& cle) const {
     EXPECT_EQ(Erreur("InitialiseTexteur", {Q(cle)}), "");
 }
 
-std::vector<ZoneLue> ClientBureau::Synchronise(std::string const& identifiant) const {
+std::vector<ZoneServie> ClientBureau::Synchronise(std::string const& identifiant) const {
     QDBusMessage const reponse = Appelle("SynchronisePositions", {Q(identifiant)});
     EXPECT_EQ(reponse.errorMessage().toStdString(), "");
     QJsonParseError erreur{};
     QJsonDocument const document =
         QJsonDocument::fromJson(reponse.arguments().value(0).toString().toUtf8(), &erreur);
     EXPECT_EQ(erreur.error, QJsonParseError::NoError) << erreur.errorString().toStdString();
-    std::vector<ZoneLue> zones;
+    std::vector<ZoneServie> zones;
     for (QJsonValue const valeur : document.object().value(QLatin1String("Zones")).toArray()) {
         QJsonObject const zone = valeur.toObject();
         zones.push_back({DeBase64(zone.value(QLatin1String("Nom"))),

@@ -7,7 +7,7 @@
 #include <vector>
 
 /// A zone of a zone document, as it was read.
-struct ZoneLue {
+struct ZoneServie {
     std::string nom;
     std::string texte; // UTF-8
     int debutSel = 0;
@@ -28,7 +28,7 @@ class ClientBureau {
 
     void Initialise(std::string const& cle) const;
     /// The document's zones; none, and a failed test, on an error.
-    std::vector<ZoneLue> Synchronise(std::string const& identifiant) const;
+    std::vector<ZoneServie> Synchronise(std::string const& identifiant) const;
     bool PeutCorriger(std::string const& zone, int debut, int fin,
                       std::string const& attendu) const;
     /// The error's name; empty where the correction was made.

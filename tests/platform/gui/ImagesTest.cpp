@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "DossierTemporaire.h"
 #include "ImageCommune.h"
 #include "RoutinesGeneralesQt.h"
+#include "outils/DossierTemporaire.h"
 
+#include <QDir>
 #include <QIcon>
 #include <QImage>
 
@@ -46,13 +47,17 @@ class ApplicationIcon : public testing::Test {
   protected:
     /// An icon theme of one icon, in place of the system's.
     void MetsTheme() const {
-        QDir(dossier_.CheminQt("")).mkpath(QStringLiteral("essai/16x16/apps"));
+        QDir(Chemin("")).mkpath(QStringLiteral("essai/16x16/apps"));
         dossier_.Ecris("essai/index.theme",
                        "[Icon Theme]\nName=essai\nDirectories=16x16/apps\n"
                        "[16x16/apps]\nSize=16\nContext=Applications\nType=Fixed\n");
-        ASSERT_TRUE(Carre(16, Qt::green).save(dossier_.CheminQt("essai/16x16/apps/soffice.png")));
-        QIcon::setThemeSearchPaths({dossier_.CheminQt("")});
+        ASSERT_TRUE(Carre(16, Qt::green).save(Chemin("essai/16x16/apps/soffice.png")));
+        QIcon::setThemeSearchPaths({Chemin("")});
         QIcon::setThemeName(QStringLiteral("essai"));
+    }
+
+    QString Chemin(char const* nom) const {
+        return QString::fromStdString(dossier_.Chemin(nom).string());
     }
 
     DossierTemporaire dossier_;
@@ -63,8 +68,8 @@ TEST_F(ApplicationIcon, WithoutAPathThereIsNone) {
 }
 
 TEST_F(ApplicationIcon, AnImageFileIsItsOwnIcon) {
-    ASSERT_TRUE(Carre(24, Qt::red).save(dossier_.CheminQt("été 😀.png")));
-    auto const icone = Icone(dossier_.CheminQt("été 😀.png"));
+    ASSERT_TRUE(Carre(24, Qt::red).save(Chemin("été 😀.png")));
+    auto const icone = Icone(Chemin("été 😀.png"));
     ASSERT_FALSE(icone.isNull());
     ASSERT_FALSE(icone.availableSizes().isEmpty());
     EXPECT_EQ(QSize(24, 24), icone.availableSizes().constFirst());
@@ -76,7 +81,7 @@ TEST_F(ApplicationIcon, AProgramHasTheThemesIconOfItsName) {
     for (auto const* programme : {"soffice.bin", "soffice"}) {
         dossier_.Ecris(programme, "\x7F"
                                   "ELF");
-        auto const icone = Icone(dossier_.CheminQt(programme));
+        auto const icone = Icone(Chemin(programme));
         ASSERT_FALSE(icone.isNull()) << programme;
         EXPECT_EQ(QSize(16, 16), icone.availableSizes().constFirst());
         EXPECT_EQ(qRgb(0, 255, 0), Couleur(icone, 16));
@@ -87,7 +92,7 @@ TEST_F(ApplicationIcon, AProgramHasTheThemesIconOfItsName) {
 TEST_F(ApplicationIcon, AnUnknownProgramAndAFolderHaveNone) {
     MetsTheme();
     EXPECT_TRUE(Icone(QStringLiteral("/nowhere/no-such-program")).isNull());
-    EXPECT_TRUE(Icone(dossier_.CheminQt("")).isNull());
+    EXPECT_TRUE(Icone(Chemin("")).isNull());
     EXPECT_TRUE(Icone(QStringLiteral("/")).isNull());
 }
 

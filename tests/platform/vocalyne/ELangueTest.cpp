@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "eLangue.h"
-#include "Environnement.h"
+#include "VariableEnvironnement.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 #include "InitialisationGenerale.h"
 
 #include "DetruisApplication.h"
-#include "Environnement.h"
+#include "VariableEnvironnement.h"
 
 #include <QCoreApplication>
 

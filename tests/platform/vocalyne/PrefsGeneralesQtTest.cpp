@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "PrefsGeneralesQt.h"
 
-#include "DossierTemporaire.h"
+#include "outils/DossierTemporaire.h"
 
 #include <QFileInfo>
 
@@ -17,6 +17,8 @@ UniChaine U(char const* texte) {
 
 class Settings : public testing::Test {
   protected:
+    Settings() { dossier_.CedeAPersonne(); }
+
     /// Opens the file; null when nothing is to be written.
     static std::unique_ptr<PrefsGeneralesQt> Ouvre(UniChaine const& chemin,
                                                    ePrefsGenAcces acces = kPrefsGenLecture) {
@@ -27,8 +29,12 @@ class Settings : public testing::Test {
         return Ouvre(chemin)->Donne(U(kCleLangue), QVariant(0), true).toInt();
     }
 
+    UniChaine Chemin(char const* nom) const {
+        return UniChaine(QString::fromStdString(dossier_.Chemin(nom).string()));
+    }
+
     DossierTemporaire dossier_;
-    UniChaine const chemin_ = dossier_.Chemin("vocalyne.conf");
+    UniChaine const chemin_ = Chemin("vocalyne.conf");
 };
 
 TEST_F(Settings, AKeyWithGroupsIsReadFromTheFilesSections) {
@@ -48,9 +54,9 @@ TEST_F(Settings, AMissingKeyReadsAsTheDefault) {
 
 TEST_F(Settings, ReadingAMissingFileCreatesNothing) {
     EXPECT_EQ(0, Langue(chemin_));
-    EXPECT_EQ(0, Langue(dossier_.Chemin("sous/dossier/vocalyne.conf")));
+    EXPECT_EQ(0, Langue(Chemin("sous/dossier/vocalyne.conf")));
     Ouvre(chemin_, kPrefsGenLectureEcriture)->Donne(U("a"), QVariant(), false);
-    EXPECT_TRUE(dossier_.EstVide());
+    EXPECT_TRUE(dossier_.Noms().empty());
 }
 
 TEST_F(Settings, AnEmptyPathHasNoKeysAndCannotBeWritten) {
@@ -61,11 +67,11 @@ TEST_F(Settings, AnEmptyPathHasNoKeysAndCannotBeWritten) {
 }
 
 TEST_F(Settings, ADirectoryOrBytesInTheFilesPlaceReadAsHavingNoKeys) {
-    EXPECT_EQ(0, Langue(dossier_.Chemin("")));
+    EXPECT_EQ(0, Langue(Chemin("")));
     QByteArray octets;
     for (int octet = 0; octet < 20000; ++octet)
         octets.append(static_cast<char>(octet * 7 + octet / 256));
-    dossier_.Ecris("vocalyne.conf", octets);
+    dossier_.Ecris("vocalyne.conf", octets.toStdString());
     EXPECT_EQ(0, Langue(chemin_));
 }
 
@@ -77,12 +83,12 @@ TEST_F(Settings, AValueThatIsNoNumberReadsAsZero) {
 
 TEST_F(Settings, AnUnreadableFileReadsAsHavingNoKeysAndIsNotReplaced) {
     dossier_.Ecris("vocalyne.conf", "[g]\na=1\n");
-    auto const interdit = dossier_.Interdis("vocalyne.conf");
+    DossierTemporaire::Interdit interdit(dossier_.Chemin("vocalyne.conf"));
     auto const prefs = Ouvre(chemin_, kPrefsGenLectureEcriture);
     EXPECT_EQ(QVariant(5), prefs->Donne(U("g/a"), QVariant(5), true));
     EXPECT_TRUE(prefs->Mets(U("g/a"), QVariant(2)));
     EXPECT_FALSE(prefs->Enregistre());
-    interdit->Leve();
+    interdit.Leve();
     EXPECT_EQ("[g]\na=1\n", dossier_.Lis("vocalyne.conf"));
 }
 
@@ -105,7 +111,7 @@ TEST_F(Settings, WritingKeepsEveryOtherKey) {
 
 TEST_F(Settings, AFileThatDoesNotParseIsNotRewritten) {
     std::string const contenu = "[g]\na=1\nthis is no setting\n";
-    dossier_.Ecris("vocalyne.conf", QByteArray::fromStdString(contenu));
+    dossier_.Ecris("vocalyne.conf", contenu);
     auto const lecture = Ouvre(chemin_);
     lecture->Donne(U("g/a"), QVariant(), true);
     auto const prefs = Ouvre(chemin_, kPrefsGenLectureEcriture);
@@ -119,9 +125,9 @@ TEST_F(Settings, WhatWasSetIsReadBackBeforeItIsWritten) {
     EXPECT_TRUE(prefs->Mets(U("g/a"), QVariant(4)));
     EXPECT_EQ(QVariant(4), prefs->Donne(U("g/a"), QVariant(), true));
     EXPECT_EQ(QVariant(4), prefs->Donne(U("g/a"), QVariant(), false));
-    EXPECT_TRUE(dossier_.EstVide());
+    EXPECT_TRUE(dossier_.Noms().empty());
     EXPECT_TRUE(prefs->Enregistre());
-    EXPECT_FALSE(dossier_.EstVide());
+    EXPECT_FALSE(dossier_.Noms().empty());
     EXPECT_EQ(4, prefs->Donne(U("g/a"), QVariant(), true).toInt());
 }
 
@@ -159,7 +165,7 @@ TEST_F(Settings, WhatAnotherProcessWroteMeanwhileIsKept) {
 
 TEST_F(Settings, APlaceThatCannotBeWrittenIsReported) {
     dossier_.Ecris("fichier", "x");
-    auto const prefs = Ouvre(dossier_.Chemin("fichier/vocalyne.conf"), kPrefsGenLectureEcriture);
+    auto const prefs = Ouvre(Chemin("fichier/vocalyne.conf"), kPrefsGenLectureEcriture);
     EXPECT_TRUE(prefs->Mets(U("g/a"), QVariant(1)));
     EXPECT_FALSE(prefs->Enregistre());
     EXPECT_EQ("x", dossier_.Lis("fichier"));

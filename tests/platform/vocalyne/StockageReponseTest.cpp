@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "StockageReponse.h"
 
-#include "DossierTemporaire.h"
+#include "outils/DossierTemporaire.h"
 
 #include <gtest/gtest.h>
 
@@ -24,8 +24,12 @@ class RememberedAnswers : public testing::Test {
         return *StockageReponse::laListeStockeurDefaut.at(type);
     }
 
+    UniChaine Chemin(char const* nom) const {
+        return UniChaine(QString::fromStdString(dossier_.Chemin(nom).string()));
+    }
+
     DossierTemporaire dossier_;
-    UniChaine const chemin_ = dossier_.Chemin("vocalyne.conf");
+    UniChaine const chemin_ = Chemin("vocalyne.conf");
 };
 
 TEST_F(RememberedAnswers, TheKindsHaveTheHostsNumbers) {
@@ -34,14 +38,14 @@ TEST_F(RememberedAnswers, TheKindsHaveTheHostsNumbers) {
 
 TEST_F(RememberedAnswers, MakingAStorerTouchesNoFile) {
     Fais(DDialogue::kStockeurReglages);
-    EXPECT_TRUE(dossier_.EstVide());
+    EXPECT_TRUE(dossier_.Noms().empty());
 }
 
 TEST_F(RememberedAnswers, AskingForAnAnswerCreatesNoFile) {
     auto& stockeur = Fais(DDialogue::kStockeurReglages);
     EXPECT_EQ(std::nullopt, stockeur.Donne(U("a")));
     stockeur.Oublie(U("a"));
-    EXPECT_TRUE(dossier_.EstVide());
+    EXPECT_TRUE(dossier_.Noms().empty());
 }
 
 TEST_F(RememberedAnswers, EachKindHasOneStorerAndANewOneTakesItsPlace) {
@@ -88,7 +92,7 @@ TEST_F(RememberedAnswers, AnAnswerThatIsNoNumberIsNone) {
     auto& stockeur = Fais(DDialogue::kStockeurReglages);
     EXPECT_TRUE(stockeur.Mets(U("a"), 1));
     auto contenu = QByteArray::fromStdString(dossier_.Lis("vocalyne.conf"));
-    dossier_.Ecris("vocalyne.conf", contenu.replace("=1", "=oui"));
+    dossier_.Ecris("vocalyne.conf", contenu.replace("=1", "=oui").toStdString());
     EXPECT_EQ(std::nullopt, stockeur.Donne(U("a")));
 }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 // How long calls wait, and that a special time-out is theirs alone.
 #include "AgentDeTest.h"
-#include "BureauDeTest.h"
-#include "BusPrive.h"
+#include "outils/bus/BureauDeTest.h"
+#include "outils/bus/BusPrive.h"
 
 #include <QThread>
 

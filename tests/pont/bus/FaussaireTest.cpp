@@ -2,8 +2,8 @@
 // Any process of the user can answer a call that another was asked: the number is all it takes.
 #include "Faussaire.h"
 #include "AgentDeTest.h"
-#include "BureauDeTest.h"
-#include "BusPrive.h"
+#include "outils/bus/BureauDeTest.h"
+#include "outils/bus/BusPrive.h"
 
 #include <gtest/gtest.h>
 

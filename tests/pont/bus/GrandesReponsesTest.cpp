@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 // Replies up to what one message of the bus can carry (128 MiB), and past it.
 #include "AgentDeTest.h"
-#include "BureauDeTest.h"
-#include "BusPrive.h"
+#include "outils/bus/BureauDeTest.h"
+#include "outils/bus/BusPrive.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 // Identifiers that nobody gives out: no crash, no long wait, and the bus stays usable.
 #include "AgentDeTest.h"
-#include "BureauDeTest.h"
-#include "BusPrive.h"
+#include "outils/bus/BureauDeTest.h"
+#include "outils/bus/BusPrive.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 // What a synchronisation does to the host's collection, whatever the companion answers.
 #include "AgentDeTest.h"
-#include "BureauDeTest.h"
-#include "BusPrive.h"
+#include "outils/bus/BureauDeTest.h"
+#include "outils/bus/BusPrive.h"
 
 #include <gtest/gtest.h>
 

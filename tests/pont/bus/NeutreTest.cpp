@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 // Whatever goes wrong with a waited call reads as the neutral value.
 #include "AgentDeTest.h"
-#include "BureauDeTest.h"
-#include "BusPrive.h"
+#include "outils/bus/BureauDeTest.h"
+#include "outils/bus/BusPrive.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 // Documents with no zone at all, and with as many as a long book.
 #include "AgentDeTest.h"
-#include "BureauDeTest.h"
-#include "BusPrive.h"
+#include "outils/bus/BureauDeTest.h"
+#include "outils/bus/BusPrive.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 // What the operations send, and the road of a correction.
 #include "AgentDeTest.h"
-#include "BureauDeTest.h"
-#include "BusPrive.h"
+#include "outils/bus/BureauDeTest.h"
+#include "outils/bus/BusPrive.h"
 
 #include <QJsonArray>
 #include <QJsonObject>

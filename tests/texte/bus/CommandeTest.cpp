@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "BureauDeTest.h"
-#include "BusPrive.h"
-#include "ClientBureau.h"
+#include "outils/bus/BureauDeTest.h"
+#include "outils/bus/BusPrive.h"
+#include "outils/bus/ClientBureau.h"
 
 #include <QElapsedTimer>
 #include <QJsonObject>
@@ -98,7 +98,7 @@ TEST_F(Misbehaviour, AReplyHasJustTheBytesAskedForAndIsAZoneDocumentWhenItCan) {
         ASSERT_EQ(texte.size(), taille);
     }
     Commande().Deregle("SynchronisePositions", "taille", "1002", 1);
-    std::vector<ZoneLue> const zones = client.Synchronise(bureau.Identifiant());
+    std::vector<ZoneServie> const zones = client.Synchronise(bureau.Identifiant());
     ASSERT_EQ(zones.size(), 1U);
     EXPECT_EQ(zones[0].texte, std::string(zones[0].texte.size(), 'a'));
     EXPECT_GT(zones[0].texte.size(), 600U);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "BureauDeTest.h"
-#include "BusPrive.h"
-#include "ClientBureau.h"
+#include "outils/bus/BureauDeTest.h"
+#include "outils/bus/BusPrive.h"
+#include "outils/bus/ClientBureau.h"
 
 #include <gtest/gtest.h>
 
@@ -173,7 +173,7 @@ TEST_F(Corrections, InAZoneThatThePersonDeletedAreErrors) {
 TEST_F(Corrections, OtherZonesKeepTheirKeysWhenParagraphsComeAndGo) {
     std::string const apres = bureau.DonneCommande().InsereZone(zone, "Deux.");
     std::string const entre = bureau.DonneCommande().InsereZone(zone, "Un et demi.");
-    std::vector<ZoneLue> const zones = client.Synchronise(bureau.Identifiant());
+    std::vector<ZoneServie> const zones = client.Synchronise(bureau.Identifiant());
     ASSERT_EQ(zones.size(), 3U);
     EXPECT_EQ(zones[0].nom, zone);
     EXPECT_EQ(zones[1].nom, entre);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "BureauDeTest.h"
-#include "BusPrive.h"
-#include "ClientBureau.h"
+#include "outils/bus/BureauDeTest.h"
+#include "outils/bus/BusPrive.h"
+#include "outils/bus/ClientBureau.h"
 
 #include <gtest/gtest.h>
 

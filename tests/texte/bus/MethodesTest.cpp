@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "BureauDeTest.h"
-#include "BusPrive.h"
-#include "ClientBureau.h"
+#include "outils/bus/BureauDeTest.h"
+#include "outils/bus/BusPrive.h"
+#include "outils/bus/ClientBureau.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -39,7 +39,7 @@ class OfficeMethods : public testing::Test {
     BusPrive bus;
     BureauDeTest bureau;
     ClientBureau client;
-    std::vector<ZoneLue> zones;
+    std::vector<ZoneServie> zones;
 };
 
 } // namespace
@@ -53,7 +53,7 @@ TEST_F(OfficeMethods, EachParagraphIsAZoneOfItsOwn) {
 
 TEST_F(OfficeMethods, ZoneKeysStayAcrossSynchronisationsAndCorrections) {
     EXPECT_EQ(client.Corrige(zones[0].nom, 4, 8, "chats"), "");
-    std::vector<ZoneLue> const encore = client.Synchronise(bureau.Identifiant());
+    std::vector<ZoneServie> const encore = client.Synchronise(bureau.Identifiant());
     ASSERT_EQ(encore.size(), 2U);
     EXPECT_EQ(encore[0].nom, zones[0].nom);
     EXPECT_EQ(encore[1].nom, zones[1].nom);
@@ -61,7 +61,7 @@ TEST_F(OfficeMethods, ZoneKeysStayAcrossSynchronisationsAndCorrections) {
 }
 
 TEST_F(OfficeMethods, ZoneKeysShowNeitherTextNorFile) {
-    for (ZoneLue const& zone : zones) {
+    for (ZoneServie const& zone : zones) {
         EXPECT_EQ(zone.nom.find("lettre"), std::string::npos);
         EXPECT_EQ(zone.nom.find("chat"), std::string::npos);
     }
@@ -94,7 +94,7 @@ TEST_F(OfficeMethods, ASelectedRangeStandsInItsZoneAndItsContext) {
     EXPECT_EQ(client.Entier("DonneFinSelection"), 5);
     EXPECT_EQ(client.Entier("DonneDebutSelectionDansSonContexte"), 3);
     EXPECT_EQ(client.Entier("DonneFinSelectionDansSonContexte"), 5);
-    std::vector<ZoneLue> const encore = client.Synchronise(bureau.Identifiant());
+    std::vector<ZoneServie> const encore = client.Synchronise(bureau.Identifiant());
     EXPECT_EQ(encore[1].debutSel, 3);
     EXPECT_EQ(encore[1].finSel, 5);
     EXPECT_EQ(encore[0].debutSel, 0);
@@ -337,7 +337,7 @@ TEST(OfficeWithAnEmptyFile, ServesOneEmptyZoneInWhichTextCanBePut) {
     BusPrive bus;
     BureauDeTest bureau({{"vide.txt", ""}});
     ClientBureau const client(bureau.Instance());
-    std::vector<ZoneLue> const zones = client.Synchronise(bureau.Identifiant());
+    std::vector<ZoneServie> const zones = client.Synchronise(bureau.Identifiant());
     ASSERT_EQ(zones.size(), 1U);
     EXPECT_EQ(zones[0].texte, "");
     EXPECT_EQ(client.Texte("DonneContexteSelection"), "");
@@ -355,7 +355,7 @@ TEST(OfficeWithManyZones, ServesAHundredThousandOfThem) {
     }
     BureauDeTest bureau({{"grand.txt", texte}});
     ClientBureau const client(bureau.Instance());
-    std::vector<ZoneLue> const zones = client.Synchronise(bureau.Identifiant());
+    std::vector<ZoneServie> const zones = client.Synchronise(bureau.Identifiant());
     ASSERT_EQ(zones.size(), 100000U);
     EXPECT_EQ(client.Corrige(zones[99999].nom, 0, 10, "Fin"), "");
     EXPECT_EQ(bureau.Finis(), 0);

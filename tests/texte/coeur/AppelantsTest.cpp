@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Appelants.h"
+#include "coeur/Appelants.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Bureau.h"
-#include "DossierEssai.h"
+#include "coeur/Bureau.h"
+#include "outils/DossierEssai.h"
 
 using compagnon::Bureau;
 using compagnon::CodeErreur;

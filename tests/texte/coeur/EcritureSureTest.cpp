@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "EcritureSure.h"
-#include "DossierEssai.h"
+#include "coeur/EcritureSure.h"
+#include "outils/DossierEssai.h"
 
 #include <csignal>
 #include <sys/resource.h>
@@ -105,11 +105,9 @@ TEST_F(SafeWriting, NamesWithoutAnExtensionHiddenOnesAndLongOnesGetACopyToo) {
 
 TEST_F(SafeWriting, InAFolderThatMayNotBeWrittenTheTextGoesToTheTemporaryOne) {
     std::string const chemin = Ecris("a.txt", "avant");
-    std::filesystem::path const ailleurs = dossier / "tmp";
-    std::filesystem::create_directory(ailleurs);
-    if (::geteuid() == 0) {
-        ASSERT_EQ(::chown(ailleurs.c_str(), kPersonne, kPersonne), 0);
-    }
+    DossierTemporaire autre;
+    autre.CedeAPersonne();
+    std::filesystem::path const ailleurs = autre.Chemin();
     ASSERT_EQ(::chmod(dossier.c_str(), 0555), 0);
     EXPECT_EXIT(
         {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "LectureFichier.h"
-#include "DossierEssai.h"
+#include "coeur/LectureFichier.h"
+#include "outils/DossierEssai.h"
 
 #include <fcntl.h>
 #include <sys/socket.h>

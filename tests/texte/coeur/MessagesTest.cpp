@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Messages.h"
+#include "coeur/MessagesTexte.h"
 
-#include "Options.h"
+#include "coeur/OptionsBureau.h"
 
 #include <gtest/gtest.h>
 

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Options.h"
+#include "coeur/OptionsBureau.h"
 
 #include <gtest/gtest.h>
 
 using compagnon::Action;
 using compagnon::LisOptions;
-using compagnon::Options;
+using compagnon::OptionsBureau;
 
 namespace {
 
-Options Lis(std::vector<std::string> mots) {
+OptionsBureau Lis(std::vector<std::string> mots) {
     mots.insert(mots.begin(), "vocalyne-bureau-texte");
     std::vector<char*> argv;
     argv.reserve(mots.size() + 1);
@@ -23,7 +23,7 @@ Options Lis(std::vector<std::string> mots) {
 } // namespace
 
 TEST(OfficeOptions, FilesAndOptionsMayStandInAnyOrder) {
-    Options const options = Lis({"a.txt", "--instance", "moi", "b.txt", "--fin-avec-hote"});
+    OptionsBureau const options = Lis({"a.txt", "--instance", "moi", "b.txt", "--fin-avec-hote"});
     EXPECT_EQ(options.action, Action::Sers);
     EXPECT_EQ(options.instance, "moi");
     EXPECT_TRUE(options.finAvecHote);
@@ -57,7 +57,7 @@ TEST(OfficeOptions, AWrongOneIsNamed) {
           {{"--instance", "a.b", "a"}, "\"a.b\""},
           {{"--instance", std::string(201, 'a'), "a"}, "\"aaa"},
           {{}, "No file"}}) {
-        Options const options = Lis(mots);
+        OptionsBureau const options = Lis(mots);
         EXPECT_EQ(options.action, Action::Mauvaise);
         EXPECT_NE(options.erreur.find(nomme), std::string::npos) << options.erreur;
     }

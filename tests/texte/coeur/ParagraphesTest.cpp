@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Paragraphes.h"
+#include "coeur/Paragraphes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Environnement.h"
+#include "EnvironnementEnfant.h"
 
 #include <glib.h>
 
 #include <algorithm>
 #include <iterator>
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -53,4 +53,4 @@ std::vector<std::string> EnvironnementHerite() {
     return herite;
 }
 
-} // namespace bureau
+} // namespace extension

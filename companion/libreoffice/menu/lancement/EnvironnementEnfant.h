@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace bureau {
+namespace extension {
 
 /// The environment ("NAME=value") for a program that is no part of the office, from the office's
 /// own: without what makes the office find its libraries, its interpreter and its start-up, and
@@ -15,4 +15,4 @@ std::vector<std::string> EnvironnementEnfant(std::vector<std::string> const& her
 /// This process's environment.
 std::vector<std::string> EnvironnementHerite();
 
-} // namespace bureau
+} // namespace extension

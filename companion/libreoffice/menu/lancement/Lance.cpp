@@ -5,7 +5,7 @@
 
 #include <unistd.h>
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -39,4 +39,4 @@ std::string Lance(std::vector<std::string> const& ligne,
     return message;
 }
 
-} // namespace bureau
+} // namespace extension

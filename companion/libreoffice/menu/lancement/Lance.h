@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace bureau {
+namespace extension {
 
 /// Starts a program (absolute path first) on its own: in a session of its own, so that what ends
 /// the office or interrupts its terminal leaves it alone, with nobody here who must wait for it,
@@ -13,4 +13,4 @@ namespace bureau {
 std::string Lance(std::vector<std::string> const& ligne,
                   std::vector<std::string> const& environnement);
 
-} // namespace bureau
+} // namespace extension

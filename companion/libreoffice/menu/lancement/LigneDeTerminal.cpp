@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "LigneDeTerminal.h"
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -26,4 +26,4 @@ std::vector<std::string> LigneDeTerminal(std::vector<std::string> const& termina
     return ligne;
 }
 
-} // namespace bureau
+} // namespace extension

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace bureau {
+namespace extension {
 
 /// The command line that runs `hote` with `arguments` in a terminal (see `TerminalTrouve`), shows
 /// `invite` (UTF-8) at its end, and keeps the terminal open until a line is typed. Arguments stay
@@ -13,4 +13,4 @@ std::vector<std::string> LigneDeTerminal(std::vector<std::string> const& termina
                                          std::string const& invite, std::string const& hote,
                                          std::vector<std::string> const& arguments);
 
-} // namespace bureau
+} // namespace extension

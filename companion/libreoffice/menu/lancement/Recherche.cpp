@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -135,4 +135,4 @@ TerminalTrouve ChercheTerminal(Reglages const& reglages) {
     return {};
 }
 
-} // namespace bureau
+} // namespace extension

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace bureau {
+namespace extension {
 
 /// The host program, or why there is none.
 struct HoteTrouve {
@@ -32,4 +32,4 @@ struct TerminalTrouve {
 /// known, on PATH and in the usual folders.
 TerminalTrouve ChercheTerminal(Reglages const& reglages);
 
-} // namespace bureau
+} // namespace extension

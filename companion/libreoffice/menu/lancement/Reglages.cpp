@@ -3,7 +3,7 @@
 
 #include <cstdlib>
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -18,4 +18,4 @@ Reglages ReglagesDeLEnvironnement() {
     return {Valeur("VOCALYNE_HOTE"), Valeur("VOCALYNE_TERMINAL"), Valeur("PATH"), Valeur("HOME")};
 }
 
-} // namespace bureau
+} // namespace extension

@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace bureau {
+namespace extension {
 
 /// What the environment says about where programs are. Empty members: nothing was said.
 struct Reglages {
@@ -15,4 +15,4 @@ struct Reglages {
 
 Reglages ReglagesDeLEnvironnement();
 
-} // namespace bureau
+} // namespace extension

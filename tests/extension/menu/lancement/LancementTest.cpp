@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Environnement.h"
-#include "Lance.h"
-#include "LigneDeTerminal.h"
+#include "menu/lancement/EnvironnementEnfant.h"
+#include "menu/lancement/Lance.h"
+#include "menu/lancement/LigneDeTerminal.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-using bureau::EnvironnementEnfant;
+using extension::EnvironnementEnfant;
 using testing::ElementsAre;
 
 namespace {
 
 TEST(LigneDeTerminal, ArgumentsStayWordsOfTheirOwnWhateverTheyHold) {
     std::string const hote = "/un chemin/$(reboot)/hote";
-    auto const ligne =
-        bureau::LigneDeTerminal({"/usr/bin/xterm", "-e"}, "Entrée ; fin", hote, {"corrige", "a~b"});
+    auto const ligne = extension::LigneDeTerminal({"/usr/bin/xterm", "-e"}, "Entrée ; fin", hote,
+                                                  {"corrige", "a~b"});
     ASSERT_EQ(ligne.size(), 10U);
     EXPECT_EQ(ligne[1], "-e");
     EXPECT_EQ(ligne[2], "/bin/sh");
@@ -40,8 +40,8 @@ TEST(Environnement, TheHostIsSentToTheBusThatTheExtensionIsOn) {
 }
 
 TEST(Lance, AProgramThatCannotBeStartedIsSaid) {
-    EXPECT_EQ(bureau::Lance({"/bin/true"}, {}), "");
-    EXPECT_NE(bureau::Lance({"/nulle/part"}, {}), "");
+    EXPECT_EQ(extension::Lance({"/bin/true"}, {}), "");
+    EXPECT_NE(extension::Lance({"/nulle/part"}, {}), "");
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Recherche.h"
+#include "menu/lancement/Recherche.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -9,9 +9,9 @@
 #include <fstream>
 
 namespace fs = std::filesystem;
-using bureau::ChercheHote;
-using bureau::ChercheTerminal;
-using bureau::Reglages;
+using extension::ChercheHote;
+using extension::ChercheTerminal;
+using extension::Reglages;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Documents.h"
+#include "bus/DocumentsDuBus.h"
 
 #include <gtest/gtest.h>
 

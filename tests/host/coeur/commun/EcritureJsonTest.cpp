@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "EcritureJson.h"
+#include "commun/EcritureJson.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Alignement.h"
+#include "correction/Alignement.h"
 
 #include <gtest/gtest.h>
 

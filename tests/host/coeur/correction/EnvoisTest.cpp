@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Envois.h"
+#include "correction/Envois.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Recalage.h"
+#include "correction/Recalage.h"
 
 #include <QStringList>
 

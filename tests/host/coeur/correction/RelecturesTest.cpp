@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Relectures.h"
+#include "correction/Relectures.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Articles.h"
+#include "langue/Articles.h"
 #include "LexiqueFaux.h"
 
 #include <QHash>

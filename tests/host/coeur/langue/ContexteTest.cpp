@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Contexte.h"
+#include "langue/Contexte.h"
 
 #include <gtest/gtest.h>
 

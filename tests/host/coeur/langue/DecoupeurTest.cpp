@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Decoupeur.h"
+#include "langue/Decoupeur.h"
 
 #include <QStringList>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "DetecteLangue.h"
+#include "langue/DetecteLangue.h"
 #include "LexiqueFaux.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "DictionnaireHunspell.h"
-#include "ErreurHote.h"
+#include "commun/ErreurHote.h"
+#include "langue/DictionnaireHunspell.h"
 
 #include <QFile>
 #include <QTemporaryDir>

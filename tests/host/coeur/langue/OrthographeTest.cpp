@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Orthographe.h"
+#include "langue/Orthographe.h"
 #include "LexiqueFaux.h"
 
 #include <gtest/gtest.h>

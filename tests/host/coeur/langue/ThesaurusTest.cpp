@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "ErreurHote.h"
-#include "ThesaurusMyThes.h"
+#include "commun/ErreurHote.h"
+#include "langue/ThesaurusMyThes.h"
 
 #include <QFile>
 #include <QTemporaryDir>

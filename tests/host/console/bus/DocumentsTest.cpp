@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "BureauDeTest.h"
-#include "BusPrive.h"
 #include "CompagnonHostile.h"
 #include "Hote.h"
+#include "outils/bus/BureauDeTest.h"
+#include "outils/bus/BusPrive.h"
 
 #include <QCoreApplication>
 #include <QDBusMessage>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Hote.h"
 
-#include "DossierTemporaire.h"
-#include "Processus.h"
+#include "outils/DossierTemporaire.h"
+#include "outils/bus/Processus.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>

@@ -6,7 +6,7 @@ import pathlib
 import unittest
 
 from commun import bureau, bus_prive, dialogue, dossier_neuf, environnement, lance
-from terminal import INVITE, Terminal
+from terminal_test import INVITE, Terminal
 
 HOTE = os.environ["VOCALYNE_HOTE"]
 BUREAU = pathlib.Path(os.environ["VOCALYNE_BUREAU"])

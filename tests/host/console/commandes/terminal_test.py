@@ -9,7 +9,7 @@ import time
 import unittest
 
 from commun import PATIENCE
-from corrige import Corrige
+from corrige_test import Corrige
 from hote import HOTE
 
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Arguments.h"
+#include "console/pilote/Arguments.h"
 
 #include <QJsonDocument>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "LecteurDeLignes.h"
+#include "console/pilote/LecteurDeLignes.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

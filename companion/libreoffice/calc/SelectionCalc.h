@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "Choix.h"
 #include "ParcoursCalc.h"
+#include "document/SelectionVue.h"
 
-namespace bureau {
+namespace extension {
 
 /// What is selected in a spreadsheet document (null for nothing with a text): cells, which count as
 /// selected whole, or shapes. `cellules`: those met in the last walk; must outlive the result.
-std::unique_ptr<Choix>
+std::unique_ptr<SelectionVue>
 LisChoixCalc(com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& modele,
              Cellules const& cellules);
 
-} // namespace bureau
+} // namespace extension

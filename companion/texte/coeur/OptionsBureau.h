@@ -9,7 +9,7 @@ namespace compagnon {
 enum class Action { Sers, Aide, Version, Mauvaise };
 
 /// What the command line asks for.
-struct Options {
+struct OptionsBureau {
     Action action = Action::Sers;
     std::string erreur; ///< what is wrong with it, for `Mauvaise`
     std::string instance;
@@ -20,7 +20,7 @@ struct Options {
 };
 
 /// Permutes `argv`. Not for two threads.
-Options LisOptions(int argc, char* argv[]);
+OptionsBureau LisOptions(int argc, char* argv[]);
 
 /// Can it stand in a bus name and in an object path?
 bool EstInstanceValable(std::string const& instance) noexcept;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "ChoixDessine.h"
+#include "SelectionDessinee.h"
 
-#include "Erreur.h"
 #include "TexteDessine.h"
+#include "commun/ErreurDuService.h"
 
 #include <com/sun/star/drawing/XShapes.hpp>
 
@@ -12,7 +12,7 @@
 using namespace com::sun::star;
 using compagnon::Intervalle;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -26,7 +26,7 @@ std::shared_ptr<TexteDessine> TexteDe(ZoneOuverte& zone) {
     return paragraphe == nullptr ? nullptr : paragraphe->Texte();
 }
 
-class Formes : public Choix {
+class Formes : public SelectionVue {
   public:
     explicit Formes(uno::Reference<drawing::XShapes> const& formes) { Ajoute(formes); }
 
@@ -76,7 +76,7 @@ class Formes : public Choix {
     bool deborde_ = false;
 };
 
-class PlageDansUneForme : public Choix {
+class PlageDansUneForme : public SelectionVue {
   public:
     explicit PlageDansUneForme(uno::Reference<text::XTextRange> const& plage)
         : plage_(plage)
@@ -124,13 +124,13 @@ class PlageDansUneForme : public Choix {
 
 } // namespace
 
-std::unique_ptr<Choix> ChoixDeFormes(uno::Reference<uno::XInterface> const& selection) {
+std::unique_ptr<SelectionVue> ChoixDeFormes(uno::Reference<uno::XInterface> const& selection) {
     uno::Reference<drawing::XShapes> const formes(selection, uno::UNO_QUERY);
     return formes.is() ? std::make_unique<Formes>(formes) : nullptr;
 }
 
-std::unique_ptr<Choix> ChoixDansUneForme(uno::Reference<text::XTextRange> const& plage) {
+std::unique_ptr<SelectionVue> ChoixDansUneForme(uno::Reference<text::XTextRange> const& plage) {
     return std::make_unique<PlageDansUneForme>(plage);
 }
 
-} // namespace bureau
+} // namespace extension

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "ChoixCalc.h"
+#include "SelectionCalc.h"
 
-#include "ChoixDessine.h"
+#include "dessin/SelectionDessinee.h"
 
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
@@ -12,11 +12,11 @@
 using namespace com::sun::star;
 using compagnon::Intervalle;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
-class ChoixDeCellules : public Choix {
+class ChoixDeCellules : public SelectionVue {
   public:
     ChoixDeCellules(uno::Sequence<table::CellRangeAddress> const& plages, Cellules const& cellules)
         : plages_(plages)
@@ -78,8 +78,8 @@ class ChoixDeCellules : public Choix {
 
 } // namespace
 
-std::unique_ptr<Choix> LisChoixCalc(uno::Reference<frame::XModel> const& modele,
-                                    Cellules const& cellules) {
+std::unique_ptr<SelectionVue> LisChoixCalc(uno::Reference<frame::XModel> const& modele,
+                                           Cellules const& cellules) {
     uno::Reference<uno::XInterface> const selection = modele->getCurrentSelection();
     uno::Reference<table::XCell> const cellule(selection, uno::UNO_QUERY);
     if (cellule.is() && cellule->getType() != table::CellContentType_TEXT) {
@@ -98,4 +98,4 @@ std::unique_ptr<Choix> LisChoixCalc(uno::Reference<frame::XModel> const& modele,
     return ChoixDeFormes(selection);
 }
 
-} // namespace bureau
+} // namespace extension

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Options.h"
+#include "OptionsBureau.h"
 
-#include "Messages.h"
+#include "MessagesTexte.h"
 
 #include <algorithm>
 #include <getopt.h>
@@ -13,8 +13,8 @@ namespace {
 // A bus name has at most 255 bytes, the fixed part included.
 constexpr std::size_t kInstanceMax = 200;
 
-Options Mauvaise(std::string erreur) {
-    Options options;
+OptionsBureau Mauvaise(std::string erreur) {
+    OptionsBureau options;
     options.action = Action::Mauvaise;
     options.erreur = std::move(erreur);
     return options;
@@ -38,7 +38,7 @@ bool EstInstanceValable(std::string const& instance) noexcept {
                        [&](char c) { return estLettre(c) || estChiffre(c); });
 }
 
-Options LisOptions(int argc, char* argv[]) {
+OptionsBureau LisOptions(int argc, char* argv[]) {
     enum : int { Instance = 256, SansEnregistrer, FinAvecHote, Commande };
     static option const table[] = {{"help", no_argument, nullptr, 'h'},
                                    {"version", no_argument, nullptr, 'v'},
@@ -47,7 +47,7 @@ Options LisOptions(int argc, char* argv[]) {
                                    {"fin-avec-hote", no_argument, nullptr, FinAvecHote},
                                    {"commande", no_argument, nullptr, Commande},
                                    {nullptr, 0, nullptr, 0}};
-    Options options;
+    OptionsBureau options;
     optind = 0; // from the start, whoever parsed before
     opterr = 0; // we say it in the person's language
     for (;;) {

@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "Choix.h"
+#include "document/SelectionVue.h"
 
 #include <com/sun/star/text/XTextRange.hpp>
 
-namespace bureau {
+namespace extension {
 
 /// Texts of the drawing engine are selected: those of the selected shapes (groups and tables stand
 /// for what is in them); `selection` is the office's collection of shapes. Null for anything else.
-std::unique_ptr<Choix>
+std::unique_ptr<SelectionVue>
 ChoixDeFormes(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& selection);
 
 /// A range inside one such text, which a person is editing.
-std::unique_ptr<Choix>
+std::unique_ptr<SelectionVue>
 ChoixDansUneForme(com::sun::star::uno::Reference<com::sun::star::text::XTextRange> const& plage);
 
-} // namespace bureau
+} // namespace extension

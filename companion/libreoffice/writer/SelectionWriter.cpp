@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "ChoixWriter.h"
+#include "SelectionWriter.h"
 
-#include "Chaines.h"
-#include "ChoixDessine.h"
 #include "ParagrapheWriter.h"
+#include "commun/ChainesUno.h"
+#include "dessin/SelectionDessinee.h"
 
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/container/XIndexAccess.hpp>
@@ -22,7 +22,7 @@
 using namespace com::sun::star;
 using compagnon::Intervalle;
 
-namespace bureau {
+namespace extension {
 
 namespace {
 
@@ -37,7 +37,7 @@ uno::Reference<uno::XInterface> ParagrapheEn(uno::Reference<text::XTextRange> co
 }
 
 /// From a place in one paragraph to a place in the same or a later one.
-class ChoixDePlage : public Choix {
+class ChoixDePlage : public SelectionVue {
   public:
     ChoixDePlage(uno::Reference<text::XTextRange> const& debut,
                  uno::Reference<text::XTextRange> const& fin)
@@ -103,7 +103,7 @@ std::optional<std::pair<int, int>> PlaceDeCellule(std::u16string_view nom) {
 }
 
 /// Whole cells of a table.
-class ChoixDansUnTableau : public Choix {
+class ChoixDansUnTableau : public SelectionVue {
   public:
     ChoixDansUnTableau(uno::Reference<text::XTextTable> const& tableau, std::u16string_view plage) {
         std::size_t const milieu = std::min(plage.find(u':'), plage.size());
@@ -140,8 +140,8 @@ class ChoixDansUnTableau : public Choix {
     std::set<uno::XInterface*> identites_;
 };
 
-std::unique_ptr<Choix> LisTableau(uno::Reference<frame::XModel> const& modele,
-                                  uno::Reference<text::XTextTableCursor> const& cellules) {
+std::unique_ptr<SelectionVue> LisTableau(uno::Reference<frame::XModel> const& modele,
+                                         uno::Reference<text::XTextTableCursor> const& cellules) {
     // The cells do not say of which table they are; the caret does.
     uno::Reference<text::XTextViewCursorSupplier> const vue(modele->getCurrentController(),
                                                             uno::UNO_QUERY_THROW);
@@ -156,7 +156,7 @@ std::unique_ptr<Choix> LisTableau(uno::Reference<frame::XModel> const& modele,
 
 } // namespace
 
-std::unique_ptr<Choix> LisChoixWriter(uno::Reference<frame::XModel> const& modele) {
+std::unique_ptr<SelectionVue> LisChoixWriter(uno::Reference<frame::XModel> const& modele) {
     uno::Reference<uno::XInterface> const selection = modele->getCurrentSelection();
     if (auto formes = ChoixDeFormes(selection)) {
         return formes;
@@ -187,4 +187,4 @@ std::unique_ptr<Choix> LisChoixWriter(uno::Reference<frame::XModel> const& model
     return plage->EstComplet() ? std::move(plage) : nullptr;
 }
 
-} // namespace bureau
+} // namespace extension

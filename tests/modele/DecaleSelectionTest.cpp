@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "Selection.h"
+#include "modele/DecaleSelection.h"
 
 #include <gtest/gtest.h>
 

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "Choix.h"
+#include "document/SelectionVue.h"
 
 #include <com/sun/star/frame/XModel.hpp>
 #include <com/sun/star/text/XTextRange.hpp>
 
-namespace bureau {
+namespace extension {
 
 /// What is selected in a Writer document (null for nothing with a text): a range of one of its
 /// texts, cells of a table, shapes, or a range of a shape's text.
-std::unique_ptr<Choix>
+std::unique_ptr<SelectionVue>
 LisChoixWriter(com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& modele);
 
-} // namespace bureau
+} // namespace extension

@@ -2,21 +2,21 @@
 #pragma once
 
 #include "CarnetDeZones.h"
-#include "Intervalle.h"
+#include "modele/Intervalle.h"
 
 #include <memory>
 #include <optional>
 #include <utility>
 
-namespace bureau {
+namespace extension {
 
 /// What is selected in a document at one moment. Main thread; lives for one look at it.
-class Choix {
+class SelectionVue {
   public:
-    Choix() = default;
-    Choix(Choix const&) = delete;
-    Choix& operator=(Choix const&) = delete;
-    virtual ~Choix() = default;
+    SelectionVue() = default;
+    SelectionVue(SelectionVue const&) = delete;
+    SelectionVue& operator=(SelectionVue const&) = delete;
+    virtual ~SelectionVue() = default;
 
     /// The part of it in a zone just read; nothing when it does not reach there. Asked zone after
     /// zone in reading order, or of the first one alone.
@@ -35,9 +35,9 @@ class Choix {
 };
 
 /// A range that a caller selected in such a thing, as long as that one stays selected.
-class ChoixRetenu : public Choix {
+class SelectionRetenue : public SelectionVue {
   public:
-    ChoixRetenu(std::shared_ptr<ZoneOuverte> zone, compagnon::Intervalle plage)
+    SelectionRetenue(std::shared_ptr<ZoneOuverte> zone, compagnon::Intervalle plage)
         : zone_(std::move(zone))
         , plage_(plage) {}
 
@@ -53,4 +53,4 @@ class ChoixRetenu : public Choix {
     compagnon::Intervalle plage_;
 };
 
-} // namespace bureau
+} // namespace extension
