@@ -32,8 +32,9 @@ class ArbreEnregistre {
     ArbreEnregistre() { qInitResources_catalogues(); }
     ~ArbreEnregistre() {
         qCleanupResources_catalogues();
-        if (lArbreEstEnregistre)
+        if (lArbreEstEnregistre) {
             qInitResources_catalogues();
+        }
     }
     ArbreEnregistre(ArbreEnregistre const&) = delete;
     ArbreEnregistre& operator=(ArbreEnregistre const&) = delete;
@@ -47,8 +48,9 @@ UniChaine Litteral(char const* texte) {
 
 void ChargeDomaineTexteur() {
     ArbreEnregistre const arbre;
-    if (domaineTexteur != nullptr)
+    if (domaineTexteur != nullptr) {
         return;
+    }
     InitLocaleAvecQRC(&domaineTexteur, Litteral(":/fichiers/TexteurEn.mo"), kLangueAnglais, false);
     InitLocaleAvecQRC(&domaineTexteur, Litteral(":/fichiers/TexteurFr.mo"), kLangueFrancais, false);
 }
@@ -64,8 +66,9 @@ struct Sentinelle {
 
 /// At the end of the process nothing is released: Qt is half gone by then, and memory goes anyway.
 __attribute__((destructor)) void Finalise() {
-    if (!leProcessusFinit)
+    if (!leProcessusFinit) {
         LibereModule();
+    }
 }
 
 } // namespace

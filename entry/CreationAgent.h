@@ -13,8 +13,9 @@
 template <class Agent>
 std::unique_ptr<Agent> CreeAgentInitialise(InfosApplication const& infos,
                                            UniChaine const& idDocument) {
-    if (!EstApplicationSupportee(infos) || idDocument == UniChaine())
+    if (!EstApplicationSupportee(infos) || idDocument == UniChaine()) {
         return nullptr;
+    }
     auto agent = std::make_unique<Agent>(idDocument);
     return InitialiseAgentSelonInfos(agent.get(), infos) ? std::move(agent) : nullptr;
 }

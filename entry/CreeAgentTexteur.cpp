@@ -6,7 +6,8 @@
 
 InterfaceAgentTexteur* CreeAgentTexteur(InfosApplication const* infos,
                                         UniChaine const* idDocument) {
-    if (infos == nullptr || idDocument == nullptr)
+    if (infos == nullptr || idDocument == nullptr) {
         return nullptr;
+    }
     return CreeAgentInitialise<ModuleProxyOOo>(*infos, *idDocument).release();
 }

@@ -7,8 +7,9 @@
 
 void DonneNomsTexteurs(UniChaine* noms) {
     // The 4.0 name alone, although windows of 3.0 are recognised too: the host knows both by it.
-    if (noms != nullptr)
+    if (noms != nullptr) {
         *noms = UniChaine(classesFenetre::kOpenOffice4, UniChaine::kCodageLitteral, -1);
+    }
 }
 
 InterfaceTexteur* CreeTexteur() {
@@ -20,8 +21,9 @@ InterfaceTexteur* CreeTexteurPalette() {
 }
 
 bool DonneIdentificateurDocumentCourant(InfosApplication const* infos, UniChaine* idDocument) {
-    if (infos == nullptr || idDocument == nullptr || !EstApplicationSupportee(*infos))
+    if (infos == nullptr || idDocument == nullptr || !EstApplicationSupportee(*infos)) {
         return false;
+    }
     *idDocument = infos->Id;
     return true;
 }

@@ -45,8 +45,9 @@ void InitialiseModule() {
         eLangueSelonELangueAffichage(static_cast<eLangueAffichage>(affichage)));
     auto* const applicationDeLHote = QCoreApplication::instance();
     InitQApplication();
-    if (applicationDeLHote == nullptr)
+    if (applicationDeLHote == nullptr) {
         ApplicationDuModule() = QCoreApplication::instance();
+    }
     StockageReponse::Initialise(DDialogue::kStockeurReglages, CheminReglages(),
                                 QSettings::NativeFormat);
     InitialisationGenerale::InitApresQApp();

@@ -24,8 +24,9 @@ UniChaine DecodeTexteJson(std::string_view valeur) {
     sdd::TamponMemoire tampon(kCapaciteInitiale);
     sdd::Base64::Decode(valeur.data(), valeur.size(), tampon);
     auto const* const octets = tampon.DonneOctets();
-    if (tampon.DonneTaille() == 0)
+    if (tampon.DonneTaille() == 0) {
         return {};
+    }
     return UniChaine(octets, UniChaine::kCodageUtf8,
                      static_cast<int>(strnlen(octets, tampon.DonneTaille())));
 }

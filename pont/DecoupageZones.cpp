@@ -23,16 +23,18 @@ class Lecteur {
 
     bool Prends(char attendu) {
         PasseBlancs();
-        if (ici_ == fin_ || *ici_ != attendu)
+        if (ici_ == fin_ || *ici_ != attendu) {
             return false;
+        }
         ++ici_;
         return true;
     }
 
     bool PrendsTexte(std::string_view attendu) {
         PasseBlancs();
-        if (std::string_view(ici_, Reste()).substr(0, attendu.size()) != attendu)
+        if (std::string_view(ici_, Reste()).substr(0, attendu.size()) != attendu) {
             return false;
+        }
         ici_ += attendu.size();
         return true;
     }
@@ -40,18 +42,22 @@ class Lecteur {
     bool PrendsObjet(std::string_view& objet) {
         PasseBlancs();
         auto const* const debut = ici_;
-        if (!Prends('{'))
+        if (!Prends('{')) {
             return false;
+        }
         for (int profondeur = 1; profondeur > 0;) {
-            if (ici_ == fin_)
+            if (ici_ == fin_) {
                 return false;
+            }
             char const c = *ici_++;
             if (c == '"') {
-                if (!PasseFinDeTexte())
+                if (!PasseFinDeTexte()) {
                     return false;
+                }
             } else if (c == '{' || c == '[') {
-                if (++profondeur > kProfondeurMax)
+                if (++profondeur > kProfondeurMax) {
                     return false;
+                }
             } else if (c == '}' || c == ']') {
                 --profondeur;
             } else if (c == '/') {
@@ -66,19 +72,22 @@ class Lecteur {
     std::size_t Reste() const { return static_cast<std::size_t>(fin_ - ici_); }
 
     void PasseBlancs() {
-        while (ici_ != fin_ && (*ici_ == ' ' || *ici_ == '\t' || *ici_ == '\n' || *ici_ == '\r'))
+        while (ici_ != fin_ && (*ici_ == ' ' || *ici_ == '\t' || *ici_ == '\n' || *ici_ == '\r')) {
             ++ici_;
+        }
     }
 
     /// From inside a text to behind its closing quote.
     bool PasseFinDeTexte() {
         for (;;) {
             auto const* const guillemet = static_cast<char const*>(std::memchr(ici_, '"', Reste()));
-            if (guillemet == nullptr)
+            if (guillemet == nullptr) {
                 return false;
+            }
             // Texts in Base64 hold no backslash: this looks at each character once.
-            if (std::memchr(ici_, '\\', static_cast<std::size_t>(guillemet - ici_)) != nullptr)
+            if (std::memchr(ici_, '\\', static_cast<std::size_t>(guillemet - ici_)) != nullptr) {
                 return PasseFinDeTexteEchappe();
+            }
             ici_ = guillemet + 1;
             return true;
         }
@@ -87,10 +96,12 @@ class Lecteur {
     bool PasseFinDeTexteEchappe() {
         while (ici_ != fin_) {
             char const c = *ici_++;
-            if (c == '"')
+            if (c == '"') {
                 return true;
-            if (c == '\\' && ici_ != fin_)
+            }
+            if (c == '\\' && ici_ != fin_) {
                 ++ici_;
+            }
         }
         return false;
     }
@@ -104,20 +115,24 @@ class Lecteur {
 std::optional<std::vector<std::string_view>> DecoupeZones(std::string_view document) {
     Lecteur lecteur(document);
     if (!lecteur.Prends('{') || !lecteur.PrendsTexte("\"Zones\"") || !lecteur.Prends(':') ||
-        !lecteur.Prends('['))
+        !lecteur.Prends('[')) {
         return std::nullopt;
+    }
     std::vector<std::string_view> zones;
     if (!lecteur.Prends(']')) {
         do {
             std::string_view objet;
-            if (!lecteur.PrendsObjet(objet))
+            if (!lecteur.PrendsObjet(objet)) {
                 return std::nullopt;
+            }
             zones.push_back(objet);
         } while (lecteur.Prends(','));
-        if (!lecteur.Prends(']'))
+        if (!lecteur.Prends(']')) {
             return std::nullopt;
+        }
     }
-    if (!lecteur.Prends('}') || !lecteur.EstALaFin())
+    if (!lecteur.Prends('}') || !lecteur.EstALaFin()) {
         return std::nullopt;
+    }
     return zones;
 }

@@ -24,16 +24,18 @@ std::string_view Texte(Json::Value const& objet, char const* cle, std::string& t
     auto const& valeur = Membre(objet, cle);
     char const* debut = nullptr;
     char const* fin = nullptr;
-    if (valeur.getString(&debut, &fin))
+    if (valeur.getString(&debut, &fin)) {
         return {debut, static_cast<std::size_t>(fin - debut)};
+    }
     tampon = valeur.isArray() || valeur.isObject() ? std::string() : valeur.asString();
     return tampon;
 }
 
 int Entier(Json::Value const& objet, char const* cle) {
     auto const& valeur = Membre(objet, cle);
-    if (!valeur.isConvertibleTo(Json::intValue))
+    if (!valeur.isConvertibleTo(Json::intValue)) {
         Json::throwRuntimeError("Type is not convertible to int");
+    }
     return valeur.asInt();
 }
 

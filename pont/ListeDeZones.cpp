@@ -19,8 +19,9 @@ ZoneRecue LisZone(Json::Value const& element) {
     auto const& styles = lectureJson::Membre(element, "InfosStyle");
     if (lectureJson::EstListe(styles)) {
         zone.styles.reserve(styles.size());
-        for (auto const& plage : styles)
+        for (auto const& plage : styles) {
             zone.styles.push_back(lectureJson::Plage(plage));
+        }
     }
     return zone;
 }
@@ -29,15 +30,17 @@ ZoneRecue LisZone(Json::Value const& element) {
 /// parser's tree of a whole long document takes three times its size, and is slow to walk.
 std::optional<std::vector<ZoneRecue>> LisUneParUne(std::string const& octets) {
     auto const morceaux = DecoupeZones(octets);
-    if (!morceaux)
+    if (!morceaux) {
         return std::nullopt;
+    }
     std::vector<ZoneRecue> zones;
     zones.reserve(morceaux->size());
     lectureJson::AnalyseurJson analyseur;
     try {
         for (auto const& morceau : *morceaux) {
-            if (!analyseur.Analyse(morceau))
+            if (!analyseur.Analyse(morceau)) {
                 return std::nullopt;
+            }
             zones.push_back(LisZone(analyseur.DonneRacine()));
         }
     } catch (Json::Exception const&) {
@@ -49,17 +52,21 @@ std::optional<std::vector<ZoneRecue>> LisUneParUne(std::string const& octets) {
 } // namespace
 
 void LisListeDeZones(std::string const& octets, std::function<void(ZoneRecue&&)> const& recois) {
-    if (octets.empty())
+    if (octets.empty()) {
         return;
+    }
     if (auto lues = LisUneParUne(octets)) {
-        for (auto& zone : *lues)
+        for (auto& zone : *lues) {
             recois(std::move(zone));
+        }
         return;
     }
     auto const racine = lectureJson::Analyse(octets);
     auto const& zones = lectureJson::Membre(racine, "Zones");
-    if (!lectureJson::EstListe(zones))
+    if (!lectureJson::EstListe(zones)) {
         return;
-    for (auto const& element : zones)
+    }
+    for (auto const& element : zones) {
         recois(LisZone(element));
+    }
 }

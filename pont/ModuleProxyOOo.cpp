@@ -52,52 +52,61 @@ bool ModuleProxyOOo::InitialiseTexteur(UniChaine const& classe, UniChaine& /*mes
         AlerteExtensionRequise();
         return false;
     }
-    if (!proxy_)
+    if (!proxy_) {
         return false;
+    }
     IdentificateurDocument const id(DonneIdentificateur());
     DelaiTemporaire const delai(*proxy_, kDelaiInitialisation);
     return reponseProxy::Attends(*proxy_, proxy_->InitialiseTexteur(id.DonneDocument()));
 }
 
 bool ModuleProxyOOo::DocEstMort() {
-    if (!proxy_)
+    if (!proxy_) {
         return true;
+    }
     IdentificateurDocument const id(DonneIdentificateur());
     DelaiTemporaire const delai(*proxy_, kDelaiDocEstMort);
     return reponseProxy::Lis<bool>(*proxy_, proxy_->DocEstMort(id.DonneDocument()));
 }
 
 void ModuleProxyOOo::InitialisePour(int mode) {
-    if (!proxy_)
+    if (!proxy_) {
         return;
-    if (mode == 0)
+    }
+    if (mode == 0) {
         proxy_->InitialisePourCorrecteur();
-    else
+    } else {
         proxy_->InitialisePourOutils(mode == 1);
+    }
 }
 
 void ModuleProxyOOo::ActivePour(int mode) {
-    if (!proxy_)
+    if (!proxy_) {
         return;
-    if (mode == 0)
+    }
+    if (mode == 0) {
         proxy_->ActivePourCorrecteur();
-    else if (mode == 1 || mode == 2)
+    } else if (mode == 1 || mode == 2) {
         proxy_->ActivePourOutils();
+    }
 }
 
 void ModuleProxyOOo::RompsLienCorrecteur() {
-    if (proxy_)
+    if (proxy_) {
         proxy_->RompsLienCorrecteur();
+    }
 }
 
 void ModuleProxyOOo::RompsLienTexteur() {
-    if (proxy_)
+    if (proxy_) {
         proxy_->RompsLienTexteur();
+    }
 }
 
 void ModuleProxyOOo::Suspends() {
-    if (!proxy_)
+    if (!proxy_) {
         return;
+    }
     try {
         proxy_->Suspends();
     } catch (...) { // NOLINT(bugprone-empty-catch): suspension never fails towards the host

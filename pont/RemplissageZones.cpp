@@ -10,8 +10,9 @@ void AjouteZones(std::string const& octets, VocalyneOpenOfficeProxyQDBUS* proxy,
     LisListeDeZones(octets, [&](ZoneRecue&& lue) {
         auto zone = std::make_unique<ZoneDeTexteOOoProxy>(proxy, agent, lue.texte, lue.nom,
                                                           lue.debutSel, lue.finSel);
-        for (auto const& plage : lue.styles)
+        for (auto const& plage : lue.styles) {
             zone->AjouteStyle(plage);
+        }
         zones.AjoutePossedee(std::move(zone));
     });
 }

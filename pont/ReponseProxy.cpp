@@ -31,8 +31,9 @@ bool AttendsLaFin(QDBusConnection const& bus, QDBusPendingCall const& appel, mil
             std::this_thread::yield();
             continue;
         }
-        if (attendu >= delai || !bus.isConnected())
+        if (attendu >= delai || !bus.isConnected()) {
             return appel.isFinished();
+        }
         std::this_thread::sleep_for(std::min(attendu / 16, kPauseMax));
     }
     return true;
@@ -46,8 +47,9 @@ QString DemandeProprietaire(QDBusConnection const& bus, QString const& service,
                                                   nomDuBus, QStringLiteral("GetNameOwner"));
     demande << service;
     auto const appel = bus.asyncCall(demande, static_cast<int>(delai.count()));
-    if (!AttendsLaFin(bus, appel, delai) || !appel.isValid())
+    if (!AttendsLaFin(bus, appel, delai) || !appel.isValid()) {
         return {};
+    }
     // The bus itself is the only one that can sign with its name.
     auto const reponse = appel.reply();
     return reponse.service() == nomDuBus ? reponse.arguments().value(0).toString() : QString();
@@ -58,10 +60,12 @@ QString DemandeProprietaire(QDBusConnection const& bus, QString const& service,
 /// anew.
 bool VientDuCompagnon(QDBusAbstractInterface& proxy, QString const& expediteur,
                       milliseconds delai) {
-    if (expediteur.isEmpty())
+    if (expediteur.isEmpty()) {
         return false;
-    if (proxy.property(kPropriete).toString() == expediteur)
+    }
+    if (proxy.property(kPropriete).toString() == expediteur) {
         return true;
+    }
     auto const proprietaire = DemandeProprietaire(proxy.connection(), proxy.service(), delai);
     proxy.setProperty(kPropriete, proprietaire);
     return proprietaire == expediteur;
@@ -74,8 +78,9 @@ namespace reponseProxy {
 bool Attends(QDBusAbstractInterface& proxy, QDBusPendingCall const& appel) {
     auto const delai = proxy.timeout() < 0 ? kDelaiParDefaut : milliseconds(proxy.timeout());
     auto const depart = Horloge::now();
-    if (!AttendsLaFin(proxy.connection(), appel, delai) || !appel.isValid())
+    if (!AttendsLaFin(proxy.connection(), appel, delai) || !appel.isValid()) {
         return false;
+    }
     // Asking for the owner may take what is left of the time, not as much again.
     auto const attendu = std::chrono::duration_cast<milliseconds>(Horloge::now() - depart);
     return VientDuCompagnon(proxy, appel.reply().service(),

@@ -28,13 +28,15 @@ bool Attends(QDBusAbstractInterface& proxy, QDBusPendingCall const& appel);
 /// Waits as `Attends` does and reads argument 0 as a `Valeur` (QString, int or bool).
 template <class Valeur>
 Valeur Lis(QDBusAbstractInterface& proxy, QDBusPendingCall const& appel) {
-    if (!Attends(proxy, appel))
+    if (!Attends(proxy, appel)) {
         return Valeur();
+    }
     auto const argument = appel.reply().arguments().value(0);
     if (argument.userType() == qMetaTypeId<QDBusArgument>()) {
         auto const enveloppe = argument.value<QDBusArgument>();
-        if (enveloppe.currentType() != QDBusArgument::BasicType)
+        if (enveloppe.currentType() != QDBusArgument::BasicType) {
             return Valeur();
+        }
         auto const contenu = enveloppe.asVariant();
         return contenu.userType() == qMetaTypeId<Valeur>() ? contenu.value<Valeur>() : Valeur();
     }

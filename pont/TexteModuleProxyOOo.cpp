@@ -33,15 +33,17 @@ UniChaine ModuleProxyOOo::DonneFinDeParagraphe() {
 }
 
 bool ModuleProxyOOo::SynchronisePositions(CollectionZonesDeTexte& zones) {
-    if (!proxy_)
+    if (!proxy_) {
         return false;
+    }
     std::string octets;
     {
         // The reply, its message and its 16-bit text are let go of before the document is parsed:
         // together they take three times its size.
         auto const appel = proxy_->SynchronisePositions(DonneIdentificateur().VersQString());
-        if (!reponseProxy::Attends(*proxy_, appel))
+        if (!reponseProxy::Attends(*proxy_, appel)) {
             return false;
+        }
         octets = LisTexte(*proxy_, appel).VersUtf8();
     }
     AjouteZones(octets, proxy_.get(), this, zones);
@@ -53,14 +55,16 @@ bool ModuleProxyOOo::PermetsRetourDeCharriot() {
 }
 
 int ModuleProxyOOo::AjusteSelectionPourOutils(int debut, int fin) {
-    if (proxy_)
+    if (proxy_) {
         proxy_->AjusteSelectionPourOutils(debut, fin);
+    }
     return 0;
 }
 
 UniChaine ModuleProxyOOo::DonneContexte(int* debut, int* fin) {
-    if (!proxy_)
+    if (!proxy_) {
         return {};
+    }
     auto texte = DonneContexteSelection();
     *debut = DonneDebutSelectionDansSonContexte();
     *fin = DonneFinSelectionDansSonContexte();
@@ -68,8 +72,9 @@ UniChaine ModuleProxyOOo::DonneContexte(int* debut, int* fin) {
 }
 
 int ModuleProxyOOo::RemplaceEtReselectionne(UniChaine const& texte) {
-    if (!proxy_ || !connexionSession::PeutVoyager(texte))
+    if (!proxy_ || !connexionSession::PeutVoyager(texte)) {
         return 0;
+    }
     auto const appel = proxy_->RemplaceEtReselectionne(texte.VersQString());
     return reponseProxy::EstPartie(appel) ? texte.Longueur() : 0;
 }

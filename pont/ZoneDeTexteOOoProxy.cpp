@@ -26,8 +26,9 @@ bool ZoneDeTexteOOoProxy::AccepteIntervalles(int /*debut1*/, int /*fin1*/, int /
 
 bool ZoneDeTexteOOoProxy::CorrigeDansTexteur(int debut, int fin, UniChaine const& texte,
                                              bool drapeau) {
-    if (!EstReliee() || !connexionSession::PeutVoyager(texte))
+    if (!EstReliee() || !connexionSession::PeutVoyager(texte)) {
         return false;
+    }
     auto const appel =
         proxy_->CorrigeDansTexteur(nom_.VersQString(), debut, fin, texte.VersQString(), drapeau);
     texte_.Remplace(debut, positions::Difference(fin, debut), texte);
@@ -36,17 +37,20 @@ bool ZoneDeTexteOOoProxy::CorrigeDansTexteur(int debut, int fin, UniChaine const
 
 TexteAvecAttributs ZoneDeTexteOOoProxy::DonneTexte() {
     TexteAvecAttributs texte(sdd::T(texte_));
-    for (auto const& plage : styles_)
+    for (auto const& plage : styles_) {
         texte.MetsAttribut(static_cast<int>(plage.debut), static_cast<int>(plage.longueur),
                            static_cast<std::uint16_t>(plage.style));
-    if (agent_ != nullptr)
+    }
+    if (agent_ != nullptr) {
         agent_->TraiteTexteLu(texte);
+    }
     return texte;
 }
 
 bool ZoneDeTexteOOoProxy::PeutCorriger(int debut, int fin, UniChaine const& texte) {
-    if (!EstReliee() || !connexionSession::PeutVoyager(texte))
+    if (!EstReliee() || !connexionSession::PeutVoyager(texte)) {
         return false;
+    }
     return reponseProxy::Lis<bool>(
         *proxy_, proxy_->PeutCorriger(nom_.VersQString(), debut, fin, texte.VersQString()));
 }
@@ -58,7 +62,8 @@ void ZoneDeTexteOOoProxy::AjusteIntervalle(int debut, int fin, int* debutAjuste,
 }
 
 bool ZoneDeTexteOOoProxy::SelectionneIntervalle(int debut, int fin) {
-    if (!EstReliee())
+    if (!EstReliee()) {
         return false;
+    }
     return reponseProxy::EstPartie(proxy_->SelectionneIntervalle(nom_.VersQString(), debut, fin));
 }

@@ -36,25 +36,28 @@ UniChaine ZoneVersJson(std::vector<PlageStyle> const& styles, UniChaine const& t
     Json::Value racine;
     racine["Nom"] = TexteVersJson(nom);
     racine["Texte"] = TexteVersJson(texte);
-    for (auto const& plage : styles)
+    for (auto const& plage : styles) {
         racine["InfosStyle"].append(PlageVersJson(plage.debut, plage.Fin(), plage.style));
+    }
     return Ecris(racine);
 }
 
 UniChaine ChaineAttribueeVersJson(TexteAvecAttributs const& texte) {
     Json::Value racine;
     racine["Texte"] = TexteVersJson(sdd::T(texte.DonneTexte()));
-    for (auto const& plage : texte.DonnePlages())
+    for (auto const& plage : texte.DonnePlages()) {
         racine["InfosStyle"].append(PlageVersJson(static_cast<std::uint32_t>(plage.debut),
                                                   static_cast<std::uint32_t>(plage.fin),
                                                   plage.attribut));
+    }
     return Ecris(racine);
 }
 
 TexteAvecAttributs JsonVersChaineAttribuee(UniChaine const& json, UniChaine& nom) {
     TexteAvecAttributs texte;
-    if (json.EstVide())
+    if (json.EstVide()) {
         return texte;
+    }
     auto const racine = lectureJson::Analyse(json.VersUtf8());
     std::string tampon;
     nom = DecodeTexteJson(lectureJson::Texte(racine, "Nom", tampon));

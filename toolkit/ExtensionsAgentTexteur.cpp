@@ -36,8 +36,9 @@ int ImplAgentTexteur::DonneFinSelectionTexte() {
 
 int ImplAgentTexteur::DonneFinZone(int position) {
     for (int const borne : bornes_) {
-        if (borne > position)
+        if (borne > position) {
             return borne;
+        }
     }
     return bornes_.empty() ? -1 : bornes_.back();
 }

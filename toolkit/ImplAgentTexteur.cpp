@@ -33,12 +33,14 @@ ImplAgentTexteur::~ImplAgentTexteur() = default;
 
 void ImplAgentTexteur::DonneImageApplication(ImageCommune& image) {
     auto const chemin = CheminApplication();
-    if (chemin.EstVide())
+    if (chemin.EstVide()) {
         return;
+    }
     auto const icone = RoutinesGeneralesQt::DonneIconDeApplication(chemin);
     auto const tailles = icone.availableSizes();
-    if (!tailles.isEmpty())
+    if (!tailles.isEmpty()) {
         image.Prends(icone.pixmap(tailles.first()));
+    }
 }
 
 UniChaine ImplAgentTexteur::DonneNomApplication() {
@@ -72,15 +74,17 @@ bool ImplAgentTexteur::SynchronisePositions(CollectionZonesDeTexte& zones) {
     zones.RetireEmpruntees(this);
     zones_.clear();
     Bornes bornes;
-    if (!LisBornes(bornes))
+    if (!LisBornes(bornes)) {
         return false;
+    }
     for (int pos = 0; pos < bornes.longueur;) {
         int const fin = DonneFinZoneBornee(pos, bornes.longueur);
         auto& zone = *zones_.emplace_back(std::make_unique<ImplZoneDeTexteTEMP>(this, pos, fin));
         zones.AjouteEmpruntee(zone, this);
         if (pos <= bornes.debutSelection && bornes.debutSelection < fin &&
-            pos <= bornes.finSelection && bornes.finSelection <= fin)
+            pos <= bornes.finSelection && bornes.finSelection <= fin) {
             zone.MetsSelection(bornes.debutSelection - pos, bornes.finSelection - pos);
+        }
         zone.Remplis();
         pos = fin;
     }
@@ -97,8 +101,9 @@ bool ImplAgentTexteur::InitialiseTexteur(UniChaine const& /*classe*/, UniChaine&
 }
 
 int ImplAgentTexteur::AjusteSelectionPourOutils(int debut, int fin) {
-    if (!PeutModifier())
+    if (!PeutModifier()) {
         return 0;
+    }
     int const a = positions::Somme(debut, debutContexte_);
     int const b = positions::Somme(fin, finContexte_);
     return b <= a || a < 0 ? a : SelectionneDansTexteur(a, b);
@@ -126,8 +131,9 @@ void ImplAgentTexteur::RemplaceDansZones(int debut, int fin, int finZone, UniCha
                                          bool drapeau) {
     RemplaceDansTexteur(debut, fin, finZone, texte, drapeau);
     int const delta = positions::Difference(texte.Longueur(), positions::Difference(fin, debut));
-    for (auto& zone : zones_)
+    for (auto& zone : zones_) {
         zone->Decale(fin, finZone, delta);
+    }
 }
 
 void ImplAgentTexteur::NormaliseTexteLu(TexteAvecAttributs& texte) {
@@ -138,8 +144,9 @@ void ImplAgentTexteur::NormaliseTexteLu(TexteAvecAttributs& texte) {
         for (int i = 0; i < longueur; ++i) {
             auto const& t = texte.DonneTexte();
             if (t[i] == kInsecable &&
-                ((i > 0 && t[i - 1] == kEspace) || (i + 1 < longueur && t[i + 1] == kEspace)))
+                ((i > 0 && t[i - 1] == kEspace) || (i + 1 < longueur && t[i + 1] == kEspace))) {
                 texte.MetsUnite(i, kEspace);
+            }
         }
     }
     TraiteTexteLu(texte);

@@ -72,15 +72,18 @@ void ImplZoneDeTexteTEMP::Remplis() {
             // A block that cannot be read ends the reading: the filler keeps the positions right.
             return;
         }
-        if (place == 0)
+        if (place == 0) {
             return;
+        }
         pos += place;
     }
 }
 
 void ImplZoneDeTexteTEMP::Decale(int fin, int finZone, int delta) {
-    if (fin_ != finZone && fin <= debut_)
+    if (fin_ != finZone && fin <= debut_) {
         debut_ = Somme(debut_, delta);
-    if (fin <= fin_)
+    }
+    if (fin <= fin_) {
         fin_ = Somme(fin_, delta);
+    }
 }

@@ -7,8 +7,9 @@
 #include <cstdint>
 
 bool InitialiseAgentSelonInfos(ImplAgentTexteur* agent, InfosApplication const& infos) {
-    if (agent == nullptr)
+    if (agent == nullptr) {
         return false;
+    }
     int const mode = infos.Genre >= 1 && infos.Genre <= 3 ? infos.Genre - 1 : 3;
     UniChaine message;
     return agent->InitialiseTexteur(infos.ClasseInitialisation, message, mode);
@@ -22,8 +23,10 @@ void DonneBornesZone(ImplAgentTexteur& agent, int position, int fin, int& longue
     int precedente = agent.DonneFinZone(0);
     if (finZone > precedente) {
         for (int suivante = agent.DonneFinZone(precedente);
-             precedente < suivante && suivante < finZone; suivante = agent.DonneFinZone(precedente))
+             precedente < suivante && suivante < finZone;
+             suivante = agent.DonneFinZone(precedente)) {
             precedente = suivante;
+        }
     } else {
         precedente = 0;
     }
@@ -32,10 +35,12 @@ void DonneBornesZone(ImplAgentTexteur& agent, int position, int fin, int& longue
 }
 
 bool EstFinDeZone(ImplAgentTexteur& agent, int a, int b, int c) {
-    if (agent.DonneLongueurTexte() < b)
+    if (agent.DonneLongueurTexte() < b) {
         return true;
-    if (a != b || b != c || b < 1)
+    }
+    if (a != b || b != c || b < 1) {
         return false;
+    }
     return agent.DonneFinZone(b - 1) == b;
 }
 

@@ -16,8 +16,9 @@ namespace {
 std::string Processeur() {
     std::ifstream infos("/proc/cpuinfo");
     for (std::string ligne; std::getline(infos, ligne);) {
-        if (ligne.rfind("model name", 0) == 0)
+        if (ligne.rfind("model name", 0) == 0) {
             return ligne.substr(ligne.find(':') + 2);
+        }
     }
     return "unknown processor";
 }

@@ -16,8 +16,9 @@ constexpr int kPatience = 60000; // ms: far above what anything here takes
 Processus::Processus(QString const& programme, QStringList const& arguments) {
     processus_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     processus_.start(programme, arguments);
-    if (!processus_.waitForStarted(kPatience))
+    if (!processus_.waitForStarted(kPatience)) {
         throw std::runtime_error("cannot start " + programme.toStdString());
+    }
 }
 
 Processus::~Processus() {
@@ -30,9 +31,10 @@ Processus::~Processus() {
 
 QString Processus::LisLigne() {
     while (!processus_.canReadLine()) {
-        if (!processus_.waitForReadyRead(kPatience))
+        if (!processus_.waitForReadyRead(kPatience)) {
             throw std::runtime_error(processus_.program().toStdString() +
                                      " did not say what was waited for");
+        }
     }
     return QString::fromUtf8(processus_.readLine()).trimmed();
 }

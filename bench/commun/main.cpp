@@ -53,11 +53,13 @@ int PrendsToutes(std::vector<Mesure> const& mesures, banc::Ampleur ampleur) {
     for (auto const& mesure : mesures) {
         auto const ligne = mesure.prends(ampleur);
         Imprime(ligne, ampleur.essai);
-        if (!ampleur.essai && !ligne.EstTenue())
+        if (!ampleur.essai && !ligne.EstTenue()) {
             ++manquees;
+        }
     }
-    if (manquees != 0)
+    if (manquees != 0) {
         std::printf("\n%d of %zu limits missed\n", manquees, mesures.size());
+    }
     return manquees;
 }
 
@@ -89,17 +91,22 @@ int Execute(QCoreApplication const& application) {
     lecteur.setFlags(QCommandLineOption::HiddenFromHelp);
     options.addOptions({essai, greffon, seulement, repondeur, lecteur, bureau});
     options.addPositionalArgument(QStringLiteral("zones"), {}, QString());
-    if (!options.parse(application.arguments()))
+    if (!options.parse(application.arguments())) {
         return RefuseOptions(options, options.errorText());
-    if (options.isSet(QStringLiteral("help")))
+    }
+    if (options.isSet(QStringLiteral("help"))) {
         options.showHelp();
-    if (options.isSet(repondeur))
+    }
+    if (options.isSet(repondeur)) {
         return banc::Reponds(options.value(repondeur));
-    if (options.isSet(lecteur))
+    }
+    if (options.isSet(lecteur)) {
         return banc::LisEtDisMemoire(options.value(lecteur),
                                      options.positionalArguments().value(0).toInt());
-    if (options.isSet(bureau))
+    }
+    if (options.isSet(bureau)) {
         return banc::ConduisBureau(options.value(bureau));
+    }
     auto mesures = Mesures(options.value(greffon));
     if (options.isSet(seulement)) {
         auto const voulues = options.values(seulement);
@@ -107,11 +114,13 @@ int Execute(QCoreApplication const& application) {
             return !voulues.contains(QLatin1String(mesure.nom));
         };
         mesures.erase(std::remove_if(mesures.begin(), mesures.end(), estDeTrop), mesures.end());
-        if (mesures.size() != static_cast<std::size_t>(voulues.size()))
+        if (mesures.size() != static_cast<std::size_t>(voulues.size())) {
             return RefuseOptions(options, QStringLiteral("no such measure"));
+        }
     }
-    if (!options.isSet(greffon))
+    if (!options.isSet(greffon)) {
         return RefuseOptions(options, QStringLiteral("--greffon is missing"));
+    }
     return PrendsToutes(mesures, banc::Ampleur{options.isSet(essai)}) == 0 ? 0 : 1;
 }
 

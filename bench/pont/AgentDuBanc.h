@@ -22,8 +22,9 @@ class AgentDuBanc : public ModuleProxyOOo {
         : InterfaceTexteur(UniChaine(identifiant))
         , ModuleProxyOOo(UniChaine(identifiant)) {
         UniChaine message;
-        if (!InitialiseTexteur(UniChaine(), message, 0))
+        if (!InitialiseTexteur(UniChaine(), message, 0)) {
             throw std::runtime_error("the bench's companion does not answer");
+        }
     }
 };
 

@@ -15,13 +15,15 @@ LigneDeMesure MesureAttente(Ampleur ampleur) {
     AgentDuBanc agent(instance, 0);
     auto& proxy = *agent.DonneProxy();
     auto const verifie = [](bool reponse) {
-        if (!reponse)
+        if (!reponse) {
             throw std::logic_error("a call was not answered");
+        }
     };
     auto const fois = [](auto const& appel) {
         return Passe([&] {
-                   for (int i = 0; i < kParTour; ++i)
+                   for (int i = 0; i < kParTour; ++i) {
                        appel();
+                   }
                }) /
                kParTour;
     };

@@ -11,8 +11,9 @@ constexpr int kLongueur = 3;
 
 void MetsEnOrdre(sdd::ChaineN const& texte, int nombre) {
     TexteAvecAttributs attribue(texte);
-    for (int plage = 0; plage < nombre; ++plage)
+    for (int plage = 0; plage < nombre; ++plage) {
         attribue.MetsAttribut(plage * kPas, kLongueur, static_cast<std::uint16_t>(1 + plage % 2));
+    }
 }
 
 } // namespace

@@ -25,8 +25,9 @@ void CorrigeEtAttends(AgentDuBanc const& agent, ZoneDeTexteOOoProxy const& zone)
     QDBusPendingReply<> reponse =
         agent.DonneProxy()->CorrigeDansTexteur(zone.DonneNom().VersQString(), 0, 1, lettre, false);
     reponse.waitForFinished();
-    if (reponse.isError())
+    if (reponse.isError()) {
         throw std::runtime_error(reponse.error().message().toStdString());
+    }
 }
 
 } // namespace

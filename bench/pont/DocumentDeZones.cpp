@@ -25,8 +25,9 @@ UniChaine Texte(int zone) {
         UniChaine::kCodageLitteral);
     auto const debut = zone * 37 % prose.Longueur();
     auto texte = prose.Extrais(debut, kUnitesParZone);
-    while (texte.Longueur() < kUnitesParZone)
+    while (texte.Longueur() < kUnitesParZone) {
         texte.Ajoute(prose.Extrais(0, kUnitesParZone - texte.Longueur()));
+    }
     return texte;
 }
 
@@ -40,8 +41,9 @@ std::string Plage(int debut, int fin, int style) {
 std::string FaisDocument(int nombreDeZones) {
     std::string document = "{\"Zones\":[";
     for (int zone = 0; zone < nombreDeZones; ++zone) {
-        if (zone != 0)
+        if (zone != 0) {
             document += ',';
+        }
         auto const nom = "z" + std::to_string(zone + 1);
         document += "{\"Nom\":\"" + Encode(UniChaine(nom.c_str(), UniChaine::kCodageLitteral)) +
                     "\",\"Texte\":\"" + Encode(Texte(zone)) +

@@ -16,8 +16,9 @@ namespace {
 void LisEtLibere(QString const& reponse, int attendues) {
     CollectionZonesDeTexte zones;
     AjouteZones(UniChaine(reponse).VersUtf8(), nullptr, nullptr, zones);
-    if (zones.DonneNombre() != attendues)
+    if (zones.DonneNombre() != attendues) {
         throw std::logic_error("zones were lost");
+    }
 }
 
 void AnalyseSeulement(std::string const& octets) {
@@ -26,8 +27,9 @@ void AnalyseSeulement(std::string const& octets) {
     Json::Reader lecteur;
 #pragma GCC diagnostic pop
     Json::Value racine;
-    if (!lecteur.parse(octets.data(), octets.data() + octets.size(), racine, true))
+    if (!lecteur.parse(octets.data(), octets.data() + octets.size(), racine, true)) {
         throw std::logic_error("the document does not parse");
+    }
 }
 
 /// The string as QtDBus gives it: nobody else holds it.
@@ -63,8 +65,9 @@ LigneDeMesure MesureCroissance(Ampleur ampleur) {
         ampleur.Tours(31), [&] { return Occupe([&] { LisEtLibere(grande, grand); }) / grand; },
         [&] {
             return Occupe([&] {
-                       for (int fois = 0; fois < kRapport; ++fois)
+                       for (int fois = 0; fois < kRapport; ++fois) {
                            LisEtLibere(petite, petit);
+                       }
                    }) /
                    grand;
         });

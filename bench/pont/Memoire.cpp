@@ -16,8 +16,9 @@ namespace {
 long PicEnKio() {
     std::ifstream statut("/proc/self/status");
     for (std::string ligne; std::getline(statut, ligne);) {
-        if (ligne.rfind("VmHWM:", 0) == 0)
+        if (ligne.rfind("VmHWM:", 0) == 0) {
             return std::stol(ligne.substr(6));
+        }
     }
     throw std::runtime_error("/proc/self/status has no VmHWM");
 }
@@ -34,8 +35,9 @@ int LisEtDisMemoire(QString const& instance, int zones) {
     AgentDuBanc agent(instance, zones);
     auto const base = PicEnKio();
     CollectionZonesDeTexte toutes;
-    if (!agent.SynchronisePositions(toutes) || toutes.DonneNombre() != zones)
+    if (!agent.SynchronisePositions(toutes) || toutes.DonneNombre() != zones) {
         throw std::runtime_error("the large reply was not read");
+    }
     std::printf("%ld\n", PicEnKio() - base);
     return 0;
 }

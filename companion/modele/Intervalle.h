@@ -21,9 +21,9 @@ struct Intervalle {
     bool EstVide() const noexcept { return debut == fin; }
 
     /// The bounds as unsigned positions; only for a range that `EstDans` accepted.
-    std::size_t Debut() const noexcept { return static_cast<std::size_t>(debut); }
-    std::size_t Fin() const noexcept { return static_cast<std::size_t>(fin); }
-    std::size_t Longueur() const noexcept { return Fin() - Debut(); }
+    std::size_t DonneDebut() const noexcept { return static_cast<std::size_t>(debut); }
+    std::size_t DonneFin() const noexcept { return static_cast<std::size_t>(fin); }
+    std::size_t DonneLongueur() const noexcept { return DonneFin() - DonneDebut(); }
 
     friend bool operator==(Intervalle a, Intervalle b) noexcept {
         return a.debut == b.debut && a.fin == b.fin;

@@ -73,7 +73,7 @@ class PlanDePortions {
     std::optional<Morceau> PointInsertion(std::size_t decalage) const;
     bool ContientObstacle(std::size_t avant, std::size_t apres) const;
     bool EstAuBordDe(GenrePortion genre, std::size_t portion, bool apres) const;
-    std::size_t SourceDe(std::size_t portion, std::size_t decalage) const;
+    std::size_t DonneSource(std::size_t portion, std::size_t decalage) const;
     bool Ecris(Morceau const& morceau, std::u16string_view part,
                std::vector<EtapeEdition>& etapes) const;
     bool EcrisSource(std::size_t portion, std::size_t debut, std::size_t fin,

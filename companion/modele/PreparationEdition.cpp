@@ -57,7 +57,7 @@ bool PlanDePortions::EstAuBordDe(GenrePortion genre, std::size_t portion, bool a
     return false;
 }
 
-std::size_t PlanDePortions::SourceDe(std::size_t portion, std::size_t decalage) const {
+std::size_t PlanDePortions::DonneSource(std::size_t portion, std::size_t decalage) const {
     auto const apres =
         std::partition_point(segments_.begin(), segments_.end(), [&](Segment const& segment) {
             return segment.portion < portion ||
@@ -134,7 +134,7 @@ bool PlanDePortions::PeutModifier(std::size_t debut, std::size_t fin) const {
         Portion const& portion = portions_[morceau.portion];
         bool const auDebut = morceau.source == 0;
         bool const entiere =
-            auDebut && SourceDe(morceau.portion, morceau.fin - 1) + 1 == portion.source.size();
+            auDebut && DonneSource(morceau.portion, morceau.fin - 1) + 1 == portion.source.size();
         if (auDebut && EstAuBordDe(GenrePortion::Repere, morceau.portion, false)) {
             return false;
         }
@@ -174,7 +174,7 @@ bool PlanDePortions::VideUneEtendue(std::vector<Morceau> const& morceaux,
         for (std::size_t i = 0; i < morceaux.size(); ++i) {
             Morceau const& morceau = morceaux[i];
             if (morceau.portion >= debut && morceau.portion < fin) {
-                reste -= SourceDe(morceau.portion, morceau.fin - 1) + 1 - morceau.source;
+                reste -= DonneSource(morceau.portion, morceau.fin - 1) + 1 - morceau.source;
                 reste += parts[i].size();
             }
         }
@@ -196,11 +196,12 @@ bool PlanDePortions::Ecris(Morceau const& morceau, std::u16string_view part,
     std::size_t const portion = morceau.portion;
     std::size_t const a = morceau.debut + edition.debut;
     if (edition.retire == 0) {
-        std::size_t const u = edition.debut == 0 ? morceau.source : SourceDe(portion, a - 1) + 1;
+        std::size_t const u = edition.debut == 0 ? morceau.source : DonneSource(portion, a - 1) + 1;
         etapes.push_back({portion, u, u, std::u16string(edition.ajout), portions_[portion].source});
         return true;
     }
-    return EcrisSource(portion, SourceDe(portion, a), SourceDe(portion, a + edition.retire - 1) + 1,
+    return EcrisSource(portion, DonneSource(portion, a),
+                       DonneSource(portion, a + edition.retire - 1) + 1,
                        std::u16string(edition.ajout), etapes);
 }
 

@@ -21,10 +21,10 @@ Localisation Refuse(Refus raison) noexcept {
 /// The document's text with a range of it replaced.
 std::u16string Remplace(std::u16string_view texte, Intervalle plage, std::u16string_view par) {
     std::u16string resultat;
-    resultat.reserve(texte.size() - plage.Longueur() + par.size());
-    resultat.append(texte.substr(0, plage.Debut()));
+    resultat.reserve(texte.size() - plage.DonneLongueur() + par.size());
+    resultat.append(texte.substr(0, plage.DonneDebut()));
     resultat.append(par);
-    resultat.append(texte.substr(plage.Fin()));
+    resultat.append(texte.substr(plage.DonneFin()));
     return resultat;
 }
 
@@ -51,8 +51,8 @@ Localisation RetrouveApresEdition(Intervalle plage, std::u16string_view croyance
 
     std::size_t const strict = plage.EstVide() ? 1 : 0;
     Intervalle trouvee = plage;
-    if (plage.Fin() + strict > debutSur) {
-        if (plage.Debut() < finSure + strict) {
+    if (plage.DonneFin() + strict > debutSur) {
+        if (plage.DonneDebut() < finSure + strict) {
             return Refuse(Refus::Incertain);
         }
         auto const versFin = [&](std::int32_t position) {
@@ -71,7 +71,7 @@ Localisation RetrouveApresEdition(Intervalle plage, std::u16string_view croyance
 
 void TexteSuivi::Donne(TextePartage texte) noexcept {
     croyance_ = std::move(texte);
-    borneSure_ = Croyance().size();
+    borneSure_ = DonneCroyance().size();
 }
 
 bool TexteSuivi::Confirme(std::u16string_view texte) noexcept {
@@ -86,7 +86,7 @@ void TexteSuivi::Oublie() noexcept {
     Donne(nullptr);
 }
 
-std::u16string_view TexteSuivi::Croyance() const noexcept {
+std::u16string_view TexteSuivi::DonneCroyance() const noexcept {
     return croyance_ ? std::u16string_view(*croyance_) : std::u16string_view();
 }
 
@@ -98,10 +98,10 @@ Localisation TexteSuivi::Localise(Intervalle plage, std::u16string_view document
     if (!plage.EstDans(croyance.size()) || document.size() > kPositionMax) {
         return Refuse(Refus::HorsLimites);
     }
-    if (CoupePaire(croyance, plage.Debut()) || CoupePaire(croyance, plage.Fin())) {
+    if (CoupePaire(croyance, plage.DonneDebut()) || CoupePaire(croyance, plage.DonneFin())) {
         return Refuse(Refus::CoupePaire);
     }
-    if (plage.Fin() > borneSure_) {
+    if (plage.DonneFin() > borneSure_) {
         return Refuse(Refus::Incertain);
     }
     if (EstLeMemeTexte(croyance, document)) {
@@ -113,21 +113,22 @@ Localisation TexteSuivi::Localise(Intervalle plage, std::u16string_view document
 Localisation TexteSuivi::Localise(Intervalle plage, std::u16string_view document,
                                   std::u16string_view attendu) const noexcept {
     Localisation const trouvee = Localise(plage, document);
-    if (trouvee && document.substr(trouvee.plage.Debut(), trouvee.plage.Longueur()) != attendu) {
+    if (trouvee &&
+        document.substr(trouvee.plage.DonneDebut(), trouvee.plage.DonneLongueur()) != attendu) {
         return Refuse(Refus::Different);
     }
     return trouvee;
 }
 
 void TexteSuivi::NoteCorrection(Intervalle plage, std::u16string_view remplacement) {
-    std::u16string_view const croyance = Croyance();
+    std::u16string_view const croyance = DonneCroyance();
     if (!croyance_ || !plage.EstDans(croyance.size())) {
         NoteRefus(plage);
         return;
     }
     // The part that is certain ends after the range (see Localise), so it moves with the text.
-    std::size_t const borne = std::max(borneSure_, plage.Fin());
-    std::size_t const nouvelleBorne = borne - plage.Longueur() + remplacement.size();
+    std::size_t const borne = std::max(borneSure_, plage.DonneFin());
+    std::size_t const nouvelleBorne = borne - plage.DonneLongueur() + remplacement.size();
     croyance_ = std::make_shared<std::u16string const>(Remplace(croyance, plage, remplacement));
     borneSure_ = nouvelleBorne;
 }
@@ -141,15 +142,16 @@ Localisation TexteSuivi::Corrige(Intervalle plage, std::u16string_view remplacem
                                  TextePartage& document) {
     std::u16string_view const avant = document ? std::u16string_view(*document) : u"";
     Localisation trouvee = Localise(plage, avant);
-    if (trouvee && avant.size() - trouvee.plage.Longueur() + remplacement.size() > kPositionMax) {
+    if (trouvee &&
+        avant.size() - trouvee.plage.DonneLongueur() + remplacement.size() > kPositionMax) {
         trouvee = Refuse(Refus::HorsLimites);
     }
     if (!trouvee) {
         NoteRefus(plage);
         return trouvee;
     }
-    bool const memeTexte = EstLeMemeTexte(Croyance(), avant);
-    std::size_t const borne = borneSure_ - plage.Longueur() + remplacement.size();
+    bool const memeTexte = EstLeMemeTexte(DonneCroyance(), avant);
+    std::size_t const borne = borneSure_ - plage.DonneLongueur() + remplacement.size();
     auto apres =
         std::make_shared<std::u16string const>(Remplace(avant, trouvee.plage, remplacement));
     if (memeTexte) {

@@ -56,7 +56,7 @@ class TexteSuivi {
     /// The host knows nothing (any more): every range is refused.
     void Oublie() noexcept;
     /// What the host believes; empty when nothing is known.
-    std::u16string_view Croyance() const noexcept;
+    std::u16string_view DonneCroyance() const noexcept;
 
     /// Where `plage` (the host's offsets) stands in `document`. Linear, without allocation.
     Localisation Localise(Intervalle plage, std::u16string_view document) const noexcept;

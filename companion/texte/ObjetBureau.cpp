@@ -33,8 +33,8 @@ QDBusMessage Reponse(QDBusMessage const& appel, Resultat<T> const& resultat) {
 
 std::u16string_view TexteSelection(DocumentTexte const& document) {
     Selection const& selection = document.DonneSelection();
-    return std::u16string_view(*document.Texte(selection.zone))
-        .substr(selection.plage.Debut(), selection.plage.Longueur());
+    return std::u16string_view(*document.DonneTexte(selection.zone))
+        .substr(selection.plage.DonneDebut(), selection.plage.DonneLongueur());
 }
 
 } // namespace
@@ -44,7 +44,7 @@ ObjetBureau::ObjetBureau(Bureau& bureau, bool peutEnregistrer, QObject* parent)
     , bureau_(bureau)
     , peutEnregistrer_(peutEnregistrer) {}
 
-std::string ObjetBureau::NomAppelant() const {
+std::string ObjetBureau::DonneNomAppelant() const {
     return VersUtf8(message().service());
 }
 
@@ -78,7 +78,7 @@ void ObjetBureau::Execute(std::function<Resultat<Rien>()> const& appel) {
 
 template <class T>
 T ObjetBureau::Demande(std::function<T(DocumentTexte const&)> const& question) {
-    return Sers<T>([this, question, qui = NomAppelant()]() -> Resultat<T> {
+    return Sers<T>([this, question, qui = DonneNomAppelant()]() -> Resultat<T> {
         Resultat<DocumentTexte*> const document = bureau_.Courant(qui);
         if (!document) {
             return document.DonneErreur();
@@ -88,23 +88,23 @@ T ObjetBureau::Demande(std::function<T(DocumentTexte const&)> const& question) {
 }
 
 void ObjetBureau::ActivePourCorrecteur() {
-    Execute([this, qui = NomAppelant()] { return bureau_.Active(qui); });
+    Execute([this, qui = DonneNomAppelant()] { return bureau_.Active(qui); });
 }
 
 void ObjetBureau::ActivePourOutils() {
-    Execute([this, qui = NomAppelant()] { return bureau_.Active(qui); });
+    Execute([this, qui = DonneNomAppelant()] { return bureau_.Active(qui); });
 }
 
 void ObjetBureau::AjusteSelectionPourOutils(int deltaDebut, int deltaFin) {
-    Execute([this, qui = NomAppelant(), deltaDebut, deltaFin] {
+    Execute([this, qui = DonneNomAppelant(), deltaDebut, deltaFin] {
         return bureau_.AjusteSelection(qui, deltaDebut, deltaFin);
     });
 }
 
 void ObjetBureau::CorrigeDansTexteur(QString const& idZone, int leDebut, int laFin,
                                      QString const& laChaine, bool /*automatique*/) {
-    Execute([this, qui = NomAppelant(), zone = VersUtf8(idZone), plage = Intervalle{leDebut, laFin},
-             texte = VersUtf16(laChaine)] {
+    Execute([this, qui = DonneNomAppelant(), zone = VersUtf8(idZone),
+             plage = Intervalle{leDebut, laFin}, texte = VersUtf16(laChaine)] {
         return bureau_.CorrigeDansTexteur(qui, zone, plage, texte);
     });
 }
@@ -116,7 +116,7 @@ bool ObjetBureau::DocEstMort(QString const& leId) {
 
 QString ObjetBureau::DonneCheminDocument() {
     return Demande<QString>(
-        [](DocumentTexte const& document) { return VersQString(document.Chemin()); });
+        [](DocumentTexte const& document) { return VersQString(document.DonneChemin()); });
 }
 
 QString ObjetBureau::DonneContenuSelection() {
@@ -126,7 +126,7 @@ QString ObjetBureau::DonneContenuSelection() {
 
 QString ObjetBureau::DonneContexteSelection() {
     return Demande<QString>([](DocumentTexte const& document) {
-        return VersQString(*document.Texte(document.DonneSelection().zone));
+        return VersQString(*document.DonneTexte(document.DonneSelection().zone));
     });
 }
 
@@ -151,7 +151,7 @@ int ObjetBureau::DonneFinSelectionDansSonContexte() {
 
 QString ObjetBureau::DonneTitreDocument() {
     return Demande<QString>(
-        [](DocumentTexte const& document) { return VersQString(document.Titre()); });
+        [](DocumentTexte const& document) { return VersQString(document.DonneTitre()); });
 }
 
 // Nothing has to be made ready here, but a caller that has named no document is told so.
@@ -164,7 +164,7 @@ void ObjetBureau::InitialisePourOutils(bool /*estDico*/) {
 }
 
 void ObjetBureau::InitialiseTexteur(QString const& leId) {
-    Execute([this, qui = NomAppelant(), cle = VersUtf8(leId)] {
+    Execute([this, qui = DonneNomAppelant(), cle = VersUtf8(leId)] {
         return bureau_.InitialiseTexteur(qui, cle);
     });
 }
@@ -176,7 +176,7 @@ bool ObjetBureau::PermetsRetourDeCharriot() {
 
 bool ObjetBureau::PeutCorriger(QString const& idZone, int leDebut, int laFin,
                                QString const& laGraphieOriginale) {
-    return Sers<bool>([this, qui = NomAppelant(), zone = VersUtf8(idZone),
+    return Sers<bool>([this, qui = DonneNomAppelant(), zone = VersUtf8(idZone),
                        plage = Intervalle{leDebut, laFin},
                        attendu = VersUtf16(laGraphieOriginale)] {
         return bureau_.PeutCorriger(qui, zone, plage, attendu);
@@ -184,7 +184,7 @@ bool ObjetBureau::PeutCorriger(QString const& idZone, int leDebut, int laFin,
 }
 
 void ObjetBureau::RemplaceEtReselectionne(QString const& leMot) {
-    Execute([this, qui = NomAppelant(), mot = VersUtf16(leMot)] {
+    Execute([this, qui = DonneNomAppelant(), mot = VersUtf16(leMot)] {
         return bureau_.RemplaceEtReselectionne(qui, mot);
     });
 }
@@ -195,17 +195,17 @@ void ObjetBureau::RompsLienCorrecteur() {
 }
 
 void ObjetBureau::RompsLienTexteur() {
-    Execute([this, qui = NomAppelant()]() -> Resultat<Rien> {
+    Execute([this, qui = DonneNomAppelant()]() -> Resultat<Rien> {
         bureau_.RompsLien(qui);
         return Rien{};
     });
 }
 
 void ObjetBureau::SelectionneIntervalle(QString const& idZone, int leDebut, int laFin) {
-    Execute(
-        [this, qui = NomAppelant(), zone = VersUtf8(idZone), plage = Intervalle{leDebut, laFin}] {
-            return bureau_.SelectionneIntervalle(qui, zone, plage);
-        });
+    Execute([this, qui = DonneNomAppelant(), zone = VersUtf8(idZone),
+             plage = Intervalle{leDebut, laFin}] {
+        return bureau_.SelectionneIntervalle(qui, zone, plage);
+    });
 }
 
 void ObjetBureau::Suspends() {
@@ -214,7 +214,7 @@ void ObjetBureau::Suspends() {
 
 QString ObjetBureau::SynchronisePositions(QString const& leId) {
     return Sers<QString>(
-        [this, qui = NomAppelant(), identifiant = VersUtf8(leId)]() -> Resultat<QString> {
+        [this, qui = DonneNomAppelant(), identifiant = VersUtf8(leId)]() -> Resultat<QString> {
             Resultat<std::string> const reponse = bureau_.SynchronisePositions(qui, identifiant);
             if (!reponse) {
                 return reponse.DonneErreur();
@@ -225,11 +225,11 @@ QString ObjetBureau::SynchronisePositions(QString const& leId) {
 
 QString ObjetBureau::DonneDocuments() {
     QJsonArray liste;
-    for (DocumentTexte const& document : bureau_.Documents()) {
+    for (DocumentTexte const& document : bureau_.DonneDocuments()) {
         liste.append(QJsonObject{
-            {QStringLiteral("id"), VersQString(bureau_.Identifiant(document))},
-            {QStringLiteral("titre"), VersQString(document.Titre())},
-            {QStringLiteral("chemin"), VersQString(document.Chemin())},
+            {QStringLiteral("id"), VersQString(bureau_.DonneIdentifiant(document))},
+            {QStringLiteral("titre"), VersQString(document.DonneTitre())},
+            {QStringLiteral("chemin"), VersQString(document.DonneChemin())},
         });
     }
     return QString::fromUtf8(QJsonDocument(liste).toJson(QJsonDocument::Compact));
@@ -250,7 +250,7 @@ bool ObjetBureau::Enregistre(QString const& leId) {
         std::optional<Ecriture> const ecriture = document->Enregistre();
         if (ecriture && ecriture->issue != IssueEcriture::Faite) {
             return Erreur{
-                CodeErreur::Enregistrement, DisEcriture(*ecriture, document->Chemin()), {}};
+                CodeErreur::Enregistrement, DisEcriture(*ecriture, document->DonneChemin()), {}};
         }
         return ecriture.has_value();
     };

@@ -66,7 +66,7 @@ class ObjetBureau : public QObject, protected QDBusContext {
     /// A question about the document that the caller last named.
     template <class T>
     T Demande(std::function<T(DocumentTexte const&)> const& question);
-    std::string NomAppelant() const;
+    std::string DonneNomAppelant() const;
 
     Bureau& bureau_;
     bool peutEnregistrer_;

@@ -23,7 +23,7 @@ class Publication : public QObject {
     /// that whoever sees the name can call. Empty, or what went wrong.
     std::string Publie(QObject* bureau, QObject* commande);
 
-    QDBusConnection Connexion() const { return connexion_; }
+    QDBusConnection DonneConnexion() const { return connexion_; }
     void QuitteLeNom();
     /// False when someone else has it.
     bool ReprendsLeNom();

@@ -74,15 +74,15 @@ bool OuvreTous(Bureau& bureau, std::vector<std::string> const& fichiers) {
 
 bool EnregistreTous(Bureau& bureau) {
     bool tous = true;
-    for (DocumentTexte& document : bureau.Documents()) {
+    for (DocumentTexte& document : bureau.DonneDocuments()) {
         std::optional<Ecriture> const ecriture = document.Enregistre();
         if (!ecriture) {
             continue;
         }
         if (ecriture->issue == IssueEcriture::Faite) {
-            Avertis(Dis({"{1} : enregistré", "{1}: saved"}, {document.Chemin()}));
+            Avertis(Dis({"{1} : enregistré", "{1}: saved"}, {document.DonneChemin()}));
         } else {
-            Avertis(DisEcriture(*ecriture, document.Chemin()));
+            Avertis(DisEcriture(*ecriture, document.DonneChemin()));
             tous = false;
         }
     }
@@ -101,13 +101,13 @@ int Sers(OptionsBureau const& options, Bureau& bureau) {
         objet.MetsPortier(&dereglements);
     }
 
-    Publication publication(bureau.Instance());
+    Publication publication(bureau.DonneInstance());
     std::string erreur = publication.Connecte();
     if (!erreur.empty()) {
         Avertis(erreur);
         return kBus;
     }
-    VeilleAppelants veille(publication.Connexion(), bureau.DonneAppelants());
+    VeilleAppelants veille(publication.DonneConnexion(), bureau.DonneAppelants());
     Signaux signaux;
     QObject::connect(&objet, &ObjetBureau::AppelantVu, &veille, &VeilleAppelants::Surveille);
     QObject::connect(&dereglements, &Dereglements::QuitteLeNom, &publication,
@@ -130,8 +130,8 @@ int Sers(OptionsBureau const& options, Bureau& bureau) {
         Avertis(erreur);
         return kBus;
     }
-    for (DocumentTexte const& document : bureau.Documents()) {
-        std::cout << bureau.Identifiant(document) << '\n';
+    for (DocumentTexte const& document : bureau.DonneDocuments()) {
+        std::cout << bureau.DonneIdentifiant(document) << '\n';
     }
     std::cout.flush();
 

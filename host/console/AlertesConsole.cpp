@@ -12,10 +12,12 @@ namespace hote {
 eReponseAlerte AlertesConsole::Presente(QWidget* /*parent*/, DAlerteInfo const& info) {
     for (UniChaine const& texte :
          {info.DonneTexte(), info.DonneInformation(), info.DonneDetails()}) {
-        if (texte.EstVide())
+        if (texte.EstVide()) {
             continue;
-        for (QString const& ligne : texte.VersQString().split(QLatin1Char('\n')))
+        }
+        for (QString const& ligne : texte.VersQString().split(QLatin1Char('\n'))) {
             std::fprintf(stderr, "%s\n", PourTerminal(ligne).toStdString().c_str());
+        }
     }
     return DonneReponseImmediate(info);
 }

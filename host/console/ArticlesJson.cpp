@@ -39,8 +39,9 @@ std::string DonneArticlesJson(EnTeteArticles const& enTete, Recherche const& rec
         json.Objet();
         json.Cle("entree").Texte(article.entree);
         json.Cle("sens").Tableau();
-        for (Sens const& sens : article.sens)
+        for (Sens const& sens : article.sens) {
             EcrisSens(json, sens);
+        }
         json.FinTableau();
         json.FinObjet();
     }

@@ -30,15 +30,17 @@ void EcrisFaute(EcritureJson& json, FauteTraitee const& faute) {
     json.Cle("mot").Texte(faute.faute.mot);
     json.Cle("contexte").Texte(faute.contexte);
     json.Cle("suggestions").Tableau();
-    for (QString const& suggestion : faute.suggestions)
+    for (QString const& suggestion : faute.suggestions) {
         json.Texte(suggestion);
+    }
     json.FinTableau();
     json.Cle("etat").Texte(QLatin1String(DonneNomEtat(faute.etat)));
     json.Cle("remplacement");
-    if (faute.etat == EtatFaute::Laissee)
+    if (faute.etat == EtatFaute::Laissee) {
         json.Nul();
-    else
+    } else {
         json.Texte(faute.remplacement);
+    }
     json.FinObjet();
 }
 
@@ -58,14 +60,16 @@ std::string DonneBilanJson(EnTete const& enTete, Bilan const& bilan) {
     json.Cle("laissees").Entier(bilan.Compte(EtatFaute::Laissee));
     json.Cle("nonVerifiees").Entier(bilan.Compte(EtatFaute::NonVerifiee));
     json.Cle("fautes").Tableau();
-    for (FauteTraitee const& faute : bilan.fautes)
+    for (FauteTraitee const& faute : bilan.fautes) {
         EcrisFaute(json, faute);
+    }
     json.FinTableau();
     json.Cle("erreur");
-    if (bilan.erreur)
+    if (bilan.erreur) {
         json.Texte(QString::fromUtf8(bilan.erreur->what()));
-    else
+    } else {
         json.Nul();
+    }
     json.FinObjet();
     return json.DonneJson() + '\n';
 }

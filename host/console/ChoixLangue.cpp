@@ -36,8 +36,9 @@ Langue DonneLangueAffichage() {
 ChoixLangue ChoisisLangue(std::vector<QString> const& textes) {
     auto francais = Ouvre(Langue::Francais);
     auto anglais = Ouvre(Langue::Anglais);
-    if (!francais.lexique && !anglais.lexique)
+    if (!francais.lexique && !anglais.lexique) {
         throw ErreurHote(kSortieDictionnaire, francais.manque + ' ' + anglais.manque);
+    }
     if (!francais.lexique || !anglais.lexique) {
         bool const reste = francais.lexique != nullptr;
         Avertis(reste ? anglais.manque : francais.manque);
@@ -45,8 +46,9 @@ ChoixLangue ChoisisLangue(std::vector<QString> const& textes) {
     }
     DetecteLangue detecteur(*francais.lexique, *anglais.lexique);
     for (QString const& texte : textes) {
-        if (detecteur.Compte(texte))
+        if (detecteur.Compte(texte)) {
             break;
+        }
     }
     // A text that does not tell is taken for one in the person's own language.
     auto const langue = detecteur.DonneLangue().value_or(DonneLangueAffichage());

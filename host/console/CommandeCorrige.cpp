@@ -40,26 +40,29 @@ class Seance {
     }
 
     eCodeSortie Execute() {
-        if (!choix_.lexique)
+        if (!choix_.lexique) {
             choix_ = ChoisisLangue(document_.DonneTextes());
+        }
         Annonce();
         Orthographe const orthographe(*choix_.lexique);
         Progression progression;
         Bilan const bilan = Corrige(orthographe, progression);
         progression.Efface();
-        if (options_.json)
+        if (options_.json) {
             sortie_.Ecris(DonneBilanJson(
                 {id_, titre_, choix_.lexique->DonneLangue(), choix_.trouvee, options_.automatique},
                 bilan));
-        else
+        } else {
             sortie_.Ecris(presentation_.Fin(bilan, options_.automatique || interactive_));
+        }
         return DonneCode(bilan);
     }
 
   private:
     void Annonce() {
-        if (options_.json)
+        if (options_.json) {
             return;
+        }
         std::string const langue = DonneNomLangue(choix_.lexique->DonneLangue());
         sortie_.Ecris(Tr("Document : {1} ({2})", PourTerminal(titre_), PourTerminal(id_)) + '\n' +
                       (choix_.trouvee ? Tr("Langue : {1}, d’après le texte", langue)
@@ -81,8 +84,9 @@ class Seance {
             return bilan.erreur->DonneCode();
         }
         sortie_.Verifie();
-        if (sortie_.EstRompue())
+        if (sortie_.EstRompue()) {
             return kSortieInterne;
+        }
         return bilan.Compte(EtatFaute::Refusee) > 0 ? kSortiePartielle : kSortieReussie;
     }
 

@@ -34,19 +34,22 @@ std::optional<int> DemandeNumero(Sortie& sortie, int nombre) {
             return std::nullopt;
         }
         QString const reponse = QString::fromStdString(ligne).trimmed();
-        if (reponse == QLatin1String("q"))
+        if (reponse == QLatin1String("q")) {
             return std::nullopt;
+        }
         int const numero = reponse.toInt();
-        if (numero >= 1 && numero <= nombre)
+        if (numero >= 1 && numero <= nombre) {
             return numero;
+        }
     }
 }
 
 eCodeSortie Choisis(Recherche const& recherche, SelectionTenue::Etat const& etat,
                     SelectionTenue& selection, Sortie& sortie) {
     auto const numero = DemandeNumero(sortie, CompteSynonymes(recherche));
-    if (!numero)
+    if (!numero) {
         return kSortieReussie;
+    }
     auto const& [debut, fin] = recherche.mot;
     QString const texte =
         DonneCasse(TrouveSynonyme(recherche, *numero)->mot, etat.texte.mid(debut, fin - debut));
@@ -60,16 +63,18 @@ eCodeSortie Cherche(OptionsHote const& options, ChoixLangue choix, Greffon const
     QString const id = options.id.isEmpty() ? ChoisisDocument() : options.id;
     SelectionTenue selection(greffon, id);
     auto const etat = selection.Lis();
-    if (!choix.lexique)
+    if (!choix.lexique) {
         choix = ChoisisLangue({etat.texte});
+    }
     Langue const langue = choix.lexique->DonneLangue();
     auto const thesaurus = OuvreThesaurus(langue);
     Recherche const recherche =
         ChercheArticles(etat.texte, etat.debut, etat.fin, *thesaurus, *choix.lexique);
     auto const& [debut, fin] = recherche.mot;
-    if (debut == fin)
+    if (debut == fin) {
         throw ErreurHote(kSortieDocument,
                          Tr("Aucun mot n’est sélectionné dans le document {1}.", id));
+    }
     QString const mot = etat.texte.mid(debut, fin - debut);
     Sortie sortie(STDOUT_FILENO);
     eCodeSortie code = kSortieReussie;
@@ -84,8 +89,9 @@ eCodeSortie Cherche(OptionsHote const& options, ChoixLangue choix, Greffon const
         bool const demande = isatty(STDIN_FILENO) == 1 && isatty(STDOUT_FILENO) == 1;
         sortie.Ecris(Tr("Synonymes de « {1} » ({2})", PourTerminal(mot), DonneNomLangue(langue)) +
                      '\n' + DonneArticlesTexte(recherche, Couleurs(STDOUT_FILENO), demande));
-        if (demande)
+        if (demande) {
             code = Choisis(recherche, etat, selection, sortie);
+        }
     }
     sortie.Verifie();
     return sortie.EstRompue() ? kSortieInterne : code;

@@ -31,8 +31,9 @@ std::string EcrisTexte(ListeDocuments const& liste) {
     for (DocumentAnnonce const& document : liste.documents) {
         texte += PourTerminal(document.id).toStdString();
         texte += "  " + PourTerminal(document.titre).toStdString();
-        if (!document.chemin.isEmpty())
+        if (!document.chemin.isEmpty()) {
             texte += "  " + PourTerminal(document.chemin).toStdString();
+        }
         texte += '\n';
     }
     return texte;
@@ -42,10 +43,12 @@ std::string EcrisTexte(ListeDocuments const& liste) {
 
 eCodeSortie ExecuteDocuments(OptionsHote const& options) {
     auto const liste = EnumereDocuments(kDelaiDocumentsMs);
-    for (std::string const& avertissement : liste.avertissements)
+    for (std::string const& avertissement : liste.avertissements) {
         Avertis(avertissement);
-    if (liste.documents.empty() && !options.json)
+    }
+    if (liste.documents.empty() && !options.json) {
         Avertis(Tr("Aucun document à portée."));
+    }
     Sortie sortie(STDOUT_FILENO);
     sortie.Ecris(options.json ? EcrisJson(liste) : EcrisTexte(liste));
     sortie.Verifie();

@@ -25,8 +25,9 @@ void InterlocuteurRegle::ApprendsProgres(int zone, int nombreZones, int nombreFa
 }
 
 void InterlocuteurRegle::Ecris(std::string const& texte) {
-    if (sortie_ == nullptr)
+    if (sortie_ == nullptr) {
         return;
+    }
     progression_.Efface();
     sortie_->Ecris(texte);
 }

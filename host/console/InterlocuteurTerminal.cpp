@@ -16,10 +16,12 @@ Decision InterlocuteurTerminal::Decide(Question const& question) {
                         ? Tr("r remplacer, i ignorer, I tout ignorer, q quitter")
                         : Tr("1-{1} choisir, r remplacer, i ignorer, I tout ignorer, q quitter",
                              question.suggestions.size()));
-        if (!reponse)
+        if (!reponse) {
             return {Decision::Genre::Quitte, {}};
-        if (auto decision = Comprends(*reponse, question.suggestions))
+        }
+        if (auto decision = Comprends(*reponse, question.suggestions)) {
             return *decision;
+        }
     }
 }
 
@@ -45,28 +47,35 @@ std::optional<QString> InterlocuteurTerminal::Demande(std::string const& invite)
 std::optional<Decision> InterlocuteurTerminal::Comprends(QString const& reponse,
                                                          QStringList const& suggestions) {
     QString const mot = reponse.trimmed();
-    if (mot == QLatin1String("q"))
+    if (mot == QLatin1String("q")) {
         return Decision{Decision::Genre::Quitte, {}};
-    if (mot == QLatin1String("i"))
+    }
+    if (mot == QLatin1String("i")) {
         return Decision{Decision::Genre::Laisse, {}};
-    if (mot == QLatin1String("I"))
+    }
+    if (mot == QLatin1String("I")) {
         return Decision{Decision::Genre::LaisseTout, {}};
-    if (mot == QLatin1String("r"))
+    }
+    if (mot == QLatin1String("r")) {
         return DemandeTexte();
+    }
     bool nombre = false;
     int const choix = mot.toInt(&nombre);
-    if (nombre && choix >= 1 && choix <= suggestions.size())
+    if (nombre && choix >= 1 && choix <= suggestions.size()) {
         return Decision{Decision::Genre::Corrige, suggestions.at(choix - 1)};
+    }
     return std::nullopt; // the question is put again
 }
 
 std::optional<Decision> InterlocuteurTerminal::DemandeTexte() {
     auto const texte = Demande(Tr("remplacer par (rien pour renoncer)"));
-    if (!texte)
+    if (!texte) {
         return Decision{Decision::Genre::Quitte, {}};
+    }
     // What did not decode must not go into the document either.
-    if (texte->trimmed().isEmpty() || texte->contains(QChar::ReplacementCharacter))
+    if (texte->trimmed().isEmpty() || texte->contains(QChar::ReplacementCharacter)) {
         return std::nullopt;
+    }
     return Decision{Decision::Genre::Corrige, texte->trimmed()};
 }
 

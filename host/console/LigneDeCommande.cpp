@@ -15,14 +15,18 @@ ErreurHote DonneErreurUsage(std::string const& message) {
 }
 
 OptionsHote::Commande LisCommande(QString const& nom) {
-    if (nom == QLatin1String("documents"))
+    if (nom == QLatin1String("documents")) {
         return OptionsHote::Commande::Documents;
-    if (nom == QLatin1String("corrige"))
+    }
+    if (nom == QLatin1String("corrige")) {
         return OptionsHote::Commande::Corrige;
-    if (nom == QLatin1String("dictionnaire"))
+    }
+    if (nom == QLatin1String("dictionnaire")) {
         return OptionsHote::Commande::Dictionnaire;
-    if (nom == QLatin1String("pilote"))
+    }
+    if (nom == QLatin1String("pilote")) {
         return OptionsHote::Commande::Pilote;
+    }
     throw DonneErreurUsage(Tr("Commande inconnue : {1}", nom));
 }
 
@@ -32,14 +36,18 @@ class AnalyseurDeLigne {
     explicit AnalyseurDeLigne(OptionsHote::Commande commande) {
         parseur_.addOptions({aide_, version_});
         bool const surDocument = PrendsDocument(commande);
-        if (surDocument)
+        if (surDocument) {
             parseur_.addOption(langue_);
-        if (commande == OptionsHote::Commande::Corrige)
+        }
+        if (commande == OptionsHote::Commande::Corrige) {
             parseur_.addOption(automatique_);
-        if (surDocument || commande == OptionsHote::Commande::Documents)
+        }
+        if (surDocument || commande == OptionsHote::Commande::Documents) {
             parseur_.addOption(sortie_);
-        if (surDocument || commande == OptionsHote::Commande::Pilote)
+        }
+        if (surDocument || commande == OptionsHote::Commande::Pilote) {
             parseur_.addOption(greffon_);
+        }
     }
 
     OptionsHote Analyse(OptionsHote options, QStringList const& arguments) {
@@ -49,10 +57,11 @@ class AnalyseurDeLigne {
                                        ? Tr("Option mal employée ({1})", parseur_.errorText())
                                        : Tr("Option inconnue : {1}", Nomme(inconnues.first())));
         }
-        if (parseur_.isSet(aide_))
+        if (parseur_.isSet(aide_)) {
             options.commande = OptionsHote::Commande::Aide;
-        else if (parseur_.isSet(version_))
+        } else if (parseur_.isSet(version_)) {
             options.commande = OptionsHote::Commande::Version;
+        }
         LisValeurs(options);
         LisPositionnels(options);
         return options;
@@ -77,32 +86,37 @@ class AnalyseurDeLigne {
         options.automatique = EstDonnee(automatique_);
         if (EstDonnee(langue_)) {
             QString const valeur = parseur_.value(langue_);
-            if (valeur == QLatin1String("fr"))
+            if (valeur == QLatin1String("fr")) {
                 options.langue = Langue::Francais;
-            else if (valeur == QLatin1String("en"))
+            } else if (valeur == QLatin1String("en")) {
                 options.langue = Langue::Anglais;
-            else
+            } else {
                 throw DonneErreurUsage(Tr("--langue veut fr ou en, pas « {1} »", valeur));
+            }
         }
         if (EstDonnee(sortie_)) {
             QString const valeur = parseur_.value(sortie_);
             options.json = valeur == QLatin1String("json");
-            if (!options.json && valeur != QLatin1String("texte"))
+            if (!options.json && valeur != QLatin1String("texte")) {
                 throw DonneErreurUsage(Tr("--sortie veut texte ou json, pas « {1} »", valeur));
+            }
         }
         if (EstDonnee(greffon_)) {
             options.greffon = parseur_.value(greffon_).toStdString();
-            if (options.greffon.empty())
+            if (options.greffon.empty()) {
                 throw DonneErreurUsage(Tr("--greffon veut un fichier"));
+            }
         }
     }
 
     void LisPositionnels(OptionsHote& options) const {
         QStringList positionnels = parseur_.positionalArguments();
-        if (PrendsDocument(options.commande) && !positionnels.isEmpty())
+        if (PrendsDocument(options.commande) && !positionnels.isEmpty()) {
             options.id = positionnels.takeFirst();
-        if (!positionnels.isEmpty())
+        }
+        if (!positionnels.isEmpty()) {
             throw DonneErreurUsage(Tr("Argument en trop : {1}", positionnels.first()));
+        }
     }
 
     QCommandLineParser parseur_;
@@ -118,19 +132,22 @@ class AnalyseurDeLigne {
 
 OptionsHote AnalyseLigne(QStringList const& arguments) {
     OptionsHote options;
-    if (arguments.size() < 2)
+    if (arguments.size() < 2) {
         throw DonneErreurUsage(Tr("Il manque une commande"));
+    }
     QString const& premier = arguments.at(1);
     bool const commande = !premier.startsWith(QLatin1Char('-'));
-    if (commande)
+    if (commande) {
         options.commande = LisCommande(premier);
+    }
     // The parser takes its first element for the program's name.
     options = AnalyseurDeLigne(options.commande).Analyse(options, arguments.mid(commande ? 1 : 0));
     bool const ilFautUneCommande = !commande && options.commande == OptionsHote::Commande::Aide &&
                                    premier != QLatin1String("--help") &&
                                    premier != QLatin1String("-h");
-    if (ilFautUneCommande)
+    if (ilFautUneCommande) {
         throw DonneErreurUsage(Tr("Il manque une commande"));
+    }
     return options;
 }
 

@@ -21,17 +21,20 @@ std::string DonneArticlesTexte(Recherche const& recherche, Couleurs const& coule
         texte += '\n' + Montre(article.entree) + '\n';
         for (Sens const& sens : article.sens) {
             texte += "  ";
-            if (!sens.genre.isEmpty())
+            if (!sens.genre.isEmpty()) {
                 texte += couleurs.Discret('(' + Montre(sens.genre) + ')') + ' ';
+            }
             bool premier = true;
             for (Synonyme const& synonyme : sens.synonymes) {
                 texte += premier ? "" : numerote ? "  " : ", ";
                 premier = false;
-                if (numerote)
+                if (numerote) {
                     texte += couleurs.Discret(std::to_string(++numero)) + ' ';
+                }
                 texte += couleurs.Correction(Montre(synonyme.mot));
-                if (!synonyme.note.isEmpty())
+                if (!synonyme.note.isEmpty()) {
                     texte += ' ' + couleurs.Discret('(' + Montre(synonyme.note) + ')');
+                }
             }
             texte += '\n';
         }
@@ -43,8 +46,9 @@ Synonyme const* TrouveSynonyme(Recherche const& recherche, int numero) {
     for (Article const& article : recherche.articles) {
         for (Sens const& sens : article.sens) {
             int const nombre = static_cast<int>(sens.synonymes.size());
-            if (numero >= 1 && numero <= nombre)
+            if (numero >= 1 && numero <= nombre) {
                 return &sens.synonymes[static_cast<std::size_t>(numero - 1)];
+            }
             numero -= nombre;
         }
     }
@@ -54,8 +58,9 @@ Synonyme const* TrouveSynonyme(Recherche const& recherche, int numero) {
 int CompteSynonymes(Recherche const& recherche) {
     std::size_t nombre = 0;
     for (Article const& article : recherche.articles) {
-        for (Sens const& sens : article.sens)
+        for (Sens const& sens : article.sens) {
             nombre += sens.synonymes.size();
+        }
     }
     return static_cast<int>(nombre);
 }

@@ -30,18 +30,21 @@ std::string PresentationTexte::Faute(Question const& question) const {
 }
 
 std::string PresentationTexte::Suggestions(QStringList const& suggestions) const {
-    if (suggestions.isEmpty())
+    if (suggestions.isEmpty()) {
         return kRetrait + couleurs_.Discret(Tr("pas de suggestion")) + '\n';
+    }
     return kRetrait + couleurs_.Correction(Montre(suggestions.join(QStringLiteral(", ")))) + '\n';
 }
 
 std::string PresentationTexte::Choix(QStringList const& suggestions) const {
-    if (suggestions.isEmpty())
+    if (suggestions.isEmpty()) {
         return Suggestions(suggestions);
+    }
     std::string texte = kRetrait;
-    for (int i = 0; i < suggestions.size(); ++i)
+    for (int i = 0; i < suggestions.size(); ++i) {
         texte += (i == 0 ? "" : "  ") + couleurs_.Discret(std::to_string(i + 1)) + ' ' +
                  couleurs_.Correction(Montre(suggestions.at(i)));
+    }
     return texte + '\n';
 }
 
@@ -52,17 +55,20 @@ std::string PresentationTexte::Issue(FauteTraitee const& faute, bool envoyee) co
 
 std::string PresentationTexte::Fin(Bilan const& bilan, bool change) const {
     int const laissees = bilan.Compte(EtatFaute::Laissee);
-    if (bilan.fautes.empty() && !bilan.erreur)
+    if (bilan.fautes.empty() && !bilan.erreur) {
         return Tr("Aucune faute.") + '\n';
-    if (!change)
+    }
+    if (!change) {
         return Tr("Fautes : {1}. Rien n’a été changé (--automatique corrige).", laissees) + '\n';
+    }
     std::string texte =
         Tr("Corrigées : {1}, refusées : {2}, laissées : {3}.", bilan.Compte(EtatFaute::Corrigee),
            bilan.Compte(EtatFaute::Refusee), laissees) +
         '\n';
     int const nonVerifiees = bilan.Compte(EtatFaute::NonVerifiee);
-    if (nonVerifiees > 0)
+    if (nonVerifiees > 0) {
         texte += Tr("Envoyées sans pouvoir être vérifiées : {1}.", nonVerifiees) + '\n';
+    }
     return texte;
 }
 

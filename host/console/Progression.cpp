@@ -17,8 +17,9 @@ constexpr std::chrono::seconds kPeriodeFichier{5};
 std::chrono::milliseconds DonnePeriode(bool terminal) {
     bool estNombre = false;
     int const reglee = qEnvironmentVariableIntValue("VOCALYNE_PROGRESSION_MS", &estNombre);
-    if (estNombre && reglee >= 0)
+    if (estNombre && reglee >= 0) {
         return std::chrono::milliseconds(reglee);
+    }
     return terminal ? kPeriodeTerminal : kPeriodeFichier;
 }
 
@@ -30,24 +31,27 @@ Progression::Progression()
     , prochaine_(Horloge::now() + periode_) {}
 
 void Progression::Efface() {
-    if (affichee_)
+    if (affichee_) {
         std::fputs("\r\033[K", stderr);
+    }
     affichee_ = false;
 }
 
 bool Progression::EstTemps() {
     auto const maintenant = Horloge::now();
-    if (maintenant < prochaine_)
+    if (maintenant < prochaine_) {
         return false;
+    }
     prochaine_ = maintenant + periode_;
     return true;
 }
 
 void Progression::Affiche(std::string const& texte) {
-    if (terminal_)
+    if (terminal_) {
         std::fprintf(stderr, "\r\033[K%s", texte.c_str());
-    else
+    } else {
         std::fprintf(stderr, "%s\n", texte.c_str());
+    }
     std::fflush(stderr);
     affichee_ = terminal_;
 }

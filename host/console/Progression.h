@@ -19,8 +19,9 @@ class Progression {
     /// `texte` is made only when it is shown.
     template <class Fabrique>
     void Montre(Fabrique&& texte) {
-        if (EstTemps())
+        if (EstTemps()) {
             Affiche(texte());
+        }
     }
 
     /// Takes the line away, before something else is written to the terminal.

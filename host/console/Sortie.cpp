@@ -31,18 +31,21 @@ bool Sortie::Ecris(std::string const& octets) {
 }
 
 void Sortie::Verifie() const {
-    if (erreur_ != 0 && erreur_ != EPIPE)
+    if (erreur_ != 0 && erreur_ != EPIPE) {
         throw ErreurHote(kSortieInterne,
                          Tr("La sortie ne s’écrit pas : {1}", std::strerror(erreur_)));
+    }
 }
 
 void PrepareFluxStandard() {
     for (int descripteur = 0; descripteur <= 2; ++descripteur) {
-        if (fcntl(descripteur, F_GETFD) >= 0)
+        if (fcntl(descripteur, F_GETFD) >= 0) {
             continue;
+        }
         // The lowest free number is the one that was found closed.
-        if (open("/dev/null", O_RDWR) < 0)
+        if (open("/dev/null", O_RDWR) < 0) {
             _exit(kSortieInterne);
+        }
     }
     std::signal(SIGPIPE, SIG_IGN);
 }

@@ -32,8 +32,9 @@ class Application {
 /// Qt's remarks are for the program's authors, or for a connector's, who have `pilote`.
 void FiltreMessagesQt(QtMsgType genre, QMessageLogContext const& /*contexte*/,
                       QString const& message) {
-    if (genre == QtCriticalMsg || genre == QtFatalMsg)
+    if (genre == QtCriticalMsg || genre == QtFatalMsg) {
         Avertis(message.toStdString());
+    }
 }
 
 eCodeSortie EcrisEtFinis(std::string const& texte) {
@@ -45,10 +46,12 @@ eCodeSortie EcrisEtFinis(std::string const& texte) {
 
 eCodeSortie Execute(QStringList const& arguments) {
     OptionsHote const options = AnalyseLigne(arguments);
-    if (options.commande == OptionsHote::Commande::Aide)
+    if (options.commande == OptionsHote::Commande::Aide) {
         return EcrisEtFinis(DonneAide());
-    if (options.commande == OptionsHote::Commande::Version)
+    }
+    if (options.commande == OptionsHote::Commande::Version) {
         return EcrisEtFinis("vocalyne-hote " VOCALYNE_VERSION "\n");
+    }
     qInstallMessageHandler(FiltreMessagesQt);
     Application const application;
     InitialisationGenerale::InitApresQApp();
@@ -76,13 +79,15 @@ int main(int argc, char** argv) {
         InitialiseMessages();
         QStringList arguments;
         // Bytes as UTF-8 whatever the locale: a file's name must come out as it went in.
-        for (int i = 0; i < argc; ++i)
+        for (int i = 0; i < argc; ++i) {
             arguments.append(QString::fromUtf8(argv[i]));
+        }
         return Execute(arguments);
     } catch (ErreurHote const& erreur) {
         Avertis(erreur.what());
-        if (erreur.DonneCode() == kSortieUsage)
+        if (erreur.DonneCode() == kSortieUsage) {
             std::fputs(DonneUsage().c_str(), stderr);
+        }
         return erreur.DonneCode();
     } catch (std::exception const& erreur) {
         Avertis(erreur.what());

@@ -20,8 +20,9 @@ bool PeutMontrerFenetre() {
 
 void EcrisSurErreur(DAlerteInfo const& info) {
     for (auto const* texte : {&info.DonneTexte(), &info.DonneInformation(), &info.DonneDetails()}) {
-        if (!texte->EstVide())
+        if (!texte->EstVide()) {
             std::cerr << texte->VersUtf8() << '\n';
+        }
     }
     std::cerr << std::flush;
 }
@@ -37,10 +38,12 @@ PresentateurAlerte* PresentateurAlerte::Mets(PresentateurAlerte* presentateur) {
 }
 
 eReponseAlerte DAlerte(QWidget* parent, DAlerteInfo const& info) {
-    if (lePresentateur != nullptr)
+    if (lePresentateur != nullptr) {
         return lePresentateur->Presente(parent, info);
-    if (PeutMontrerFenetre())
+    }
+    if (PeutMontrerFenetre()) {
         return MontreFenetreAlerte(parent, info);
+    }
     EcrisSurErreur(info);
     return kReponseNon;
 }

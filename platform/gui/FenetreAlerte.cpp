@@ -36,8 +36,9 @@ eReponseAlerte MontreFenetreAlerte(QWidget* parent, DAlerteInfo const& info) {
     fenetre->setStandardButtons(estQuestion ? QMessageBox::Yes | QMessageBox::No
                                             : QMessageBox::StandardButtons(QMessageBox::Ok));
     // The box's own text format holds for the main text alone; the other would guess at markup.
-    for (auto* etiquette : fenetre->findChildren<QLabel*>())
+    for (auto* etiquette : fenetre->findChildren<QLabel*>()) {
         etiquette->setTextFormat(Qt::PlainText);
+    }
 
     int const bouton = fenetre->exec();
     delete fenetre.data();

@@ -5,10 +5,12 @@
 #include <QImageReader>
 
 QIcon RoutinesGeneralesQt::DonneIconDeApplication(UniChemin const& application) {
-    if (application.EstVide())
+    if (application.EstVide()) {
         return {};
+    }
     QString const& chemin = application.DonneChemin().VersQString();
-    if (QFileInfo(chemin).isFile() && QImageReader(chemin).canRead())
+    if (QFileInfo(chemin).isFile() && QImageReader(chemin).canRead()) {
         return QIcon(chemin);
+    }
     return QIcon::fromTheme(application.DonneNomAffiche().VersQString());
 }

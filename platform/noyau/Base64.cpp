@@ -12,10 +12,12 @@ namespace {
 constexpr std::array<signed char, 256> FaisValeurs() {
     constexpr char kAlphabet[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
     std::array<signed char, 256> valeurs{};
-    for (auto& valeur : valeurs)
+    for (auto& valeur : valeurs) {
         valeur = -1;
-    for (int rang = 0; rang < 64; ++rang)
+    }
+    for (int rang = 0; rang < 64; ++rang) {
         valeurs[static_cast<unsigned char>(kAlphabet[rang])] = static_cast<signed char>(rang);
+    }
     return valeurs;
 }
 
@@ -71,8 +73,9 @@ void Base64::Decode(char const* caracteres, std::size_t taille, TamponMemoire& s
             }
         }
         int const valeur = Valeur(*caracteres++);
-        if (valeur < 0)
+        if (valeur < 0) {
             continue;
+        }
         bits = bits << 6 | static_cast<unsigned>(valeur);
         nombreBits += 6;
         if (nombreBits >= 8) {

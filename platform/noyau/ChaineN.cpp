@@ -25,8 +25,9 @@ class Convertisseur {
         // A byte order mark is text here.
         QTextCodec::ConverterState etat(QTextCodec::IgnoreHeader);
         QString texte = codec_->toUnicode(octets, taille, &etat);
-        if (etat.remainingChars > 0) // a sequence that the end cut short
+        if (etat.remainingChars > 0) { // a sequence that the end cut short
             texte.append(QChar(QChar::ReplacementCharacter));
+        }
         return texte;
     }
 
@@ -46,15 +47,19 @@ ChaineN::ChaineN(int longueur, char16_t unite)
     : texte_(std::max(longueur, 0), QChar(unite)) {}
 
 ChaineN::ChaineN(char const* octets, UniChaine::eCodage codage, int longueur) {
-    if (octets == nullptr)
+    if (octets == nullptr) {
         return;
-    if (longueur < 0)
+    }
+    if (longueur < 0) {
         longueur = static_cast<int>(std::strlen(octets));
-    if (codage != UniChaine::kCodageLatin1)
+    }
+    if (codage != UniChaine::kCodageLatin1) {
         codage = UniChaine::kCodageUtf8;
+    }
     std::lock_guard<std::mutex> const garde(leVerrou);
-    if (!leConvertisseur || leConvertisseur->DonneCodage() != codage)
+    if (!leConvertisseur || leConvertisseur->DonneCodage() != codage) {
         leConvertisseur = std::make_unique<Convertisseur>(codage);
+    }
     texte_ = leConvertisseur->Convertis(octets, longueur);
 }
 
@@ -63,8 +68,9 @@ char16_t ChaineN::operator[](int position) const noexcept {
 }
 
 void ChaineN::MetsUnite(int position, char16_t unite) {
-    if (position >= 0 && position < Longueur())
+    if (position >= 0 && position < Longueur()) {
         texte_[position] = QChar(unite);
+    }
 }
 
 ChaineN ChaineN::Extrais(int debut, int longueur) const {
@@ -72,8 +78,9 @@ ChaineN ChaineN::Extrais(int debut, int longueur) const {
 }
 
 bool ChaineN::Remplace(int debut, int longueur, ChaineN const& texte) {
-    if (debut < 0 || debut > Longueur() || longueur < 0)
+    if (debut < 0 || debut > Longueur() || longueur < 0) {
         return false;
+    }
     QString const remplacant = texte.texte_; // `texte` may be this very object
     texte_.replace(debut, std::min(longueur, Longueur() - debut), remplacant);
     return true;

@@ -61,16 +61,19 @@ class ChaineTemplateAvecAttributs {
     /// Gives `longueur` units from `debut` the attribute, in place of what they had; 0 clears.
     /// What lies outside the text is left out; a length below 1 sets nothing.
     void MetsAttribut(int debut, int longueur, std::uint16_t attribut) {
-        if (longueur < 1)
+        if (longueur < 1) {
             return;
+        }
         auto const bornee = std::min<std::int64_t>(std::int64_t{debut} + longueur, Longueur());
         auto const fin = static_cast<int>(bornee);
         debut = std::max(debut, 0);
-        if (debut >= fin)
+        if (debut >= fin) {
             return;
+        }
         if (plages_.empty() || plages_.back().fin <= debut) {
-            if (attribut != 0)
+            if (attribut != 0) {
                 plages_.push_back({debut, fin, attribut});
+            }
             return;
         }
         RemplacePlages(debut, fin, attribut);
@@ -80,25 +83,30 @@ class ChaineTemplateAvecAttributs {
     /// with their text, a run cut by the replacement keeps its outer parts. A start outside the
     /// text or a negative length changes nothing and gives false; a length past the end is cut.
     bool Remplace(int debut, int longueur, ChaineTemplateAvecAttributs const& texte) {
-        if (debut < 0 || debut > Longueur() || longueur < 0)
+        if (debut < 0 || debut > Longueur() || longueur < 0) {
             return false;
+        }
         longueur = std::min(longueur, Longueur() - debut);
-        if (longueur == 0 && texte.Longueur() == 0)
+        if (longueur == 0 && texte.Longueur() == 0) {
             return true; // nothing is cut
+        }
         int const fin = debut + longueur;
         int const decalage = texte.Longueur() - longueur;
         Plages nouvelles;
         nouvelles.reserve(plages_.size() + texte.plages_.size() + 1);
         for (auto const& p : plages_) {
-            if (p.debut < debut)
+            if (p.debut < debut) {
                 nouvelles.push_back({p.debut, std::min(p.fin, debut), p.attribut});
+            }
         }
-        for (auto const& p : texte.plages_)
+        for (auto const& p : texte.plages_) {
             nouvelles.push_back({p.debut + debut, p.fin + debut, p.attribut});
+        }
         for (auto const& p : plages_) {
-            if (p.fin > fin)
+            if (p.fin > fin) {
                 nouvelles.push_back(
                     {std::max(p.debut, fin) + decalage, p.fin + decalage, p.attribut});
+            }
         }
         texte_.Remplace(debut, longueur, texte.texte_);
         plages_ = std::move(nouvelles);
@@ -110,8 +118,9 @@ class ChaineTemplateAvecAttributs {
 
     /// Keeps the first `longueur` units and what lies of the runs in them.
     void CoupeA(int longueur) {
-        if (longueur < Longueur())
+        if (longueur < Longueur()) {
             Remplace(std::max(longueur, 0), Longueur(), ChaineTemplateAvecAttributs());
+        }
     }
 
     friend bool operator==(ChaineTemplateAvecAttributs const& a,
@@ -132,13 +141,16 @@ class ChaineTemplateAvecAttributs {
         auto derniere = premiere;
         PlageAttribut pieces[3];
         int nombre = 0;
-        if (premiere != plages_.end() && premiere->debut < debut)
+        if (premiere != plages_.end() && premiere->debut < debut) {
             pieces[nombre++] = {premiere->debut, debut, premiere->attribut};
-        if (attribut != 0)
+        }
+        if (attribut != 0) {
             pieces[nombre++] = {debut, fin, attribut};
+        }
         while (derniere != plages_.end() && derniere->debut < fin) {
-            if (derniere->fin > fin)
+            if (derniere->fin > fin) {
                 pieces[nombre++] = {fin, derniere->fin, derniere->attribut};
+            }
             ++derniere;
         }
         auto const place = plages_.erase(premiere, derniere);

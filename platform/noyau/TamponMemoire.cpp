@@ -8,8 +8,9 @@ TamponMemoire::TamponMemoire(std::size_t capacite) {
 }
 
 void TamponMemoire::Ajoute(char const* octets, std::size_t taille) {
-    if (taille != 0)
+    if (taille != 0) {
         octets_.insert(octets_.end(), octets, octets + taille);
+    }
 }
 
 } // namespace sdd

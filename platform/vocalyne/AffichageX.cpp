@@ -17,11 +17,13 @@ Fonction FonctionXcb(void* bibliotheque, char const* nom) {
 } // namespace
 
 bool AffichageXRepond() {
-    if (qEnvironmentVariableIsEmpty("DISPLAY"))
+    if (qEnvironmentVariableIsEmpty("DISPLAY")) {
         return false;
+    }
     void* const xcb = dlopen("libxcb.so.1", RTLD_LAZY | RTLD_LOCAL);
-    if (xcb == nullptr)
+    if (xcb == nullptr) {
         return false;
+    }
     auto const connecte = FonctionXcb<void* (*)(char const*, int*)>(xcb, "xcb_connect");
     auto const aEchoue = FonctionXcb<int (*)(void*)>(xcb, "xcb_connection_has_error");
     auto const deconnecte = FonctionXcb<void (*)(void*)>(xcb, "xcb_disconnect");

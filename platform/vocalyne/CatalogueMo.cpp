@@ -26,11 +26,13 @@ std::uint32_t MotNatif(char const* octets) {
 }
 
 bool EstPremier(std::uint32_t nombre) {
-    if (nombre < 2)
+    if (nombre < 2) {
         return false;
+    }
     for (std::uint32_t diviseur = 2; diviseur <= nombre / diviseur; ++diviseur) {
-        if (nombre % diviseur == 0)
+        if (nombre % diviseur == 0) {
             return false;
+        }
     }
     return true;
 }
@@ -39,8 +41,9 @@ bool EstPremier(std::uint32_t nombre) {
 
 CatalogueMo CatalogueMo::DepuisRessource(std::string const& chemin) {
     QFile fichier(QString::fromStdString(chemin));
-    if (!fichier.open(QIODevice::ReadOnly))
+    if (!fichier.open(QIODevice::ReadOnly)) {
         return {};
+    }
     auto const octets = fichier.readAll();
     return CatalogueMo(std::vector<char>(octets.cbegin(), octets.cend()));
 }
@@ -51,11 +54,13 @@ std::uint32_t CatalogueMo::Mot(std::size_t position) const {
 }
 
 bool CatalogueMo::EstSain() const {
-    if (octets_.size() < kTailleEntete)
+    if (octets_.size() < kTailleEntete) {
         return false;
+    }
     auto const magique = MotNatif(octets_.data());
-    if (magique != kMagique && magique != kMagiqueInverse)
+    if (magique != kMagique && magique != kMagiqueInverse) {
         return false;
+    }
     auto const nombre = Mot(kMotNombre);
     return nombre > 0 && TableEstSaine(Mot(kMotIdentificateurs), nombre) &&
            TableEstSaine(Mot(kMotTraductions), nombre) && EnteteEstSaine(Mot(kMotTraductions));
@@ -63,12 +68,14 @@ bool CatalogueMo::EstSain() const {
 
 bool CatalogueMo::TableEstSaine(std::uint32_t position, std::uint32_t nombre) const {
     std::uint64_t const taille = octets_.size();
-    if (position + std::uint64_t{nombre} * kTailleEntree > taille)
+    if (position + std::uint64_t{nombre} * kTailleEntree > taille) {
         return false;
+    }
     for (std::size_t entree = position; nombre > 0; --nombre, entree += kTailleEntree) {
         std::uint64_t const fin = std::uint64_t{Mot(entree)} + Mot(entree + sizeof(std::uint32_t));
-        if (fin >= taille || octets_[static_cast<std::size_t>(fin)] != '\0')
+        if (fin >= taille || octets_[static_cast<std::size_t>(fin)] != '\0') {
             return false;
+        }
     }
     return true;
 }
@@ -95,14 +102,16 @@ bool CatalogueMo::HachageEstSain() const {
     std::uint64_t const taille = Mot(kMotTailleHachage);
     auto const table = Mot(kMotHachage);
     if (taille < 3 || table + taille * sizeof(std::uint32_t) > octets_.size() ||
-        !EstPremier(static_cast<std::uint32_t>(taille)))
+        !EstPremier(static_cast<std::uint32_t>(taille))) {
         return false;
+    }
     auto const nombre = Mot(kMotNombre);
     bool libre = false;
     for (std::size_t rang = 0; rang < taille; ++rang) {
         auto const entree = Mot(table + rang * sizeof(std::uint32_t));
-        if (entree > nombre)
+        if (entree > nombre) {
             return false;
+        }
         libre = libre || entree == 0;
     }
     return libre;

@@ -14,30 +14,35 @@ FichierReglages::FichierReglages(QString const& chemin, QSettings::Format format
     , format_(format) {}
 
 std::optional<QVariant> FichierReglages::Lis(QString const& cle, bool relis) {
-    if (chemin_.isEmpty() || cle.isEmpty())
+    if (chemin_.isEmpty() || cle.isEmpty()) {
         return std::nullopt;
-    if (!lecture_)
+    }
+    if (!lecture_) {
         lecture_ = std::make_unique<QSettings>(chemin_, format_);
-    else if (relis)
+    } else if (relis) {
         lecture_->sync();
+    }
     auto valeur = lecture_->value(cle);
     return valeur.isValid() ? std::make_optional(std::move(valeur)) : std::nullopt;
 }
 
 bool FichierReglages::Ecris(Changements const& changements) {
-    if (changements.empty())
+    if (changements.empty()) {
         return true;
-    if (chemin_.isEmpty() || !EstLisibleEntier())
+    }
+    if (chemin_.isEmpty() || !EstLisibleEntier()) {
         return false;
+    }
     QSettings ecriture(chemin_, format_);
     for (auto const& [cle, valeur] : changements) {
         // QSettings keeps what it wrote in a cache that lives as long as the process.
-        if (valeur)
+        if (valeur) {
             ecriture.setValue(CopieDurable(cle), valeur->type() == QVariant::String
                                                      ? CopieDurable(valeur->toString())
                                                      : *valeur);
-        else
+        } else {
             ecriture.remove(cle);
+        }
     }
     ecriture.sync();
     return ecriture.status() == QSettings::NoError;
@@ -47,15 +52,18 @@ bool FichierReglages::Ecris(Changements const& changements) {
 /// tells only the first reader of a path, as it shares what it read: hence the copy.
 bool FichierReglages::EstLisibleEntier() const {
     QFile fichier(chemin_);
-    if (!QFileInfo::exists(chemin_))
+    if (!QFileInfo::exists(chemin_)) {
         return true;
+    }
     QTemporaryFile copie;
-    if (!fichier.open(QIODevice::ReadOnly) || !copie.open())
+    if (!fichier.open(QIODevice::ReadOnly) || !copie.open()) {
         return false;
+    }
     auto const octets = fichier.readAll();
     if (fichier.error() != QFileDevice::NoError || copie.write(octets) != octets.size() ||
-        !copie.flush())
+        !copie.flush()) {
         return false;
+    }
     QSettings const lecture(copie.fileName(), format_);
     lecture.allKeys(); // sections are read when they are first needed
     return lecture.status() == QSettings::NoError;

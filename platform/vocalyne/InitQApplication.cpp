@@ -42,8 +42,9 @@ struct LigneDeCommande {
     void Mets(QByteArrayList const& options) {
         textes = QByteArrayList{"vocalyne"} + options;
         arguments.clear();
-        for (auto& texte : textes)
+        for (auto& texte : textes) {
             arguments.push_back(texte.data());
+        }
         nombre = static_cast<int>(arguments.size());
         arguments.push_back(nullptr);
     }
@@ -60,8 +61,9 @@ LigneDeCommande& DonneLigneDeCommande() {
 // it is kept here, and the analyzer takes it for lost.
 // NOLINTBEGIN(clang-analyzer-cplusplus.NewDeleteLeaks)
 void InitQApplication() {
-    if (QCoreApplication::instance() != nullptr)
+    if (QCoreApplication::instance() != nullptr) {
         return;
+    }
     GardeLocale const garde;
     auto& ligne = DonneLigneDeCommande();
     ligne.Mets({});

@@ -20,19 +20,22 @@ std::optional<eLangue> laLangue;
 void InitialisationGenerale::InitLePlusTotPossible(eLangue langue) {
     bool const change = langue != DonneLangue();
     laLangue = langue;
-    if (change)
+    if (change) {
         RechargeDomainesDeTraduction();
+    }
 }
 
 void InitialisationGenerale::InitApresQApp() {
     auto* const application = QCoreApplication::instance();
-    if (application == nullptr)
+    if (application == nullptr) {
         return;
+    }
     // The application owns the translator, and both go together; the name finds it again here.
     auto const kNom = QStringLiteral("vocalyne_qtbase");
     delete application->findChild<QTranslator*>(kNom, Qt::FindDirectChildrenOnly);
-    if (DonneLangue() != kLangueFrancais)
+    if (DonneLangue() != kLangueFrancais) {
         return; // Qt's own texts are English
+    }
     auto traducteur = std::make_unique<QTranslator>();
     traducteur->setObjectName(kNom);
     if (traducteur->load(QLocale(QLocale::French), QStringLiteral("qtbase"), QStringLiteral("_"),

@@ -14,8 +14,9 @@ std::locale CatalogueMo::FaisLocale() const {
     infos.callback = [this](std::string const&, std::string const&) {
         auto octets = octets_;
         // Without its hash table Boost converts every message into one of its own: slow, but sure.
-        if (!HachageEstSain())
+        if (!HachageEstSain()) {
             std::fill_n(octets.begin() + kMotTailleHachage, sizeof(std::uint32_t), '\0');
+        }
         return octets;
     };
     auto* const messages = boost::locale::gnu_gettext::create_messages_facet<char>(infos);

@@ -14,8 +14,9 @@ namespace {
 std::string Chemin() {
     Dl_info infos;
     std::string ici;
-    if (dladdr(reinterpret_cast<void const*>(&moteurTraduction::Traduis), &infos) != 0)
+    if (dladdr(reinterpret_cast<void const*>(&moteurTraduction::Traduis), &infos) != 0) {
         ici = infos.dli_fname;
+    }
     return ici.substr(0, ici.rfind('/') + 1) + "libOutilsTraduction.so";
 }
 
@@ -27,8 +28,9 @@ struct Moteur {
 
     Moteur() {
         auto* const bibliotheque = dlopen(Chemin().c_str(), RTLD_NOW | RTLD_LOCAL);
-        if (bibliotheque == nullptr)
+        if (bibliotheque == nullptr) {
             return;
+        }
         faisLocale =
             reinterpret_cast<decltype(faisLocale)>(dlsym(bibliotheque, "vocalyneFaisLocale"));
         traduis = reinterpret_cast<decltype(traduis)>(dlsym(bibliotheque, "vocalyneTraduis"));

@@ -30,10 +30,12 @@ QByteArrayList DonnePlateformes(bool affichageRepond) {
                                          }),
                           plateformes.end());
     } else {
-        if (affichageRepond)
+        if (affichageRepond) {
             plateformes.append("xcb");
-        if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+        }
+        if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
             plateformes.append("wayland");
+        }
     }
     plateformes.append(kHorsEcran);
     return plateformes;
@@ -45,15 +47,17 @@ QByteArrayList PlateformeQt::DonneArguments() {
     bool const affichageRepond = AffichageXRepond();
     QByteArrayList arguments{"-platform", DonnePlateformes(affichageRepond).join(';')};
     // The GTK theme, which the environment may name, exits when it cannot open the display.
-    if (!affichageRepond)
+    if (!affichageRepond) {
         arguments << "-platformtheme" << kHorsEcran;
+    }
     return arguments;
 }
 
 bool PlateformeQt::HorsEcranEstInstalle() {
     QStringList dossiers{qEnvironmentVariable("QT_QPA_PLATFORM_PLUGIN_PATH")};
-    for (auto const& dossier : QCoreApplication::libraryPaths())
+    for (auto const& dossier : QCoreApplication::libraryPaths()) {
         dossiers.append(dossier + QStringLiteral("/platforms"));
+    }
     return std::any_of(dossiers.cbegin(), dossiers.cend(), [](QString const& dossier) {
         return !QPluginLoader(dossier + QStringLiteral("/libqoffscreen.so")).metaData().isEmpty();
     });

@@ -41,8 +41,9 @@ class StockeurReglages final : public StockeurReponse {
         return fichier_.Ecris({{Cle(dialogue), QVariant(reponse)}});
     }
     void Oublie(UniChaine const& dialogue) override {
-        if (fichier_.Lis(Cle(dialogue), true))
+        if (fichier_.Lis(Cle(dialogue), true)) {
             fichier_.Ecris({{Cle(dialogue), std::nullopt}});
+        }
     }
 
   private:
@@ -66,10 +67,11 @@ StockeurReponse::~StockeurReponse() = default;
 void StockageReponse::Initialise(DDialogue::eTypStockeur type, UniChaine const& chemin,
                                  QSettings::Format format) {
     std::unique_ptr<StockeurReponse> stockeur;
-    if (type == DDialogue::kStockeurReglages)
+    if (type == DDialogue::kStockeurReglages) {
         stockeur = std::make_unique<StockeurReglages>(chemin, format);
-    else
+    } else {
         stockeur = std::make_unique<StockeurMemoire>();
+    }
     auto& place = laListeStockeurDefaut[type];
     delete place;
     place = stockeur.release();

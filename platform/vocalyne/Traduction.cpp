@@ -45,8 +45,9 @@ Domaine& DonneDomaine(DomaineDeTraduction** emplacement) {
         std::find_if(domaines.begin(), domaines.end(), [emplacement](auto const& entree) {
             return *emplacement == &entree.second->paire;
         });
-    if (connu != domaines.end())
+    if (connu != domaines.end()) {
         return *connu->second;
+    }
     auto& domaine = domaines[emplacement];
     domaine = std::make_unique<Domaine>();
     *emplacement = &domaine->paire;
@@ -59,10 +60,12 @@ void PrepareDomaine(DomaineDeTraduction const* paire) {
     auto& registre = DonneRegistre();
     std::lock_guard<std::mutex> const garde(registre.verrou);
     for (auto& [emplacement, domaine] : registre.domaines) {
-        if (&domaine->paire != paire || domaine->enAttente.EstVide())
+        if (&domaine->paire != paire || domaine->enAttente.EstVide()) {
             continue;
-        if (!moteurTraduction::FaisLocale(domaine->enAttente, domaine->locale))
+        }
+        if (!moteurTraduction::FaisLocale(domaine->enAttente, domaine->locale)) {
             domaine->paire.second = domaine->cheminPrecedent;
+        }
         domaine->enAttente = CatalogueMo();
     }
 }
@@ -79,17 +82,21 @@ void RechargeDomainesDeTraduction() {
 
 void InitLocaleAvecQRC(DomaineDeTraduction** domaine, UniChaine const& chemin, eLangue langue,
                        bool quelleQueSoitLaLangue) {
-    if (domaine == nullptr)
+    if (domaine == nullptr) {
         return;
+    }
     auto& cible = DonneDomaine(domaine);
-    if (!quelleQueSoitLaLangue && langue != InitialisationGenerale::DonneLangue())
+    if (!quelleQueSoitLaLangue && langue != InitialisationGenerale::DonneLangue()) {
         return;
+    }
     auto catalogue = CatalogueMo::DepuisRessource(chemin.VersUtf8());
-    if (!catalogue.EstSain())
+    if (!catalogue.EstSain()) {
         return;
+    }
     std::lock_guard<std::mutex> const garde(DonneRegistre().verrou);
-    if (cible.enAttente.EstVide())
+    if (cible.enAttente.EstVide()) {
         cible.cheminPrecedent = cible.paire.second;
+    }
     cible.enAttente = std::move(catalogue);
     cible.paire.second = UniChaine(CopieDurable(chemin.VersQString()));
 }
@@ -98,8 +105,9 @@ void InitLocaleAvecQRC(DomaineDeTraduction** domaine, UniChaine const& chemin, e
 // NOLINTNEXTLINE(bugprone-reserved-identifier)
 UniChaine _Tr(DomaineDeTraduction* domaine, char const* message, char const* contexte) {
     // The empty message is the key of the catalog's description of itself: not for showing.
-    if (message == nullptr || *message == '\0')
+    if (message == nullptr || *message == '\0') {
         return {};
+    }
     char const* traduction = nullptr;
     if (domaine != nullptr && domaine->first != nullptr) {
         PrepareDomaine(domaine);

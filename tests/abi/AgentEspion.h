@@ -11,8 +11,9 @@ class AgentEspion : public virtual ImplAgentTexteur {
     AgentEspion()
         : InterfaceTexteur(UniChaine("espion", UniChaine::kCodageLitteral)) {}
     ~AgentEspion() override {
-        if (aDetruire != nullptr)
+        if (aDetruire != nullptr) {
             *aDetruire = true;
+        }
     }
 
     std::string nom;           ///< of the operation called last

@@ -46,8 +46,9 @@ TEST(WordProcessorSlots, EachNumberReachesItsOperationThroughTheBasePointer) {
           Rang{3, "Capacite3", Genre::Vrai}, Rang{4, "Capacite4", Genre::Vrai},
           Rang{5, "Capacite5", Genre::Vrai}, Rang{6, "Capacite6", Genre::Vrai},
           Rang{7, "Capacite7", Genre::Vrai}, Rang{9, "Requete10", Genre::Entier},
-          Rang{10, "Requete11", Genre::Entier}, Rang{11, "Requete12", Genre::Entier}})
+          Rang{10, "Requete11", Genre::Entier}, Rang{11, "Requete12", Genre::Entier}}) {
         EXPECT_EQ(rang.operation, Appelle(espion, objet, rang));
+    }
     EXPECT_EQ(&espion, AppelleEmplacement<InterfaceAgentTexteur*>(objet, 9));
     EXPECT_EQ("DonneAgentTexteur", espion.nom);
 }
@@ -77,8 +78,9 @@ TEST(AgentSlots, EachNumberWithoutArgumentReachesItsOperation) {
                              Rang{27, "Crochet28", Genre::Rien},
                              Rang{28, "Crochet29", Genre::Rien},
                              Rang{29, "Requete30", Genre::Vrai},
-                             Rang{32, "Requete33", Genre::Vrai}})
+                             Rang{32, "Requete33", Genre::Vrai}}) {
         EXPECT_EQ(rang.operation, Appelle(espion, objet, rang));
+    }
 }
 
 TEST(AgentSlots, EachNumberWithArgumentsReachesItsOperationWithThem) {
@@ -138,11 +140,13 @@ TEST(AgentSlots, TheLibreOfficeAgentGivesItsFixedAnswersThroughBothPointers) {
     EXPECT_EQ(UniChaine("\n", UniChaine::kCodageLitteral),
               AppelleEmplacement<UniChaine>(commeAgent, 11));
     EXPECT_EQ(0, AppelleEmplacement<int>(commeAgent, 13));
-    for (std::size_t const vrai : {20, 29, 32})
+    for (std::size_t const vrai : {20, 29, 32}) {
         EXPECT_TRUE(AppelleEmplacement<bool>(commeAgent, vrai + 1)) << vrai;
+    }
     bool const capacites[] = {true, false, false, false, true, true, true};
-    for (std::size_t i = 0; i < 7; ++i)
+    for (std::size_t i = 0; i < 7; ++i) {
         EXPECT_EQ(capacites[i], AppelleEmplacement<bool>(commeTexteur, i + 2)) << i + 1;
+    }
     EXPECT_EQ(static_cast<InterfaceAgentTexteur*>(agent),
               AppelleEmplacement<InterfaceAgentTexteur*>(commeTexteur, 9));
     AppelleEmplacement<void>(commeAgent, 1);

@@ -72,9 +72,10 @@ TEST(OwnSlots, CapabilitiesAndTheAgentsOwnThreeFollowTheInterface) {
     ModuleProxyOOo agent(L("a~b"));
     void* const vue = &agent;
     bool const attendues[] = {true, false, false, false, true, true, true};
-    for (std::size_t numero = 1; numero <= 7; ++numero)
+    for (std::size_t numero = 1; numero <= 7; ++numero) {
         EXPECT_EQ(attendues[numero - 1], AppelleEmplacement<bool>(vue, kApresInterface + numero))
             << numero;
+    }
     EXPECT_EQ(UniChaine(), AppelleEmplacement<UniChaine>(vue, kApresInterface + 8));
     EXPECT_EQ(0, AppelleEmplacement<int>(vue, kApresInterface + 9));
     EXPECT_EQ(0, AppelleEmplacement<int>(vue, kApresInterface + 10));

@@ -14,9 +14,10 @@ QStringList Methodes() {
     for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
         auto const methode = meta.method(i);
         QStringList parametres;
-        for (int p = 0; p < methode.parameterCount(); ++p)
+        for (int p = 0; p < methode.parameterCount(); ++p) {
             parametres << QString::fromLatin1(methode.parameterTypes().at(p) + " " +
                                               methode.parameterNames().at(p));
+        }
         methodes << QString::fromLatin1("%1 %2(%3)")
                         .arg(QString::fromLatin1(methode.typeName()),
                              QString::fromLatin1(methode.name()),
@@ -55,8 +56,9 @@ TEST(Proxy, DeclaresExactlyTheMethodsOfTheWireInTheirOrderWithTheirParameterName
         "QDBusPendingReply<QString> SynchronisePositions(QString leId)",
     };
     QStringList liste;
-    for (auto const* const attendue : attendues)
+    for (auto const* const attendue : attendues) {
         liste << QString::fromLatin1(attendue);
+    }
     EXPECT_EQ(liste.join(QString::fromLatin1("\n")).toStdString(),
               Methodes().join(QString::fromLatin1("\n")).toStdString());
 }

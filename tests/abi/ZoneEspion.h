@@ -10,8 +10,9 @@
 class ZoneEspion : public InterfaceZoneDeTexte {
   public:
     ~ZoneEspion() override {
-        if (aDetruire != nullptr)
+        if (aDetruire != nullptr) {
             *aDetruire = true;
+        }
     }
 
     std::string nom;           ///< of the operation called last
@@ -56,8 +57,9 @@ class ZoneEspion : public InterfaceZoneDeTexte {
   private:
     static std::string Liste(std::initializer_list<int> valeurs) {
         std::string texte;
-        for (int const valeur : valeurs)
+        for (int const valeur : valeurs) {
             texte += " " + std::to_string(valeur);
+        }
         return texte;
     }
 };

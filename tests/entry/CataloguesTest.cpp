@@ -23,8 +23,9 @@ struct Catalogue {
     std::string Ligne(std::string const& nom) const {
         auto const& entete = messages.at("");
         auto const debut = entete.find(nom + ": ");
-        if (debut == std::string::npos)
+        if (debut == std::string::npos) {
             return {};
+        }
         auto const apres = debut + nom.size() + 2;
         return entete.substr(apres, entete.find('\n', apres) - apres);
     }
@@ -32,8 +33,9 @@ struct Catalogue {
 
 std::uint32_t Mot(QByteArray const& octets, std::uint32_t position) {
     std::uint32_t mot = 0;
-    if (position + sizeof mot > static_cast<std::uint32_t>(octets.size()))
+    if (position + sizeof mot > static_cast<std::uint32_t>(octets.size())) {
         throw std::out_of_range("catalog");
+    }
     std::memcpy(&mot, octets.constData() + position,
                 sizeof mot); // little-endian, as both hosts are
     return mot;
@@ -47,13 +49,15 @@ std::string Texte(QByteArray const& octets, std::uint32_t table, std::uint32_t r
 
 Catalogue Lis(char const* chemin) {
     QFile fichier(QString::fromLatin1(chemin));
-    if (!fichier.open(QIODevice::ReadOnly))
+    if (!fichier.open(QIODevice::ReadOnly)) {
         throw std::runtime_error(chemin);
+    }
     auto const octets = fichier.readAll();
     Catalogue catalogue{Mot(octets, 0), Mot(octets, 4), {}};
-    for (std::uint32_t rang = 0; rang < Mot(octets, 8); ++rang)
+    for (std::uint32_t rang = 0; rang < Mot(octets, 8); ++rang) {
         catalogue.messages[Texte(octets, Mot(octets, 12), rang)] =
             Texte(octets, Mot(octets, 16), rang);
+    }
     return catalogue;
 }
 
@@ -66,8 +70,9 @@ Catalogue Francais() {
 
 std::set<std::string> Cles(Catalogue const& catalogue) {
     std::set<std::string> cles;
-    for (auto const& [cle, traduction] : catalogue.messages)
+    for (auto const& [cle, traduction] : catalogue.messages) {
         cles.insert(cle);
+    }
     return cles;
 }
 
@@ -93,8 +98,9 @@ TEST(Catalogs, HoldTheSameMessages) {
 
 TEST(Catalogs, TranslateEveryMessage) {
     for (auto const& catalogue : {Anglais(), Francais()}) {
-        for (auto const& [cle, traduction] : catalogue.messages)
+        for (auto const& [cle, traduction] : catalogue.messages) {
             EXPECT_FALSE(traduction.empty()) << cle;
+        }
     }
 }
 
@@ -127,15 +133,17 @@ TEST(Catalogs, HoldEveryMessageOfTheAlertsWithItsContext) {
         "connecteur est requis.",
     };
     auto const presentes = Cles(Anglais());
-    for (auto const* cle : cles)
+    for (auto const* cle : cles) {
         EXPECT_EQ(1U, presentes.count(cle)) << cle;
+    }
 }
 
 int Nombre(std::string const& texte, std::string const& motif) {
     int nombre = 0;
     for (auto place = texte.find(motif); place != std::string::npos;
-         place = texte.find(motif, place + 1))
+         place = texte.find(motif, place + 1)) {
         ++nombre;
+    }
     return nombre;
 }
 

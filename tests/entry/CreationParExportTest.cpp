@@ -29,8 +29,9 @@ TEST(AgentFromTheExport, IsNullForAWindowThatIsNotServedWhateverTheIdentifier) {
     AlertesNotees const alertes;
     for (auto const* classe : {u"", u"VCLSalFrame:OpenOffice.org 4.0 ", u"other"}) {
         auto const infos = Infos(classe, kOpenOffice3);
-        for (auto const& identificateur : {U(u""), U(u"inst~doc")})
+        for (auto const& identificateur : {U(u""), U(u"inst~doc")}) {
             EXPECT_EQ(nullptr, GreffonCharge::Donne().CreeAgentTexteur(&infos, &identificateur));
+        }
     }
     EXPECT_TRUE(alertes.Donne().empty()) << "no agent was asked";
 }

@@ -12,16 +12,19 @@ namespace {
 template <class Fonction>
 void Trouve(void* greffon, char const* nom, Fonction& fonction) {
     fonction = reinterpret_cast<Fonction>(dlsym(greffon, nom));
-    if (fonction == nullptr)
+    if (fonction == nullptr) {
         throw std::runtime_error(dlerror());
+    }
 }
 
 GreffonCharge Charge() {
-    for (auto const* nom : {"DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR", "DISPLAY"})
+    for (auto const* nom : {"DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR", "DISPLAY"}) {
         qunsetenv(nom);
+    }
     auto* const greffon = dlopen(CHEMIN_GREFFON, RTLD_NOW | RTLD_LOCAL);
-    if (greffon == nullptr)
+    if (greffon == nullptr) {
         throw std::runtime_error(dlerror());
+    }
     GreffonCharge charge{};
     Trouve(greffon, "DonneNomsTexteurs", charge.DonneNomsTexteurs);
     Trouve(greffon, "CreeTexteur", charge.CreeTexteur);

@@ -45,8 +45,9 @@ QApplication* ConstruisApplication(void* ou) {
 class Module : public testing::Test {
   protected:
     ~Module() override {
-        if (QCoreApplication::instance() == nullptr)
+        if (QCoreApplication::instance() == nullptr) {
             InitialiseModule();
+        }
     }
 };
 
@@ -116,15 +117,17 @@ TEST_F(Module, AnApplicationThatTheHostPutInPlaceOfTheModulesOutlivesTheCleanUp)
     std::unique_ptr<char[]> bloc;
     do {
         bloc = std::make_unique<char[]>(sizeof(QApplication));
-        if (bloc.get() != place)
+        if (bloc.get() != place) {
             ailleurs.push_back(std::move(bloc));
+        }
     } while (!bloc && ailleurs.size() < 1000);
     auto& choisi = bloc ? bloc : ailleurs.back();
     auto* const application = ConstruisApplication(choisi.get());
     LibereModule();
     EXPECT_EQ(application, QCoreApplication::instance());
-    if (QCoreApplication::instance() == application)
+    if (QCoreApplication::instance() == application) {
         application->~QApplication();
+    }
 }
 
 TEST_F(Module, AnotherRunOfTheLoaderLoadsNothingAndLeavesTheTreeRegistered) {

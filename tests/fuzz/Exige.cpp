@@ -5,8 +5,9 @@
 #include <cstdlib>
 
 void Exige(bool tenu, char const* promesse) {
-    if (tenu)
+    if (tenu) {
         return;
+    }
     std::fprintf(stderr, "broken promise: %s\n", promesse);
     std::abort();
 }

@@ -56,8 +56,9 @@ std::vector<std::filesystem::path> Fichiers(std::vector<std::string> const& chem
             fichiers.emplace_back(chemin);
             continue;
         }
-        for (auto const& entree : std::filesystem::directory_iterator(chemin))
+        for (auto const& entree : std::filesystem::directory_iterator(chemin)) {
             fichiers.push_back(entree.path());
+        }
     }
     // A folder has no order of its own; the cases must not depend on it.
     std::sort(fichiers.begin(), fichiers.end());
@@ -80,28 +81,33 @@ int main(int argc, char** argv) {
     std::vector<std::string> chemins;
     for (int i = 1; i < argc; ++i) {
         std::string const mot = argv[i];
-        if ((mot == "--tours" || mot == "--cas") && i + 1 < argc)
+        if ((mot == "--tours" || mot == "--cas") && i + 1 < argc) {
             (mot == "--cas" ? seul : tours) = std::strtoull(argv[++i], nullptr, 10);
-        else if (mot.rfind("--", 0) == 0)
+        } else if (mot.rfind("--", 0) == 0) {
             return Usage();
-        else
+        } else {
             chemins.push_back(mot);
+        }
     }
     auto const fichiers = Fichiers(chemins);
-    if (fichiers.empty())
+    if (fichiers.empty()) {
         return Usage();
+    }
 
-    for (int const signal : {SIGABRT, SIGSEGV, SIGBUS, SIGFPE})
+    for (int const signal : {SIGABRT, SIGSEGV, SIGBUS, SIGFPE}) {
         std::signal(signal, SurSignal);
-    if (__sanitizer_set_death_callback)
+    }
+    if (__sanitizer_set_death_callback) {
         __sanitizer_set_death_callback(DisLeCas);
+    }
 
     std::vector<std::string> germes;
     for (auto const& fichier : fichiers) {
         std::snprintf(enCours, sizeof enCours, "in the seed %.40s\n", fichier.filename().c_str());
         germes.push_back(Contenu(fichier));
-        if (seul == 0)
+        if (seul == 0) {
             Essaie(germes.back());
+        }
     }
     for (auto numero = seul ? seul : 1; numero <= (seul ? seul : tours); ++numero) {
         std::snprintf(enCours, sizeof enCours, "in the derived case %llu\n",

@@ -20,8 +20,9 @@ class Deriveur {
 
     std::string Fais() {
         auto cas = UnGerme();
-        for (auto reste = 1 + Tire(8); reste > 0; --reste)
+        for (auto reste = 1 + Tire(8); reste > 0; --reste) {
             Change(cas);
+        }
         cas.resize(std::min(cas.size(), kTailleMax));
         return cas;
     }
@@ -43,12 +44,14 @@ class Deriveur {
         auto const place = Tire(cas.size() + 1);
         switch (Tire(7)) {
         case 0:
-            if (place < cas.size())
+            if (place < cas.size()) {
                 cas[place] = static_cast<char>(Tire(256));
+            }
             break;
         case 1:
-            if (place < cas.size())
+            if (place < cas.size()) {
                 cas[place] = static_cast<char>(cas[place] ^ (1 << Tire(8)));
+            }
             break;
         case 2:
             cas.erase(place, 1 + Tire(kMorceauMax));
@@ -63,8 +66,9 @@ class Deriveur {
             cas.insert(place, mots[Tire(mots.size())]);
             break;
         default:
-            if (Tire(4) == 0) // seldom, or little would be left to change
+            if (Tire(4) == 0) { // seldom, or little would be left to change
                 cas.resize(place);
+            }
             break;
         }
     }

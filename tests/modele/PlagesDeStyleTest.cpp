@@ -26,9 +26,9 @@ PlagesDeStyle Plages(Styles const& styles) {
 void Remplace(Styles& styles, Intervalle plage, std::size_t longueur) {
     std::uint16_t style = 0;
     if (plage.EstVide() && plage.debut > 0) {
-        style = styles[plage.Debut() - 1];
-    } else if (plage.Debut() < styles.size()) {
-        style = styles[plage.Debut()];
+        style = styles[plage.DonneDebut() - 1];
+    } else if (plage.DonneDebut() < styles.size()) {
+        style = styles[plage.DonneDebut()];
     }
     auto const debut = styles.begin() + plage.debut;
     auto const suite = styles.erase(debut, styles.begin() + plage.fin);

@@ -36,10 +36,10 @@ Edition EditionAuHasard(Hasard& hasard, std::u16string const& texte) {
 std::optional<Intervalle> Image(Intervalle plage, std::size_t debut, std::size_t fin,
                                 std::size_t avant, std::size_t apres) {
     std::size_t const strict = plage.EstVide() ? 1 : 0;
-    if (plage.Fin() + strict <= debut) {
+    if (plage.DonneFin() + strict <= debut) {
         return plage;
     }
-    if (plage.Debut() >= avant - fin + strict) {
+    if (plage.DonneDebut() >= avant - fin + strict) {
         std::int32_t const decalage = Entier(apres) - Entier(avant);
         return Intervalle{plage.debut + decalage, plage.fin + decalage};
     }
@@ -112,8 +112,8 @@ TEST(FollowedTextAtRandom, NeverPutsARangeElsewhereThanTheRealEditDid) {
             continue;
         }
         ++trouvees;
-        ASSERT_EQ(avant.substr(plage.Debut(), plage.Longueur()),
-                  apres.substr(trouvee.plage.Debut(), trouvee.plage.Longueur()));
+        ASSERT_EQ(avant.substr(plage.DonneDebut(), plage.DonneLongueur()),
+                  apres.substr(trouvee.plage.DonneDebut(), trouvee.plage.DonneLongueur()));
         auto const vraie =
             Image(plage, edition.debut, avant.size() - edition.fin, avant.size(), apres.size());
         if (vraie && avant != apres) {
@@ -135,7 +135,7 @@ TEST(FollowedTextAtRandom, CorrectionsAmongForeignEditsOnlyEverChangeTheirOwnLet
                 document = Partage(EditionAuHasard(hasard, *document).Applique(*document));
                 continue;
             }
-            std::u16string const croyance(suivi.Croyance());
+            std::u16string const croyance(suivi.DonneCroyance());
             std::size_t const debut = hasard.Jusqua(croyance.size());
             Intervalle const plage{Entier(debut),
                                    Entier(debut + hasard.Jusqua(croyance.size() - debut))};
@@ -147,14 +147,14 @@ TEST(FollowedTextAtRandom, CorrectionsAmongForeignEditsOnlyEverChangeTheirOwnLet
                 continue;
             }
             ++faites;
-            ASSERT_EQ(croyance.substr(plage.Debut(), plage.Longueur()),
-                      avant.substr(faite.plage.Debut(), faite.plage.Longueur()));
+            ASSERT_EQ(croyance.substr(plage.DonneDebut(), plage.DonneLongueur()),
+                      avant.substr(faite.plage.DonneDebut(), faite.plage.DonneLongueur()));
             std::u16string attendu = avant;
-            attendu.replace(faite.plage.Debut(), faite.plage.Longueur(), remplacement);
+            attendu.replace(faite.plage.DonneDebut(), faite.plage.DonneLongueur(), remplacement);
             ASSERT_EQ(*document, attendu);
             std::u16string cru = croyance;
-            cru.replace(plage.Debut(), plage.Longueur(), remplacement);
-            ASSERT_EQ(suivi.Croyance(), cru);
+            cru.replace(plage.DonneDebut(), plage.DonneLongueur(), remplacement);
+            ASSERT_EQ(suivi.DonneCroyance(), cru);
         }
     }
     EXPECT_GT(faites, 5000);
@@ -169,7 +169,7 @@ TEST(FollowedTextAtRandom, NoBoundEverPartsASurrogatePairOfEitherText) {
         Intervalle const plage{Entier(debut), Entier(debut + hasard.Jusqua(avant.size() - debut))};
         Localisation const trouvee = Suivi(avant).Localise(plage, apres);
         if (trouvee) {
-            for (std::size_t const borne : {trouvee.plage.Debut(), trouvee.plage.Fin()}) {
+            for (std::size_t const borne : {trouvee.plage.DonneDebut(), trouvee.plage.DonneFin()}) {
                 ASSERT_FALSE(borne > 0 && borne < apres.size() && apres[borne] >= 0xDC00 &&
                              apres[borne] <= 0xDFFF && apres[borne - 1] >= 0xD800 &&
                              apres[borne - 1] <= 0xDBFF);

@@ -54,7 +54,7 @@ TEST(FollowedText, OnlyTheTextThatTheHostBelievesIsConfirmed) {
     TexteSuivi suivi = Suivi(u"Les chat");
     EXPECT_FALSE(suivi.Confirme(u"Les chats"));
     EXPECT_FALSE(suivi.Confirme(u"Les"));
-    EXPECT_EQ(suivi.Croyance(), u"Les chat");
+    EXPECT_EQ(suivi.DonneCroyance(), u"Les chat");
     EXPECT_TRUE(suivi.Confirme(u"Les chat"));
     EXPECT_FALSE(TexteSuivi().Confirme(u""));
 }
@@ -174,17 +174,17 @@ TEST(FollowedText, ACorrectionChangesBeliefAndDocumentTogether) {
     EXPECT_EQ(suivi.Corrige({4, 8}, u"chats", document), Trouvee(4, 8));
     EXPECT_EQ(suivi.Corrige({10, 14}, u"dorment", document), Trouvee(10, 14));
     EXPECT_EQ(*document, u"Les chats dorment");
-    EXPECT_EQ(suivi.Croyance(), u"Les chats dorment");
+    EXPECT_EQ(suivi.DonneCroyance(), u"Les chats dorment");
 }
 
 TEST(FollowedText, CorrectionsGoOnAroundWhatTheOtherTyped) {
     TexteSuivi suivi = Suivi(u"Les chat dort ici");
     TextePartage document = Partage(u"Oui. Les chat dort ici");
     EXPECT_EQ(suivi.Corrige({4, 8}, u"chats", document), Trouvee(9, 13));
-    EXPECT_EQ(suivi.Croyance(), u"Les chats dort ici");
+    EXPECT_EQ(suivi.DonneCroyance(), u"Les chats dort ici");
     EXPECT_EQ(suivi.Corrige({10, 14}, u"dorment", document), Trouvee(15, 19));
     EXPECT_EQ(*document, u"Oui. Les chats dorment ici");
-    EXPECT_EQ(suivi.Croyance(), u"Les chats dorment ici");
+    EXPECT_EQ(suivi.DonneCroyance(), u"Les chats dorment ici");
 }
 
 TEST(FollowedText, ARefusedCorrectionChangesNoDocumentAndIsOnlySafeBeforeIt) {
@@ -221,7 +221,7 @@ TEST(FollowedText, SeveralHostsOfOneTextAreFollowedEachForItself) {
     premier.Donne(document);
     second.Donne(document);
     EXPECT_TRUE(premier.Corrige({0, 2}, u"mon", document));
-    EXPECT_EQ(second.Croyance(), u"un chat dort");
+    EXPECT_EQ(second.DonneCroyance(), u"un chat dort");
     EXPECT_EQ(second.Corrige({8, 12}, u"mange", document), Trouvee(9, 13));
     EXPECT_EQ(*document, u"mon chat mange");
     EXPECT_EQ(second.Localise({0, 2}, *document), Refusee(Refus::Incertain));

@@ -11,10 +11,11 @@ void PrintTo(UniChaine const& texte, std::ostream* sortie) {
     *sortie << texte.Longueur() << " units \"";
     for (int i = 0; i < texte.Longueur(); ++i) {
         auto const unite = static_cast<unsigned>(texte.DonneUnite(i));
-        if (unite >= ' ' && unite < 0x7F)
+        if (unite >= ' ' && unite < 0x7F) {
             *sortie << static_cast<char>(unite);
-        else
+        } else {
             *sortie << "\\u" << std::hex << std::setw(4) << std::setfill('0') << unite << std::dec;
+        }
     }
     *sortie << '"';
 }

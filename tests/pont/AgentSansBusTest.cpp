@@ -168,9 +168,11 @@ TEST(AgentInitialisation, OnlyTheExactOldClassIsRefusedWithAnAlert) {
     AgentEssai agent(U(u"essai~doc"));
     AlertesNotees const alertes;
     UniChaine message;
-    for (auto const* classe : {u"", u"VCLSalFrame:OpenOffice.org 3.0 ", u"OpenOffice.org 3.0",
-                               u"vclsalframe:openoffice.org 3.0", u"VCLSalFrame:OpenOffice.org 3"})
+    for (auto const* classe :
+         {u"", u"VCLSalFrame:OpenOffice.org 3.0 ", u"OpenOffice.org 3.0",
+          u"vclsalframe:openoffice.org 3.0", u"VCLSalFrame:OpenOffice.org 3"}) {
         EXPECT_FALSE(agent.InitialiseTexteur(U(classe), message, 0)); // there is no bus
+    }
     EXPECT_TRUE(alertes.Donne().empty());
 }
 

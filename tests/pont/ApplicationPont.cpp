@@ -17,10 +17,12 @@ namespace {
 class ApplicationPont : public testing::Environment {
   public:
     void SetUp() override {
-        for (auto const* nom : {"DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR", "DISPLAY"})
+        for (auto const* nom : {"DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR", "DISPLAY"}) {
             qunsetenv(nom);
-        if (auto const adresse = qgetenv("VOCALYNE_BUS_ESSAI"); !adresse.isEmpty())
+        }
+        if (auto const adresse = qgetenv("VOCALYNE_BUS_ESSAI"); !adresse.isEmpty()) {
             qputenv("DBUS_SESSION_BUS_ADDRESS", adresse);
+        }
         static char nom[] = "essai";
         static char* arguments[] = {nom, nullptr};
         static int nombre = 1;

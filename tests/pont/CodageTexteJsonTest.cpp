@@ -28,8 +28,9 @@ TEST(JsonTextCoding, HalfOfAPairIsWrittenAsAQuestionMark) {
 TEST(JsonTextCoding, ReadsWhatItWrote) {
     for (auto const& texte :
          {U(u""), U(u"a"), U(u"ab"), U(u"abc"), U(u"d’été"), U(u"e\u0301"),
-          U(u"\U0001F600\U0010FFFF"), U(u"\uFEFF"), U(u"\x07\x11"), U(u"\n\r\t")})
+          U(u"\U0001F600\U0010FFFF"), U(u"\uFEFF"), U(u"\x07\x11"), U(u"\n\r\t")}) {
         EXPECT_EQ(texte, DecodeTexteJson(EncodeTexteJson(texte).VersUtf8()));
+    }
 }
 
 TEST(JsonTextCoding, DecodedTextEndsAtItsFirstNul) {

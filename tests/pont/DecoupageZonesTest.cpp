@@ -57,8 +57,9 @@ TEST(ZoneCutting, LeavesEveryOtherFormToTheParser) {
                                  "{\"Zones\":[{}]}//",
                                  "{\"Zones\":[{}/**/]}",
                                  "\xEF\xBB\xBF{\"Zones\":[]}",
-                                 R"({"Zones":[{"a":[[[[[[[[[[]]]]]]]]]]}]})"})
+                                 R"({"Zones":[{"a":[[[[[[[[[[]]]]]]]]]]}]})"}) {
         EXPECT_FALSE(DecoupeZones(document).has_value()) << document;
+    }
 }
 
 /// A comment in front has the parser take the whole, and changes nothing else.
@@ -119,10 +120,12 @@ TEST(ZoneCutting, FindsWhatTheParserFindsInAnyDocumentMadeOfItsWords) {
     std::mt19937 hasard(7);
     for (int essai = 0; essai < 20000; ++essai) {
         std::string document = essai % 2 == 0 ? "{\"Zones\":[" : "";
-        for (auto reste = hasard() % 12; reste > 0; --reste)
+        for (auto reste = hasard() % 12; reste > 0; --reste) {
             document += kMots[hasard() % std::size(kMots)];
-        if (essai % 4 == 0)
+        }
+        if (essai % 4 == 0) {
             document += "]}";
+        }
         CompareLesDeux(document);
     }
 }
@@ -163,8 +166,9 @@ TEST(ZoneCutting, FindsWhatTheParserFindsWhereCommentsHoldQuotesAndBraces) {
     std::mt19937 hasard(9);
     for (int essai = 0; essai < 20000; ++essai) {
         std::string document = "{\"Zones\":[{";
-        for (auto reste = 1 + hasard() % 6; reste > 0; --reste)
+        for (auto reste = 1 + hasard() % 6; reste > 0; --reste) {
             document += kMots[hasard() % std::size(kMots)];
+        }
         CompareLesDeux(document + "}]}");
     }
 }

@@ -20,8 +20,9 @@ std::string Exemple() {
 
 std::string Repete(std::string const& motif, int fois) {
     std::string texte;
-    for (int i = 0; i < fois; ++i)
+    for (int i = 0; i < fois; ++i) {
         texte += motif;
+    }
     return texte;
 }
 
@@ -50,8 +51,9 @@ TEST(DamagedDocuments, ThatAreNoJsonHandOutNothing) {
          }) {
         auto const lecture = LisTout(document);
         EXPECT_EQ("", lecture.erreur) << document;
-        for (auto const& zone : lecture.zones)
+        for (auto const& zone : lecture.zones) {
             EXPECT_TRUE(zone.nom.EstVide() && zone.texte.EstVide()) << document;
+        }
     }
 }
 
@@ -119,8 +121,9 @@ TEST(DamagedDocuments, NestingThatNeverEndsHandsOutNothing) {
         for (int const fois : {400, 999, 1001, 100000}) {
             auto const lecture = LisTout(Repete(motif, fois));
             EXPECT_EQ("", lecture.erreur) << motif << fois;
-            for (auto const& zone : lecture.zones)
+            for (auto const& zone : lecture.zones) {
                 EXPECT_TRUE(zone.texte.EstVide()) << motif << fois;
+            }
         }
     }
 }

@@ -191,8 +191,9 @@ TEST(ZoneReader, WhatTheReceiverThrowsEndsTheReading) {
 TEST(ZoneReader, AHundredThousandZonesAreHandedOutInOrder) {
     constexpr int kNombre = 100000;
     std::string zones;
-    for (int i = 0; i < kNombre; ++i)
+    for (int i = 0; i < kNombre; ++i) {
         zones += (i == 0 ? "" : ",") + Zone(std::to_string(i), "texte");
+    }
     int rang = 0;
     LisListeDeZones(Liste(zones), [&](ZoneRecue&& zone) {
         EXPECT_EQ(rang, zone.nom.VersQString().toInt());

@@ -27,8 +27,9 @@ class Hasard {
             u"\uFEFF", u"\uFFFF", u"\n",         u"\x07",      u"\"",     u"\\",
             u"\u65E5", u"\u200D", u"\U0001F600", u"\U0010FFFF"};
         UniChaine texte;
-        for (int reste = Entre(0, longueurMax); reste > 0; --reste)
+        for (int reste = Entre(0, longueurMax); reste > 0; --reste) {
             texte.Ajoute(U(kPieces[Entre(0, static_cast<int>(std::size(kPieces)) - 1)]));
+        }
         return texte;
     }
 
@@ -66,9 +67,10 @@ TEST(ZoneRoundTrip, ZonesComeBackWithNameTextAndRuns) {
         auto const nom = hasard.Texte(8);
         std::vector<PlageStyle> styles;
         styles.reserve(texte.DonnePlages().size());
-        for (auto const& plage : texte.DonnePlages())
+        for (auto const& plage : texte.DonnePlages()) {
             styles.push_back({static_cast<std::uint32_t>(plage.debut),
                               static_cast<std::uint32_t>(plage.Longueur()), plage.attribut});
+        }
         UniChaine nomRelu;
         auto const json = ZoneVersJson(styles, TexteDe(texte), nom);
         EXPECT_EQ(texte, JsonVersChaineAttribuee(json, nomRelu)) << essai;
@@ -87,9 +89,10 @@ TEST(ZoneRoundTrip, RunsOfAnyNumbersComeBackAsTheyWere) {
     std::mt19937 moteur(4);
     for (int essai = 0; essai < kEssais; ++essai) {
         std::vector<PlageStyle> styles(static_cast<std::size_t>(hasard.Entre(0, 6)));
-        for (auto& plage : styles)
+        for (auto& plage : styles) {
             plage = {static_cast<std::uint32_t>(moteur()), static_cast<std::uint32_t>(moteur()),
                      static_cast<std::uint32_t>(moteur()) & 0xFFFFU};
+        }
         auto const zones = LisTout(Liste(ZoneVersJson(styles, {}, {}).VersUtf8())).zones;
         ASSERT_EQ(1U, zones.size()) << essai;
         EXPECT_EQ(styles, zones[0].styles) << essai;

@@ -47,8 +47,9 @@ TEST(ZoneWriter, AnAttributedStringHasNoNameAndWritesItsRunsAsItStoresThem) {
 
 TEST(ZoneWriter, TheDocumentIsPlainAsciiWhateverTheText) {
     auto const json = ZoneVersJson({}, U(u"\"\\\n\u2028é\U0001F600"), U(u"</script>")).VersUtf8();
-    for (char const octet : json)
+    for (char const octet : json) {
         EXPECT_TRUE(octet == '\n' || (octet >= ' ' && octet < 0x7F));
+    }
     EXPECT_EQ('\n', json.back());
     EXPECT_EQ(json.size() - 1, json.find('\n'));
 }

@@ -93,8 +93,9 @@ TEST(LibreOfficeZone, AppliesItsRunsInListOrder) {
     };
     for (auto const& c : cas) {
         auto zone = ZoneSeule(u"abcdef");
-        for (auto const& style : c.styles)
+        for (auto const& style : c.styles) {
             zone.AjouteStyle(style);
+        }
         EXPECT_EQ(c.plages, zone.DonneTexte().DonnePlages());
         EXPECT_EQ(c.styles.size(), zone.DonneStyles().size());
         EXPECT_EQ(U(u"abcdef"), TexteDe(zone.DonneTexte()));
@@ -123,8 +124,9 @@ TEST(LibreOfficeZone, ManyRunsInOrderAreAppliedInLinearTime) {
     constexpr int kNombre = 100000;
     ZoneDeTexteOOoProxy zone(nullptr, nullptr, sdd::T(sdd::ChaineN(3 * kNombre, u'x')), U(u"n"), 0,
                              0);
-    for (int i = 0; i < kNombre; ++i)
+    for (int i = 0; i < kNombre; ++i) {
         zone.AjouteStyle({static_cast<std::uint32_t>(3 * i), 2, 1});
+    }
     EXPECT_EQ(static_cast<std::size_t>(kNombre), zone.DonneTexte().DonnePlages().size());
 }
 

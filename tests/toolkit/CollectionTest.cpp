@@ -111,8 +111,9 @@ TEST(ZoneCollection, MovesWithItsZonesAndIsNotCopied) {
 TEST(ZoneCollection, OwnedZonesStandForAHundredThousand) {
     {
         CollectionZonesDeTexte zones;
-        for (int i = 0; i < 100000; ++i)
+        for (int i = 0; i < 100000; ++i) {
             zones.AjoutePossedee(std::make_unique<ZoneComptee>());
+        }
         EXPECT_EQ(100000, ZoneComptee::vivantes);
         zones.RetireEmpruntees(&Agent());
         EXPECT_EQ(100000, zones.DonneNombre());

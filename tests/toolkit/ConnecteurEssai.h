@@ -43,8 +43,9 @@ class ConnecteurEssai : public ConnecteurMuet {
 
     TexteAvecAttributs Extrait(int debut, int fin) const {
         TexteAvecAttributs extrait(document.DonneTexte().Extrais(debut, fin - debut));
-        for (auto const& plage : document.DonnePlages())
+        for (auto const& plage : document.DonnePlages()) {
             extrait.MetsAttribut(plage.debut - debut, plage.Longueur(), plage.attribut);
+        }
         return extrait;
     }
 
@@ -91,8 +92,9 @@ class ConnecteurEssai : public ConnecteurMuet {
 inline std::vector<UniChaine> TextesDe(CollectionZonesDeTexte const& zones) {
     std::vector<UniChaine> textes;
     textes.reserve(static_cast<std::size_t>(zones.DonneNombre()));
-    for (int i = 0; i < zones.DonneNombre(); ++i)
+    for (int i = 0; i < zones.DonneNombre(); ++i) {
         textes.push_back(TexteDe(zones.DonneZone(i)->DonneTexte()));
+    }
     return textes;
 }
 

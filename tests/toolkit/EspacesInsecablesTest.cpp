@@ -35,8 +35,9 @@ TEST(NoBreakSpaces, ThoseThatTouchASpaceAreReadAsSpaces) {
     };
     ConnecteurEssai connecteur;
     connecteur.insecables = true;
-    for (auto const& c : cas)
+    for (auto const& c : cas) {
         EXPECT_EQ(U(c.attendu), Normalise(connecteur, c.lu));
+    }
 }
 
 TEST(NoBreakSpaces, StayUnlessTheConnectorWantsThemReplaced) {

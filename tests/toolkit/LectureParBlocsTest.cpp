@@ -112,8 +112,9 @@ TEST(ZoneFilling, AReadThatThrowsLeavesFillerAndTheOtherZonesAreStillRead) {
     connecteur.Bornes() = {3, 6};
     connecteur.tailleBloc = 2;
     connecteur.lis = [&](int debut, int fin) {
-        if (debut == 1)
+        if (debut == 1) {
             Echoue();
+        }
         return connecteur.Extrait(debut, fin);
     };
     CollectionZonesDeTexte zones;
@@ -132,8 +133,9 @@ TEST(ZoneFilling, AttributesOfTheBlocksStandAtTheirPlaceInTheZone) {
     auto const premiere = zones.DonneZone(0)->DonneTexte();
     auto const seconde = zones.DonneZone(1)->DonneTexte();
     EXPECT_EQ(connecteur.Extrait(0, 4), premiere);
-    for (int i = 0; i < 12; ++i)
+    for (int i = 0; i < 12; ++i) {
         EXPECT_EQ(connecteur.document.DonneAttribut(i + 4), seconde.DonneAttribut(i)) << i;
+    }
 }
 
 TEST(ZoneFilling, AttributesOfWhatIsCutAwayGoWithIt) {

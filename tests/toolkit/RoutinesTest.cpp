@@ -28,8 +28,9 @@ TEST(ZoneBoundaries, TheDefaultGivesTheFirstBoundaryBeyondThePosition) {
                           {11, 12},
                           {12, 12},
                           {100, 12},
-                          {INT_MAX, 12}})
+                          {INT_MAX, 12}}) {
         EXPECT_EQ(c.fin, connecteur.DonneFinZone(c.position)) << c.position;
+    }
 }
 
 struct CasBornes {
@@ -121,9 +122,10 @@ TEST(ZoneEnd, IsTruePastTheTextOrWhereThreeEqualPositionsEndAZone) {
     };
     ConnecteurEssai connecteur(u"0123456789ab");
     connecteur.Bornes() = {3, 7, 12};
-    for (auto const& c : cas)
+    for (auto const& c : cas) {
         EXPECT_EQ(c.attendu, EstFinDeZone(connecteur, c.a, c.b, c.c))
             << c.a << ", " << c.b << ", " << c.c;
+    }
 }
 
 struct CasVersion {
@@ -156,9 +158,10 @@ TEST(VersionHundreds, MatchWhenTheSecondLiesInTheHundredOfTheFirst) {
         {u"-2147483648", u"-2147483647", true},
         {u"99999999999", u"5", true}, // past 32 bits: not a number
     };
-    for (auto const& c : cas)
+    for (auto const& c : cas) {
         EXPECT_EQ(c.attendu, EstMemeCentaineVersion(U(c.premiere), U(c.seconde)))
             << testing::PrintToString(U(c.premiere)) << testing::PrintToString(U(c.seconde));
+    }
 }
 
 class AgentInitialise : public ConnecteurMuet {

@@ -68,8 +68,9 @@ TEST(GenericSynchronisation, ABoundaryAtTheCurrentPositionEndsTheZoneAtTheLength
 TEST(GenericSynchronisation, AZoneEndThatThrowsEndsTheZoneAtTheLength) {
     ConnecteurEssai connecteur(u"abcd");
     connecteur.finZone = [](int position) -> int {
-        if (position >= 1)
+        if (position >= 1) {
             Echoue();
+        }
         return 1;
     };
     CollectionZonesDeTexte zones;

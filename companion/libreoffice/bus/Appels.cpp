@@ -16,7 +16,7 @@ namespace extension {
 
 namespace {
 
-constexpr char kPrefixeErreur[] = "com.ombrel.vocalyne.texteurs.ErreurDuService.";
+constexpr char kPrefixeErreur[] = "com.ombrel.vocalyne.texteurs.Erreur.";
 
 } // namespace
 
@@ -65,7 +65,7 @@ void Appels::Sert(GDBusMethodInvocation* invocation, std::chrono::milliseconds d
                 GVariant* const resultat = travail(*service_, appelant);
                 g_dbus_method_invocation_return_value(ici->invocation, resultat);
             } catch (ErreurDuService const& erreur) {
-                RepondsErreur(ici->invocation, erreur.Nom().c_str(), erreur.what());
+                RepondsErreur(ici->invocation, erreur.DonneNom().c_str(), erreur.what());
             } catch (lang::DisposedException const&) {
                 RepondsErreur(ici->invocation, "DocumentFerme", "the document is being closed");
             } catch (uno::Exception const& erreur) {

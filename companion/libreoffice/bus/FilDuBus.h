@@ -33,7 +33,7 @@ class FilDuBus {
     /// How things stand. Any thread.
     EtatDuBus DonneEtat() const;
     /// The service's name on the bus, owned or not. Any thread.
-    std::string const& Nom() const noexcept { return nom_; }
+    std::string const& DonneNom() const noexcept { return nom_; }
 
   private:
     void Tourne();

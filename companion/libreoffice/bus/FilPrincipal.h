@@ -15,8 +15,7 @@ namespace extension {
 class FilPrincipal {
   public:
     /// Office lock not needed; any thread.
-    explicit FilPrincipal(
-        com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> const& contexte);
+    explicit FilPrincipal(css::uno::Reference<css::uno::XComponentContext> const& contexte);
 
     /// Queues the work; it runs in the order of posting, with the office's lock held, once the main
     /// thread is free (also beneath a modal dialog). While the office starts or quits it may never
@@ -24,7 +23,7 @@ class FilPrincipal {
     void Poste(std::shared_ptr<Demande> demande);
 
   private:
-    com::sun::star::uno::Reference<com::sun::star::awt::XRequestCallback> file_;
+    css::uno::Reference<css::awt::XRequestCallback> file_;
 };
 
 } // namespace extension

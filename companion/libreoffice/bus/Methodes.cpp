@@ -45,7 +45,7 @@ template <typename Travail>
 gboolean Sert(gpointer methodes, Invocation* invocation, Travail travail) {
     auto& soi = *static_cast<Methodes*>(methodes);
     soi.Note(g_dbus_method_invocation_get_sender(invocation));
-    soi.Cible().Sert(invocation, soi.LesDelais().ordinaire, std::move(travail));
+    soi.Cible().Sert(invocation, soi.DonneDelais().ordinaire, std::move(travail));
     return TRUE;
 }
 
@@ -160,7 +160,7 @@ gboolean SurSynchronise(GObject* /*s*/, Invocation* invocation, char const* leId
 gboolean SurInitialise(GObject* /*s*/, Invocation* invocation, char const* cle, gpointer methodes) {
     auto& soi = *static_cast<Methodes*>(methodes);
     soi.Note(g_dbus_method_invocation_get_sender(invocation));
-    soi.Cible().Sert(invocation, soi.LesDelais().initialisation,
+    soi.Cible().Sert(invocation, soi.DonneDelais().initialisation,
                      [cle = std::string(cle)](Service& service, std::string const& appelant) {
                          service.InitialiseTexteur(appelant, cle);
                          return static_cast<GVariant*>(nullptr);
@@ -171,7 +171,7 @@ gboolean SurInitialise(GObject* /*s*/, Invocation* invocation, char const* cle, 
 /// Answered here and now: who asks waits a second and a half at most, and a busy office is alive.
 gboolean SurDocEstMort(GObject* /*s*/, Invocation* invocation, char const* cle, gpointer methodes) {
     auto const& soi = *static_cast<Methodes*>(methodes);
-    g_dbus_method_invocation_return_value(invocation, Booleen(!soi.Vivantes().Contient(cle)));
+    g_dbus_method_invocation_return_value(invocation, Booleen(!soi.DonneVivantes().Contient(cle)));
     return TRUE;
 }
 

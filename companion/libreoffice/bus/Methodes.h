@@ -28,8 +28,8 @@ class Methodes {
 
     // For the skeletons' signal handlers.
     Appels& Cible() noexcept { return cible_; }
-    Delais const& LesDelais() const noexcept { return delais_; }
-    ClesVivantes const& Vivantes() const noexcept { return *vivantes_; }
+    Delais const& DonneDelais() const noexcept { return delais_; }
+    ClesVivantes const& DonneVivantes() const noexcept { return *vivantes_; }
     /// A call from this connection came in.
     void Note(char const* appelant) const { surAppelant_(appelant); }
 

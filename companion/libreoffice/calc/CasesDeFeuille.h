@@ -23,6 +23,6 @@ struct CaseDeFeuille {
 /// merged one or hidden by their protection, what a pivot table has written. Takes time by the
 /// cells in use. Main thread.
 std::vector<CaseDeFeuille>
-CasesDeFeuille(com::sun::star::uno::Reference<com::sun::star::sheet::XSpreadsheet> const& feuille);
+CasesDeFeuille(css::uno::Reference<css::sheet::XSpreadsheet> const& feuille);
 
 } // namespace extension

@@ -37,7 +37,7 @@ table::CellContentType Genre(uno::Reference<uno::XInterface> const& cellule) {
 } // namespace
 
 std::optional<table::CellAddress> Cellule::Adresse() const {
-    uno::Reference<sheet::XCellAddressable> const cellule(Objet(), uno::UNO_QUERY_THROW);
+    uno::Reference<sheet::XCellAddressable> const cellule(DonneObjet(), uno::UNO_QUERY_THROW);
     try {
         return cellule->getCellAddress();
     } catch (uno::RuntimeException const&) {
@@ -45,24 +45,24 @@ std::optional<table::CellAddress> Cellule::Adresse() const {
     }
 }
 
-uno::Reference<text::XText> Cellule::Texte() const {
-    return uno::Reference<text::XText>(Objet(), uno::UNO_QUERY_THROW);
+uno::Reference<text::XText> Cellule::DonneTexte() const {
+    return uno::Reference<text::XText>(DonneObjet(), uno::UNO_QUERY_THROW);
 }
 
-OUString Cellule::TexteBrut() const {
+OUString Cellule::DonneTexteBrut() const {
     // The cell's own string may have a number format's words around it.
-    uno::Reference<sheet::XCellRangeData> const cellule(Objet(), uno::UNO_QUERY_THROW);
+    uno::Reference<sheet::XCellRangeData> const cellule(DonneObjet(), uno::UNO_QUERY_THROW);
     OUString texte;
     cellule->getDataArray()[0][0] >>= texte;
     return texte;
 }
 
 bool Cellule::EstUniforme() const {
-    uno::Reference<sheet::XCellRangesQuery> const cellule(Objet(), uno::UNO_QUERY_THROW);
+    uno::Reference<sheet::XCellRangesQuery> const cellule(DonneObjet(), uno::UNO_QUERY_THROW);
     return cellule->queryContentCells(sheet::CellFlags::FORMATTED)
                    ->getRangeAddresses()
                    .getLength() == 0 &&
-           TexteBrut().indexOf('\n') < 0;
+           DonneTexteBrut().indexOf('\n') < 0;
 }
 
 ParagrapheLu Cellule::LisUniforme(OUString const& texte, std::uint16_t style) {
@@ -72,7 +72,7 @@ ParagrapheLu Cellule::LisUniforme(OUString const& texte, std::uint16_t style) {
 }
 
 std::vector<ParagrapheLu> Cellule::LisTout() const {
-    table::CellContentType const genre = Genre(Objet());
+    table::CellContentType const genre = Genre(DonneObjet());
     // What a correction has emptied may be filled again.
     if (genre != table::CellContentType_TEXT && genre != table::CellContentType_EMPTY) {
         throw ZoneInconnue();
@@ -80,33 +80,33 @@ std::vector<ParagrapheLu> Cellule::LisTout() const {
     if (!EstUniforme()) {
         return TexteDessine::LisTout();
     }
-    uno::Reference<beans::XMultiPropertySet> const format(Objet(), uno::UNO_QUERY_THROW);
+    uno::Reference<beans::XMultiPropertySet> const format(DonneObjet(), uno::UNO_QUERY_THROW);
     uno::Sequence<uno::Any> const valeurs = format->getPropertyValues(NomsDesProprietesDeLettres());
-    OUString const texte = TexteBrut();
+    OUString const texte = DonneTexteBrut();
     std::vector<ParagrapheLu> lus(1);
     lus[0].plan.Ajoute(std::u16string(Vue(texte)),
-                       StylesDeLettres(Objet(), valeurs.getConstArray(), texte));
+                       StylesDeLettres(DonneObjet(), valeurs.getConstArray(), texte));
     return lus;
 }
 
 bool Cellule::EstProtege() const {
-    uno::Reference<sheet::XSheetCellRange> const cellule(Objet(), uno::UNO_QUERY_THROW);
+    uno::Reference<sheet::XSheetCellRange> const cellule(DonneObjet(), uno::UNO_QUERY_THROW);
     uno::Reference<util::XProtectable> const feuille(cellule->getSpreadsheet(),
                                                      uno::UNO_QUERY_THROW);
     if (!feuille->isProtected()) {
         return false;
     }
-    uno::Reference<beans::XPropertySet> const proprietes(Objet(), uno::UNO_QUERY_THROW);
+    uno::Reference<beans::XPropertySet> const proprietes(DonneObjet(), uno::UNO_QUERY_THROW);
     util::CellProtection protection;
     proprietes->getPropertyValue("CellProtection") >>= protection;
     return protection.IsLocked;
 }
 
 bool Cellule::EstEnFrappe() const {
-    uno::Reference<sheet::XCellAddressable> const active(Modele()->getCurrentSelection(),
+    uno::Reference<sheet::XCellAddressable> const active(DonneModele()->getCurrentSelection(),
                                                          uno::UNO_QUERY);
     return active.is() && active->getCellAddress() == Adresse() &&
-           EstEnTrainDeTaper(Modele()->getCurrentController(), Frappe::DansUneCellule);
+           EstEnTrainDeTaper(DonneModele()->getCurrentController(), Frappe::DansUneCellule);
 }
 
 bool Cellule::Remplace(std::size_t rang, std::size_t debut, std::u16string const& avant,
@@ -125,16 +125,16 @@ bool Cellule::Remplace(std::size_t rang, std::size_t debut, std::u16string const
     for (compagnon::EtapeEdition const& etape : *etapes) {
         lettres.replace(departs[etape.portion] + etape.debut, etape.fin - etape.debut, etape.ajout);
     }
-    uno::Reference<beans::XPropertySet> const proprietes(Objet(), uno::UNO_QUERY_THROW);
+    uno::Reference<beans::XPropertySet> const proprietes(DonneObjet(), uno::UNO_QUERY_THROW);
     uno::Any const format = proprietes->getPropertyValue("NumberFormat");
     // For what looks like a number the office turns the cell's number format into the one of text,
     // and its undo step forgets that: it must find nothing to turn.
     if (std::any_of(lettres.begin(), lettres.end(),
                     [](char16_t unite) { return unite >= u'0' && unite <= u'9'; })) {
-        proprietes->setPropertyValue("NumberFormat", FormatDeTexte());
+        proprietes->setPropertyValue("NumberFormat", DonneFormatDeTexte());
     }
     if (EstUniforme()) {
-        Texte()->setString(EnUno(lettres)); // as text, whatever it looks like
+        DonneTexte()->setString(EnUno(lettres)); // as text, whatever it looks like
     } else {
         for (compagnon::EtapeEdition const& etape : *etapes) {
             Execute(lus[rang], etape);
@@ -146,17 +146,17 @@ bool Cellule::Remplace(std::size_t rang, std::size_t debut, std::u16string const
     return true;
 }
 
-uno::Any Cellule::FormatDeTexte() const {
-    uno::Reference<util::XNumberFormatsSupplier> const source(Modele(), uno::UNO_QUERY_THROW);
+uno::Any Cellule::DonneFormatDeTexte() const {
+    uno::Reference<util::XNumberFormatsSupplier> const source(DonneModele(), uno::UNO_QUERY_THROW);
     uno::Reference<util::XNumberFormatTypes> const formats(source->getNumberFormats(),
                                                            uno::UNO_QUERY_THROW);
     return uno::Any(formats->getStandardFormat(util::NumberFormat::TEXT, lang::Locale()));
 }
 
 void Cellule::Selectionne() {
-    uno::Reference<view::XSelectionSupplier> const vue(Modele()->getCurrentController(),
+    uno::Reference<view::XSelectionSupplier> const vue(DonneModele()->getCurrentController(),
                                                        uno::UNO_QUERY_THROW);
-    vue->select(uno::Any(Objet()));
+    vue->select(uno::Any(DonneObjet()));
 }
 
 } // namespace extension

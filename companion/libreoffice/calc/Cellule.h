@@ -13,12 +13,12 @@ namespace extension {
 /// it was made for on the same cell while rows and columns come and go. Main thread only.
 class Cellule : public TexteDessine {
   public:
-    Cellule(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& cellule,
-            com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& modele)
+    Cellule(css::uno::Reference<css::uno::XInterface> const& cellule,
+            css::uno::Reference<css::frame::XModel> const& modele)
         : TexteDessine(cellule, modele, nullptr) {}
 
     /// Where the cell stands now; nothing once it was deleted.
-    std::optional<com::sun::star::table::CellAddress> Adresse() const;
+    std::optional<css::table::CellAddress> Adresse() const;
 
     bool SAnnuleSeul() const override { return true; }
     bool EstProtege() const override;
@@ -31,13 +31,13 @@ class Cellule : public TexteDessine {
     static ParagrapheLu LisUniforme(rtl::OUString const& texte, std::uint16_t style);
 
   protected:
-    com::sun::star::uno::Reference<com::sun::star::text::XText> Texte() const override;
+    css::uno::Reference<css::text::XText> DonneTexte() const override;
     std::vector<ParagrapheLu> LisTout() const override;
 
   private:
     bool EstUniforme() const;
-    rtl::OUString TexteBrut() const;
-    com::sun::star::uno::Any FormatDeTexte() const;
+    rtl::OUString DonneTexteBrut() const;
+    css::uno::Any DonneFormatDeTexte() const;
 };
 
 } // namespace extension

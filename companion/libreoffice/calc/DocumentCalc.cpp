@@ -6,11 +6,11 @@
 namespace extension {
 
 void DocumentCalc::ParcoursZones(Recueil const& recueil) {
-    cellules_ = ParcoursCalc(Modele(), Carnet(), cellules_, recueil).Parcours();
+    cellules_ = ParcoursCalc(DonneModele(), Carnet(), cellules_, recueil).Parcours();
 }
 
 std::unique_ptr<SelectionVue> DocumentCalc::LisChoixDuBureau() {
-    return LisChoixCalc(Modele(), cellules_);
+    return LisChoixCalc(DonneModele(), cellules_);
 }
 
 } // namespace extension

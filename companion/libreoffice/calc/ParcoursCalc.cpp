@@ -80,7 +80,7 @@ void ParcoursCalc::LisCellule(Feuille const& feuille, std::int16_t numero,
         cellule = std::make_shared<Cellule>(objet, modele_);
         carnet_.InscrisTexte(objet, cellule);
     }
-    carnet_.RetrouveTexte(cellule->Objet()); // it is still there
+    carnet_.RetrouveTexte(cellule->DonneObjet()); // it is still there
     vues_.push_back(cellule);
     std::vector<ParagrapheLu> lus;
     if (endroit.estUniforme) {

@@ -20,22 +20,21 @@ using Cellules = std::vector<std::shared_ptr<Cellule>>;
 class ParcoursCalc {
   public:
     /// `connues`: the cells of the walk before, which keep their zones wherever they stand now.
-    ParcoursCalc(com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& modele,
-                 CarnetDeZones& carnet, Cellules const& connues,
-                 TexteDessine::Recueil const& recueil);
+    ParcoursCalc(css::uno::Reference<css::frame::XModel> const& modele, CarnetDeZones& carnet,
+                 Cellules const& connues, TexteDessine::Recueil const& recueil);
 
     /// The cells met.
     Cellules Parcours();
 
   private:
-    using Feuille = com::sun::star::uno::Reference<com::sun::star::sheet::XSpreadsheet>;
+    using Feuille = css::uno::Reference<css::sheet::XSpreadsheet>;
 
     void ParcoursFeuille(Feuille const& feuille, std::int16_t numero);
     void LisCellule(Feuille const& feuille, std::int16_t numero, CaseDeFeuille const& endroit);
     void LisCommentaire(Feuille const& feuille, CaseDeFeuille const& endroit,
                         std::shared_ptr<Contenant const> const& contenant);
 
-    com::sun::star::uno::Reference<com::sun::star::frame::XModel> modele_;
+    css::uno::Reference<css::frame::XModel> modele_;
     CarnetDeZones& carnet_;
     TexteDessine::Recueil const& recueil_;
     std::unordered_map<std::uint64_t, std::shared_ptr<Cellule>> connues_;

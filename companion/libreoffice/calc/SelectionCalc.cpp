@@ -36,11 +36,11 @@ class ChoixDeCellules : public SelectionVue {
         auto const trouvee = EstSeule() ? std::find_if(cellules_.begin(), cellules_.end(),
                                                        [&](auto const& c) { return Contient(*c); })
                                         : cellules_.end();
-        if (trouvee == cellules_.end() || (*trouvee)->Zones().empty()) {
+        if (trouvee == cellules_.end() || (*trouvee)->DonneZones().empty()) {
             return nullptr;
         }
-        deborde_ = (*trouvee)->Zones().size() > 1;
-        return (*trouvee)->Zones().front();
+        deborde_ = (*trouvee)->DonneZones().size() > 1;
+        return (*trouvee)->DonneZones().front();
     }
 
     bool Deborde() override { return deborde_; }
@@ -54,7 +54,7 @@ class ChoixDeCellules : public SelectionVue {
     static std::shared_ptr<Cellule> CelluleDe(ZoneOuverte& zone) {
         auto* const paragraphe = dynamic_cast<ParagrapheDessine*>(&zone);
         return paragraphe == nullptr ? nullptr
-                                     : std::dynamic_pointer_cast<Cellule>(paragraphe->Texte());
+                                     : std::dynamic_pointer_cast<Cellule>(paragraphe->DonneTexte());
     }
 
     bool EstSeule() const {

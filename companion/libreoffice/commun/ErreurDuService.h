@@ -13,7 +13,7 @@ class ErreurDuService : public std::runtime_error {
         : std::runtime_error(message)
         , nom_(std::move(nom)) {}
 
-    std::string const& Nom() const noexcept { return nom_; }
+    std::string const& DonneNom() const noexcept { return nom_; }
 
   private:
     std::string nom_;

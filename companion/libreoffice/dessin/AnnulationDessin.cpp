@@ -58,7 +58,7 @@ class Annulation : public cppu::WeakImplHelper1<document::XUndoAction> {
 
 void AjouteAnnulation(std::shared_ptr<TexteDessine> const& texte, std::size_t rang,
                       CorrectionPrete const& correction) {
-    uno::Reference<document::XUndoManagerSupplier> const document(texte->Modele(),
+    uno::Reference<document::XUndoManagerSupplier> const document(texte->DonneModele(),
                                                                   uno::UNO_QUERY_THROW);
     document->getUndoManager()->addUndoAction(new Annulation(texte, rang, correction));
 }

@@ -38,8 +38,8 @@ void ParcoursCommentaires(uno::Reference<drawing::XDrawPage> const& page,
 } // namespace
 
 void DocumentImpress::ParcoursZones(Recueil const& recueil) {
-    FondDeFormes const fond{Modele(), Carnet(), recueil, nullptr};
-    uno::Reference<drawing::XDrawPagesSupplier> const document(Modele(), uno::UNO_QUERY_THROW);
+    FondDeFormes const fond{DonneModele(), Carnet(), recueil, nullptr};
+    uno::Reference<drawing::XDrawPagesSupplier> const document(DonneModele(), uno::UNO_QUERY_THROW);
     uno::Reference<drawing::XDrawPages> const pages = document->getDrawPages();
     for (sal_Int32 i = 0; i < pages->getCount(); ++i) {
         uno::Reference<drawing::XDrawPage> const page(pages->getByIndex(i), uno::UNO_QUERY_THROW);
@@ -55,7 +55,7 @@ void DocumentImpress::ParcoursZones(Recueil const& recueil) {
 }
 
 std::unique_ptr<SelectionVue> DocumentImpress::LisChoixDuBureau() {
-    uno::Reference<uno::XInterface> const selection = Modele()->getCurrentSelection();
+    uno::Reference<uno::XInterface> const selection = DonneModele()->getCurrentSelection();
     // While a person edits a text: the range that is selected in it.
     uno::Reference<text::XTextRange> const plage(selection, uno::UNO_QUERY);
     return plage.is() ? ChoixDansUneForme(plage) : ChoixDeFormes(selection);

@@ -10,7 +10,6 @@ enum class Frappe { DansUneCellule, DansUneForme };
 /// Is the person typing in the selected cell, or in the text of the selected shape, of this view?
 /// What is typed there replaces the text at its end, whatever was done to it meanwhile. Main
 /// thread.
-bool EstEnTrainDeTaper(
-    com::sun::star::uno::Reference<com::sun::star::frame::XController> const& vue, Frappe frappe);
+bool EstEnTrainDeTaper(css::uno::Reference<css::frame::XController> const& vue, Frappe frappe);
 
 } // namespace extension

@@ -11,7 +11,7 @@ namespace extension {
 
 /// What a walk over shapes needs to know.
 struct FondDeFormes {
-    com::sun::star::uno::Reference<com::sun::star::frame::XModel> modele;
+    css::uno::Reference<css::frame::XModel> modele;
     CarnetDeZones& carnet;
     TexteDessine::Recueil const& recueil;
     /// What protects the shapes; may be empty.
@@ -20,7 +20,7 @@ struct FondDeFormes {
 
 /// Hands out the zones of the shapes in view of a page, in their order, groups opened, tables cell
 /// by cell. Shapes without a letter have no zone. Main thread.
-void ParcoursFormes(com::sun::star::uno::Reference<com::sun::star::drawing::XShapes> const& formes,
+void ParcoursFormes(css::uno::Reference<css::drawing::XShapes> const& formes,
                     FondDeFormes const& fond);
 
 } // namespace extension

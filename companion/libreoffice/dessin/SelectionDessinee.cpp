@@ -23,7 +23,7 @@ uno::Reference<uno::XInterface> Identite(uno::Reference<uno::XInterface> const& 
 /// The text that the zone is a paragraph of; null for another kind of zone.
 std::shared_ptr<TexteDessine> TexteDe(ZoneOuverte& zone) {
     auto* const paragraphe = dynamic_cast<ParagrapheDessine*>(&zone);
-    return paragraphe == nullptr ? nullptr : paragraphe->Texte();
+    return paragraphe == nullptr ? nullptr : paragraphe->DonneTexte();
 }
 
 class Formes : public SelectionVue {
@@ -42,11 +42,11 @@ class Formes : public SelectionVue {
         // Of several shapes, or of a table's cells, only a walk knows which comes first.
         std::shared_ptr<TexteDessine> const texte =
             formes_.size() == 1 ? carnet.RetrouveTexte(formes_.begin()->second) : nullptr;
-        if (!texte || texte->Zones().empty()) {
+        if (!texte || texte->DonneZones().empty()) {
             return nullptr;
         }
-        deborde_ = texte->Zones().size() > 1;
-        return texte->Zones().front();
+        deborde_ = texte->DonneZones().size() > 1;
+        return texte->DonneZones().front();
     }
 
     bool Deborde() override { return deborde_; }
@@ -69,7 +69,7 @@ class Formes : public SelectionVue {
 
     bool Contient(ZoneOuverte& zone) const {
         std::shared_ptr<TexteDessine> const texte = TexteDe(zone);
-        return texte && formes_.count(Identite(texte->Porteur()).get()) > 0;
+        return texte && formes_.count(Identite(texte->DonnePorteur()).get()) > 0;
     }
 
     std::map<uno::XInterface*, uno::Reference<uno::XInterface>> formes_;
@@ -85,12 +85,12 @@ class PlageDansUneForme : public SelectionVue {
     std::optional<Intervalle> Dans(ZoneOuverte& zone,
                                    compagnon::PlanDePortions const& /*plan*/) override {
         std::shared_ptr<TexteDessine> const texte = TexteDe(zone);
-        if (!texte || Identite(texte->Objet()) != objet_) {
+        if (!texte || Identite(texte->DonneObjet()) != objet_) {
             return std::nullopt;
         }
         auto const parts = texte->Partage(plage_);
-        for (std::size_t i = 0; i < parts.size() && i < texte->Zones().size(); ++i) {
-            if (texte->Zones()[i].get() == &zone) {
+        for (std::size_t i = 0; i < parts.size() && i < texte->DonneZones().size(); ++i) {
+            if (texte->DonneZones()[i].get() == &zone) {
                 return parts[i];
             }
         }
@@ -108,7 +108,7 @@ class PlageDansUneForme : public SelectionVue {
         for (std::size_t i = 0; i < parts.size(); ++i) {
             deborde_ = deborde_ || (parts[i] && premiere);
             if (parts[i] && !premiere) {
-                premiere = texte->Zones()[i];
+                premiere = texte->DonneZones()[i];
             }
         }
         return premiere;

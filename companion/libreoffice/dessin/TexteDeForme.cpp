@@ -32,23 +32,23 @@ class Forme : public TexteDessine {
 
     bool SAnnuleSeul() const override { return false; }
 
-    uno::Reference<uno::XInterface> Porteur() const override { return porteur_; }
+    uno::Reference<uno::XInterface> DonnePorteur() const override { return porteur_; }
 
     bool EstEnFrappe() const override {
-        uno::Reference<uno::XInterface> const selection = Modele()->getCurrentSelection();
+        uno::Reference<uno::XInterface> const selection = DonneModele()->getCurrentSelection();
         uno::Reference<text::XTextRange> const plage(selection, uno::UNO_QUERY);
         if (plage.is()) {
-            return plage->getText() == Objet();
+            return plage->getText() == DonneObjet();
         }
         // Without a selection in the text the office shows the shape alone as selected.
         uno::Reference<drawing::XShapes> const formes(selection, uno::UNO_QUERY);
         return formes.is() && formes->getCount() == 1 &&
                uno::Reference<uno::XInterface>(formes->getByIndex(0), uno::UNO_QUERY) == porteur_ &&
-               EstEnTrainDeTaper(Modele()->getCurrentController(), Frappe::DansUneForme);
+               EstEnTrainDeTaper(DonneModele()->getCurrentController(), Frappe::DansUneForme);
     }
 
     void Selectionne() override {
-        uno::Reference<frame::XController> const vue(Modele()->getCurrentController(),
+        uno::Reference<frame::XController> const vue(DonneModele()->getCurrentController(),
                                                      uno::UNO_SET_THROW);
         uno::Reference<drawing::XDrawPage> const page(porteur_, uno::UNO_QUERY);
         if (page.is()) {
@@ -61,11 +61,11 @@ class Forme : public TexteDessine {
     }
 
   protected:
-    uno::Reference<text::XText> Texte() const override {
+    uno::Reference<text::XText> DonneTexte() const override {
         if (!EstEncoreLa()) {
             throw ZoneInconnue();
         }
-        return uno::Reference<text::XText>(Objet(), uno::UNO_QUERY_THROW);
+        return uno::Reference<text::XText>(DonneObjet(), uno::UNO_QUERY_THROW);
     }
 
   private:
@@ -76,17 +76,18 @@ class Forme : public TexteDessine {
             return EstUnCommentaireDe(page);
         }
         uno::Reference<uno::XInterface> const forme(
-            uno::Reference<drawing::XShape>(Objet(), uno::UNO_QUERY).is() ? Objet() : porteur_);
+            uno::Reference<drawing::XShape>(DonneObjet(), uno::UNO_QUERY).is() ? DonneObjet()
+                                                                               : porteur_);
         uno::Reference<container::XChild> const enfant(forme, uno::UNO_QUERY);
         return (!enfant.is() || enfant->getParent().is()) &&
-               (forme == Objet() || EstUneCelluleDe(forme));
+               (forme == DonneObjet() || EstUneCelluleDe(forme));
     }
 
     bool EstUnCommentaireDe(uno::Reference<office::XAnnotationAccess> const& page) const {
         uno::Reference<office::XAnnotationEnumeration> const suite =
             page->createAnnotationEnumeration();
         while (suite.is() && suite->hasMoreElements()) {
-            if (suite->nextElement()->getTextRange() == Objet()) {
+            if (suite->nextElement()->getTextRange() == DonneObjet()) {
                 return true;
             }
         }
@@ -99,7 +100,7 @@ class Forme : public TexteDessine {
         proprietes->getPropertyValue("Model") >>= tableau;
         for (sal_Int32 ligne = 0; tableau.is() && ligne < tableau->getRowCount(); ++ligne) {
             for (sal_Int32 colonne = 0; colonne < tableau->getColumnCount(); ++colonne) {
-                if (tableau->getCellByPosition(colonne, ligne) == Objet()) {
+                if (tableau->getCellByPosition(colonne, ligne) == DonneObjet()) {
                     return true;
                 }
             }

@@ -7,10 +7,9 @@ namespace extension {
 
 /// A text of the drawing engine: a shape's, a cell's of a table on a slide, a comment's of a slide
 /// or spreadsheet. `porteur`: what is selected, or for a page brought into view, with it.
-std::shared_ptr<TexteDessine>
-TexteDeForme(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& texte,
-             com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& porteur,
-             com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& modele,
-             std::shared_ptr<Contenant const> contenant);
+std::shared_ptr<TexteDessine> TexteDeForme(css::uno::Reference<css::uno::XInterface> const& texte,
+                                           css::uno::Reference<css::uno::XInterface> const& porteur,
+                                           css::uno::Reference<css::frame::XModel> const& modele,
+                                           std::shared_ptr<Contenant const> contenant);
 
 } // namespace extension

@@ -60,7 +60,7 @@ TexteDessine::~TexteDessine() = default;
 
 std::vector<ParagrapheLu> TexteDessine::LisTout() const {
     std::vector<ParagrapheLu> lus;
-    uno::Reference<container::XEnumerationAccess> const texte(Texte(), uno::UNO_QUERY_THROW);
+    uno::Reference<container::XEnumerationAccess> const texte(DonneTexte(), uno::UNO_QUERY_THROW);
     uno::Reference<container::XEnumeration> const suite = texte->createEnumeration();
     while (suite->hasMoreElements()) {
         uno::Reference<container::XEnumerationAccess> const paragraphe(suite->nextElement(),
@@ -101,7 +101,7 @@ void TexteDessine::Accueille(std::vector<ParagrapheLu> const& lus, CarnetDeZones
 
 std::vector<std::optional<compagnon::Intervalle>>
 TexteDessine::Partage(uno::Reference<text::XTextRange> const& plage) const {
-    uno::Reference<text::XText> const texte = Texte();
+    uno::Reference<text::XText> const texte = DonneTexte();
     uno::Reference<text::XTextRangeCompare> const ordre(texte, uno::UNO_QUERY_THROW);
     std::vector<std::optional<compagnon::Intervalle>> parts;
     for (ParagrapheLu const& lu : LisTout()) {
@@ -124,7 +124,7 @@ TexteDessine::Partage(uno::Reference<text::XTextRange> const& plage) const {
 void TexteDessine::Vide(CarnetDeZones& carnet) {
     for (std::shared_ptr<ParagrapheDessine> const& zone : zones_) {
         if (zone) {
-            carnet.OublieCle(zone->Cle());
+            carnet.OublieCle(zone->DonneCle());
         }
     }
     zones_.clear();
@@ -164,7 +164,7 @@ bool TexteDessine::Remplace(std::size_t rang, std::size_t debut, std::u16string 
 void TexteDessine::Execute(ParagrapheLu const& lu, compagnon::EtapeEdition const& etape) {
     // The engine's ranges do not follow edits: each step counts from the paragraph's start, and
     // what stands before it has not changed.
-    uno::Reference<text::XText> const texte = Texte();
+    uno::Reference<text::XText> const texte = DonneTexte();
     uno::Reference<text::XTextCursor> const curseur =
         PlaceCurseur(texte, lu.etendues.front(), Depart(lu.plan, etape.portion) + etape.debut);
     if (etape.EstInsertion()) {
@@ -181,7 +181,7 @@ ParagrapheDessine::ParagrapheDessine(std::string cle, std::weak_ptr<TexteDessine
     , texte_(std::move(texte))
     , carnet_(carnet) {}
 
-std::shared_ptr<TexteDessine> ParagrapheDessine::Texte() const {
+std::shared_ptr<TexteDessine> ParagrapheDessine::DonneTexte() const {
     std::shared_ptr<TexteDessine> texte = texte_.lock();
     if (!texte) {
         throw ZoneInconnue();
@@ -190,10 +190,10 @@ std::shared_ptr<TexteDessine> ParagrapheDessine::Texte() const {
 }
 
 PlanDePortions ParagrapheDessine::Lis() {
-    std::shared_ptr<TexteDessine> const texte = Texte();
+    std::shared_ptr<TexteDessine> const texte = DonneTexte();
     std::vector<ParagrapheLu> lus = texte->Relis(carnet_);
     for (std::size_t i = 0; i < lus.size(); ++i) {
-        if (texte->Zones()[i].get() == this) {
+        if (texte->DonneZones()[i].get() == this) {
             rang_ = i;
             return std::move(lus[i].plan);
         }
@@ -202,11 +202,11 @@ PlanDePortions ParagrapheDessine::Lis() {
 }
 
 bool ParagrapheDessine::EstProtegee() {
-    return Texte()->EstProtege();
+    return DonneTexte()->EstProtege();
 }
 
 void ParagrapheDessine::Applique(CorrectionPrete const& correction) {
-    std::shared_ptr<TexteDessine> const texte = Texte();
+    std::shared_ptr<TexteDessine> const texte = DonneTexte();
     if (!texte->Remplace(rang_, correction.debut, correction.avant, correction.apres)) {
         throw Refuse("the range cannot be changed without harm to its format");
     }
@@ -217,14 +217,14 @@ void ParagrapheDessine::Applique(CorrectionPrete const& correction) {
 
 void ParagrapheDessine::Selectionne(PlanDePortions const& /*plan*/, std::size_t /*debut*/,
                                     std::size_t /*fin*/) {
-    Texte()->Selectionne();
+    DonneTexte()->Selectionne();
 }
 
 void DonneZones(TexteDessine const& texte, std::vector<ParagrapheLu>&& lus,
                 TexteDessine::Recueil const& recueil) {
     // A copy: whoever gets a zone may read its text anew.
-    auto const debut = texte.Zones().begin();
-    std::vector<std::shared_ptr<ParagrapheDessine>> const zones(debut, texte.Zones().end());
+    auto const debut = texte.DonneZones().begin();
+    std::vector<std::shared_ptr<ParagrapheDessine>> const zones(debut, texte.DonneZones().end());
     for (std::size_t i = 0; i < lus.size(); ++i) {
         recueil(zones[i], std::move(lus[i].plan));
     }

@@ -27,8 +27,8 @@ class TexteDessine : public std::enable_shared_from_this<TexteDessine> {
     using Recueil =
         std::function<void(std::shared_ptr<ZoneOuverte> const&, compagnon::PlanDePortions&&)>;
 
-    TexteDessine(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet,
-                 com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& modele,
+    TexteDessine(css::uno::Reference<css::uno::XInterface> const& objet,
+                 css::uno::Reference<css::frame::XModel> const& modele,
                  std::shared_ptr<Contenant const> contenant);
     TexteDessine(TexteDessine const&) = delete;
     TexteDessine& operator=(TexteDessine const&) = delete;
@@ -38,7 +38,9 @@ class TexteDessine : public std::enable_shared_from_this<TexteDessine> {
     std::vector<ParagrapheLu> Relis(CarnetDeZones& carnet);
     /// The same for paragraphs that were just read.
     void Accueille(std::vector<ParagrapheLu> const& lus, CarnetDeZones& carnet);
-    std::vector<std::shared_ptr<ParagrapheDessine>> const& Zones() const noexcept { return zones_; }
+    std::vector<std::shared_ptr<ParagrapheDessine>> const& DonneZones() const noexcept {
+        return zones_;
+    }
     /// Takes all zones out of the book.
     void Vide(CarnetDeZones& carnet);
 
@@ -53,22 +55,16 @@ class TexteDessine : public std::enable_shared_from_this<TexteDessine> {
     /// Selects the object that holds it, which is all that the office offers, and shows it.
     virtual void Selectionne() = 0;
     /// The object that the office has as selected when this text is: a shape, a table, a cell.
-    virtual com::sun::star::uno::Reference<com::sun::star::uno::XInterface> Porteur() const {
-        return objet_;
-    }
+    virtual css::uno::Reference<css::uno::XInterface> DonnePorteur() const { return objet_; }
     /// By paragraph, the part of a range of this text in it.
     std::vector<std::optional<compagnon::Intervalle>>
-    Partage(com::sun::star::uno::Reference<com::sun::star::text::XTextRange> const& plage) const;
+    Partage(css::uno::Reference<css::text::XTextRange> const& plage) const;
 
-    com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& Modele() const noexcept {
-        return modele_;
-    }
-    com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& Objet() const noexcept {
-        return objet_;
-    }
+    css::uno::Reference<css::frame::XModel> const& DonneModele() const noexcept { return modele_; }
+    css::uno::Reference<css::uno::XInterface> const& DonneObjet() const noexcept { return objet_; }
 
   protected:
-    virtual com::sun::star::uno::Reference<com::sun::star::text::XText> Texte() const = 0;
+    virtual css::uno::Reference<css::text::XText> DonneTexte() const = 0;
     virtual std::vector<ParagrapheLu> LisTout() const;
     /// The steps that a replacement takes, for `Remplace`; nothing when something else stands
     /// there, or when it cannot be done safely.
@@ -79,8 +75,8 @@ class TexteDessine : public std::enable_shared_from_this<TexteDessine> {
     void Execute(ParagrapheLu const& lu, compagnon::EtapeEdition const& etape);
 
   private:
-    com::sun::star::uno::Reference<com::sun::star::uno::XInterface> objet_;
-    com::sun::star::uno::Reference<com::sun::star::frame::XModel> modele_;
+    css::uno::Reference<css::uno::XInterface> objet_;
+    css::uno::Reference<css::frame::XModel> modele_;
     std::shared_ptr<Contenant const> contenant_;
     LecteurPortions lecteur_;
     std::vector<std::shared_ptr<ParagrapheDessine>> zones_;
@@ -94,7 +90,7 @@ class ParagrapheDessine : public ZoneOuverte {
 
     compagnon::PlanDePortions Lis() override;
     bool EstProtegee() override;
-    bool EstEnFrappe() override { return Texte()->EstEnFrappe(); }
+    bool EstEnFrappe() override { return DonneTexte()->EstEnFrappe(); }
     bool PermetsRetour() const override { return false; }
     void Applique(CorrectionPrete const& correction) override;
     void Selectionne(compagnon::PlanDePortions const& plan, std::size_t debut,
@@ -102,8 +98,8 @@ class ParagrapheDessine : public ZoneOuverte {
 
     /// The text that it is a paragraph of; throws `ErreurDuService` when that has left the
     /// document.
-    std::shared_ptr<TexteDessine> Texte() const;
-    std::size_t Rang() const noexcept { return rang_; }
+    std::shared_ptr<TexteDessine> DonneTexte() const;
+    std::size_t DonneRang() const noexcept { return rang_; }
 
   private:
     std::weak_ptr<TexteDessine> texte_; // which owns this zone
@@ -117,9 +113,8 @@ void DonneZones(TexteDessine const& texte, std::vector<ParagrapheLu>&& lus,
 
 /// Reads and hands out the zones of such a text; `fabrique` makes it when it is met for the first
 /// time.
-void ParcoursTexteDessine(
-    com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet,
-    std::function<std::shared_ptr<TexteDessine>()> const& fabrique, CarnetDeZones& carnet,
-    TexteDessine::Recueil const& recueil);
+void ParcoursTexteDessine(css::uno::Reference<css::uno::XInterface> const& objet,
+                          std::function<std::shared_ptr<TexteDessine>()> const& fabrique,
+                          CarnetDeZones& carnet, TexteDessine::Recueil const& recueil);
 
 } // namespace extension

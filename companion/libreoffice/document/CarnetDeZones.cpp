@@ -46,14 +46,14 @@ void CarnetDeZones::InscrisTexte(uno::Reference<uno::XInterface> const& objet,
 }
 
 void CarnetDeZones::InscrisCle(std::shared_ptr<ZoneOuverte> const& zone) {
-    parCle_[zone->Cle()] = zone;
+    parCle_[zone->DonneCle()] = zone;
 }
 
 void CarnetDeZones::OublieCle(std::string const& cle) {
     parCle_.erase(cle);
 }
 
-std::shared_ptr<ZoneOuverte> CarnetDeZones::ParCle(std::string const& cle) const {
+std::shared_ptr<ZoneOuverte> CarnetDeZones::TrouveParCle(std::string const& cle) const {
     auto const trouve = parCle_.find(cle);
     return trouve == parCle_.end() ? nullptr : trouve->second;
 }
@@ -75,7 +75,7 @@ void CarnetDeZones::Termine() {
             continue;
         }
         if (it->second.zone) {
-            OublieCle(it->second.zone->Cle());
+            OublieCle(it->second.zone->DonneCle());
         }
         if (it->second.texte) {
             it->second.texte->Vide(*this);

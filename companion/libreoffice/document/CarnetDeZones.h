@@ -26,21 +26,20 @@ class CarnetDeZones {
     std::string NouvelleCle();
 
     /// The zone of an object of the office, or null; marks it as still there.
-    std::shared_ptr<ZoneOuverte>
-    Retrouve(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet);
-    void Inscris(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet,
+    std::shared_ptr<ZoneOuverte> Retrouve(css::uno::Reference<css::uno::XInterface> const& objet);
+    void Inscris(css::uno::Reference<css::uno::XInterface> const& objet,
                  std::shared_ptr<ZoneOuverte> const& zone);
 
     /// The same for an object that holds several zones.
     std::shared_ptr<TexteDessine>
-    RetrouveTexte(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet);
-    void InscrisTexte(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet,
+    RetrouveTexte(css::uno::Reference<css::uno::XInterface> const& objet);
+    void InscrisTexte(css::uno::Reference<css::uno::XInterface> const& objet,
                       std::shared_ptr<TexteDessine> const& texte);
     /// Such an object's zones come and go on their own.
     void InscrisCle(std::shared_ptr<ZoneOuverte> const& zone);
     void OublieCle(std::string const& cle);
 
-    std::shared_ptr<ZoneOuverte> ParCle(std::string const& cle) const;
+    std::shared_ptr<ZoneOuverte> TrouveParCle(std::string const& cle) const;
 
     /// Brackets a walk over the whole document: what it did not meet is forgotten at its end.
     void Commence() {
@@ -51,7 +50,7 @@ class CarnetDeZones {
 
   private:
     struct Entree {
-        com::sun::star::uno::Reference<com::sun::star::uno::XInterface> objet;
+        css::uno::Reference<css::uno::XInterface> objet;
         std::shared_ptr<ZoneOuverte> zone;
         std::shared_ptr<TexteDessine> texte;
         std::uint64_t passage = 0;
@@ -63,7 +62,7 @@ class CarnetDeZones {
     std::uint64_t derniere_ = 0;
     std::uint64_t passage_ = 0;
     std::size_t rencontres_ = 0; ///< how many entries this walk has met, none twice
-    std::unordered_map<com::sun::star::uno::XInterface*, Entree> parObjet_;
+    std::unordered_map<css::uno::XInterface*, Entree> parObjet_;
     std::unordered_map<std::string, std::shared_ptr<ZoneOuverte>> parCle_;
 };
 

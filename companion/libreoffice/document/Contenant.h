@@ -11,25 +11,23 @@ namespace extension {
 
 /// The text that a paragraph stands in (the body, a cell, a note, a frame) and what protects it.
 struct Contenant {
-    com::sun::star::uno::Reference<com::sun::star::text::XText> texte;
+    css::uno::Reference<css::text::XText> texte;
     /// The cell or frame that can be protected, and the property that says so; may be empty.
-    com::sun::star::uno::Reference<com::sun::star::beans::XPropertySet> protecteur;
+    css::uno::Reference<css::beans::XPropertySet> protecteur;
     char const* propriete = nullptr;
     /// The paragraph to which a note or frame is anchored: protected with it.
-    com::sun::star::uno::Reference<com::sun::star::beans::XPropertySet> ancre;
+    css::uno::Reference<css::beans::XPropertySet> ancre;
     /// The spreadsheet's sheet that a shape or comment stands on.
-    com::sun::star::uno::Reference<com::sun::star::util::XProtectable> feuille;
+    css::uno::Reference<css::util::XProtectable> feuille;
     std::shared_ptr<Contenant const> parent;
 
     bool EstProtege() const;
 };
 
 /// Does a section around the paragraph forbid changes?
-bool EstDansSectionProtegee(
-    com::sun::star::uno::Reference<com::sun::star::beans::XPropertySet> const& paragraphe);
+bool EstDansSectionProtegee(css::uno::Reference<css::beans::XPropertySet> const& paragraphe);
 
 /// Is a section around the paragraph hidden, or is it generated (an index, a table of contents)?
-bool EstDansSectionNonLue(
-    com::sun::star::uno::Reference<com::sun::star::beans::XPropertySet> const& paragraphe);
+bool EstDansSectionNonLue(css::uno::Reference<css::beans::XPropertySet> const& paragraphe);
 
 } // namespace extension

@@ -70,7 +70,7 @@ std::unique_ptr<SelectionVue> DocumentOuvert::LisChoix() {
     std::unique_ptr<SelectionVue> choix = LisChoixDuBureau();
     if (retenue_) {
         if (choix && EstEncore(*retenue_, *choix)) {
-            return std::make_unique<SelectionRetenue>(carnet_.ParCle(retenue_->cle),
+            return std::make_unique<SelectionRetenue>(carnet_.TrouveParCle(retenue_->cle),
                                                       retenue_->plage);
         }
         retenue_.reset();
@@ -79,7 +79,7 @@ std::unique_ptr<SelectionVue> DocumentOuvert::LisChoix() {
 }
 
 bool DocumentOuvert::EstEncore(Retenue const& retenue, SelectionVue& choix) const {
-    std::shared_ptr<ZoneOuverte> const zone = carnet_.ParCle(retenue.cle);
+    std::shared_ptr<ZoneOuverte> const zone = carnet_.TrouveParCle(retenue.cle);
     try {
         return zone && choix.EstEntier(*zone) && zone->Lis().DonneTexte() == retenue.texte;
     } catch (ErreurDuService const&) {
@@ -121,8 +121,8 @@ std::optional<ZoneLue> DocumentOuvert::DonneSelection() {
 
 void DocumentOuvert::Selectionne(ZoneOuverte& zone, compagnon::PlanDePortions const& plan,
                                  Intervalle plage) {
-    zone.Selectionne(plan, plage.Debut(), plage.Fin());
-    retenue_ = Retenue{zone.Cle(), plan.DonneTexte(), plage};
+    zone.Selectionne(plan, plage.DonneDebut(), plage.DonneFin());
+    retenue_ = Retenue{zone.DonneCle(), plan.DonneTexte(), plage};
 }
 
 } // namespace extension

@@ -28,16 +28,13 @@ class DocumentOuvert {
     using Visiteur = std::function<void(ZoneLue const&)>;
 
     /// `cle`: the document part of its identifier; opaque, never given before.
-    DocumentOuvert(com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& modele,
-                   std::string cle);
+    DocumentOuvert(css::uno::Reference<css::frame::XModel> const& modele, std::string cle);
     DocumentOuvert(DocumentOuvert const&) = delete;
     DocumentOuvert& operator=(DocumentOuvert const&) = delete;
     virtual ~DocumentOuvert();
 
-    std::string const& Cle() const noexcept { return cle_; }
-    com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& Modele() const noexcept {
-        return modele_;
-    }
+    std::string const& DonneCle() const noexcept { return cle_; }
+    css::uno::Reference<css::frame::XModel> const& DonneModele() const noexcept { return modele_; }
 
     std::u16string DonneTitre() const;
     /// Path of the document's file (its URL where it is not a local file); empty without one.
@@ -49,7 +46,9 @@ class DocumentOuvert {
     void Parcours(Visiteur const& visiteur);
 
     /// The zone of that key, or null.
-    std::shared_ptr<ZoneOuverte> Zone(std::string const& cle) const { return carnet_.ParCle(cle); }
+    std::shared_ptr<ZoneOuverte> DonneZone(std::string const& cle) const {
+        return carnet_.TrouveParCle(cle);
+    }
 
     /// The zone where the selection starts, and its part inside of it; nothing when no text is
     /// selected and no caret stands in a text. `selection` is set.
@@ -80,7 +79,7 @@ class DocumentOuvert {
     std::unique_ptr<SelectionVue> LisChoix();
     bool EstEncore(Retenue const& retenue, SelectionVue& choix) const;
 
-    com::sun::star::uno::Reference<com::sun::star::frame::XModel> modele_;
+    css::uno::Reference<css::frame::XModel> modele_;
     std::string cle_;
     CarnetDeZones carnet_;
     std::optional<Retenue> retenue_;

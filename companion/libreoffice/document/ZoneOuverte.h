@@ -30,7 +30,7 @@ class ZoneOuverte {
     virtual ~ZoneOuverte() = default;
 
     /// The `idZone` of the wire; opaque.
-    std::string const& Cle() const noexcept { return cle_; }
+    std::string const& DonneCle() const noexcept { return cle_; }
 
     /// The paragraph as it stands now. The plan's portions are those that `Applique` and
     /// `Selectionne` refer to until the next call.

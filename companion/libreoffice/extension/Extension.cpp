@@ -95,7 +95,7 @@ bool EstEnFrancais(uno::Reference<uno::XComponentContext> const& contexte) {
 Extension::Extension(uno::Reference<uno::XComponentContext> const& contexte)
     : service_(std::make_shared<Service>(contexte, ChoisisInstance()))
     , appels_(std::make_shared<Appels>(FilPrincipal(contexte), service_))
-    , fil_(std::make_unique<FilDuBus>(service_->Instance(), appels_, service_->Vivantes(),
+    , fil_(std::make_unique<FilDuBus>(service_->DonneInstance(), appels_, service_->DonneVivantes(),
                                       ChoisisDelais())) {}
 
 void Extension::Demarre(uno::Reference<uno::XComponentContext> const& contexte) {
@@ -137,9 +137,9 @@ Extension* Extension::Donne() {
     return seule;
 }
 
-std::string Extension::Identifiant(uno::Reference<frame::XModel> const& modele) {
+std::string Extension::DonneIdentifiant(uno::Reference<frame::XModel> const& modele) {
     std::shared_ptr<DocumentOuvert> const document = service_->LesDocuments().ParModele(modele);
-    return document ? service_->Identifiant(*document) : std::string();
+    return document ? service_->DonneIdentifiant(*document) : std::string();
 }
 
 } // namespace extension

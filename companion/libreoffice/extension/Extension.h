@@ -17,24 +17,21 @@ namespace extension {
 class Extension {
   public:
     /// Starts it unless it runs, or the office is on its way out. Any thread; waits for nothing.
-    static void
-    Demarre(com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> const& contexte);
+    static void Demarre(css::uno::Reference<css::uno::XComponentContext> const& contexte);
     /// Ends it for good: calls under way are answered with an error. Never waits for a document.
     static void Arrete();
     /// The running one, or null. Main thread.
     static Extension* Donne();
 
     /// Whole identifier of a document; empty when it is not of a kind that is served.
-    std::string
-    Identifiant(com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& modele);
+    std::string DonneIdentifiant(css::uno::Reference<css::frame::XModel> const& modele);
     EtatDuBus DonneEtat() const { return fil_->DonneEtat(); }
-    std::string const& NomDuService() const noexcept { return fil_->Nom(); }
+    std::string const& DonneNomDuService() const noexcept { return fil_->DonneNom(); }
     /// How many documents are served now. Main thread.
     std::size_t NombreDeDocuments() { return service_->LesDocuments().Tous().size(); }
 
   private:
-    explicit Extension(
-        com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> const& contexte);
+    explicit Extension(css::uno::Reference<css::uno::XComponentContext> const& contexte);
 
     std::shared_ptr<Service> service_;
     std::shared_ptr<Appels> appels_;

@@ -16,13 +16,12 @@ enum class Pas { PointsDeCode, Unites };
 std::size_t CompteLesPas(std::u16string_view lettres, Pas pas) noexcept;
 
 /// Moves by any number of steps (the office's own call takes no more than 32,767).
-void Avance(com::sun::star::uno::Reference<com::sun::star::text::XTextCursor> const& curseur,
-            std::size_t nombre, bool etend);
+void Avance(css::uno::Reference<css::text::XTextCursor> const& curseur, std::size_t nombre,
+            bool etend);
 
 /// A cursor so many steps after the start of `depart`, a range of `texte`.
-com::sun::star::uno::Reference<com::sun::star::text::XTextCursor>
-PlaceCurseur(com::sun::star::uno::Reference<com::sun::star::text::XText> const& texte,
-             com::sun::star::uno::Reference<com::sun::star::text::XTextRange> const& depart,
-             std::size_t nombre);
+css::uno::Reference<css::text::XTextCursor>
+PlaceCurseur(css::uno::Reference<css::text::XText> const& texte,
+             css::uno::Reference<css::text::XTextRange> const& depart, std::size_t nombre);
 
 } // namespace extension

@@ -19,8 +19,7 @@ struct SuiteDEcriture {
 };
 
 /// Whom to ask; once, before any question. Main thread, as all of these.
-void MetsContexteDesEcritures(
-    com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> const& contexte);
+void MetsContexteDesEcritures(css::uno::Reference<css::uno::XComponentContext> const& contexte);
 
 /// Can all of it be nothing but Latin (or Greek, Cyrillic, signs)? Quick.
 bool EstToutLatin(std::u16string_view texte) noexcept;

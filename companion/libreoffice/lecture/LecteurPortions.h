@@ -15,13 +15,13 @@ namespace extension {
 struct Rencontre {
     enum class Genre { Note, NoteDeFin, Cadre, Commentaire };
     Genre genre;
-    com::sun::star::uno::Reference<com::sun::star::uno::XInterface> objet;
+    css::uno::Reference<css::uno::XInterface> objet;
 };
 
 struct ParagrapheLu {
     compagnon::PlanDePortions plan;
     /// The document's range of each of the plan's portions.
-    std::vector<com::sun::star::uno::Reference<com::sun::star::text::XTextRange>> etendues;
+    std::vector<css::uno::Reference<css::text::XTextRange>> etendues;
     std::vector<Rencontre> rencontres;
 };
 
@@ -32,18 +32,14 @@ class LecteurPortions {
 
     /// `suppressions`: how many tracked deletions are open where the paragraph starts; on return,
     /// where it ends. A deletion that goes on from an earlier paragraph shows in no portion.
-    ParagrapheLu
-    Lis(com::sun::star::uno::Reference<com::sun::star::container::XEnumerationAccess> const&
-            paragraphe,
-        int& suppressions) const;
+    ParagrapheLu Lis(css::uno::Reference<css::container::XEnumerationAccess> const& paragraphe,
+                     int& suppressions) const;
 
   private:
-    void
-    LisSuite(com::sun::star::uno::Reference<com::sun::star::container::XEnumerationAccess> const&
-                 portions,
-             int& suppressions, ParagrapheLu& lu) const;
+    void LisSuite(css::uno::Reference<css::container::XEnumerationAccess> const& portions,
+                  int& suppressions, ParagrapheLu& lu) const;
 
-    com::sun::star::uno::Sequence<rtl::OUString> proprietes_;
+    css::uno::Sequence<rtl::OUString> proprietes_;
 };
 
 } // namespace extension

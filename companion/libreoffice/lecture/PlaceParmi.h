@@ -11,9 +11,9 @@ namespace extension {
 
 /// Where a position of `texte` stands among the ranges of a paragraph's portions; what lies outside
 /// of them counts as the nearest end. Main thread.
-compagnon::PlaceDansPortion PlaceParmi(
-    std::vector<com::sun::star::uno::Reference<com::sun::star::text::XTextRange>> const& etendues,
-    com::sun::star::uno::Reference<com::sun::star::text::XText> const& texte,
-    com::sun::star::uno::Reference<com::sun::star::text::XTextRange> const& position);
+compagnon::PlaceDansPortion
+PlaceParmi(std::vector<css::uno::Reference<css::text::XTextRange>> const& etendues,
+           css::uno::Reference<css::text::XText> const& texte,
+           css::uno::Reference<css::text::XTextRange> const& position);
 
 } // namespace extension

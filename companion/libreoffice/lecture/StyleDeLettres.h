@@ -29,15 +29,15 @@ enum ProprieteDeLettres {
     kNombreDeProprietes
 };
 
-com::sun::star::uno::Sequence<rtl::OUString> NomsDesProprietesDeLettres();
+css::uno::Sequence<rtl::OUString> NomsDesProprietesDeLettres();
 
 /// The style bits (protocol/README.md) that their values mean for letters of Latin script.
-std::uint16_t StyleDeLettres(com::sun::star::uno::Any const* valeurs);
+std::uint16_t StyleDeLettres(css::uno::Any const* valeurs);
 
 /// The style bits of a text in one format, whose values those are: weight, posture and language are
 /// each script's own.
 std::vector<compagnon::PlageDeStyle>
-StylesDeLettres(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& source,
-                com::sun::star::uno::Any const* valeurs, rtl::OUString const& texte);
+StylesDeLettres(css::uno::Reference<css::uno::XInterface> const& source,
+                css::uno::Any const* valeurs, rtl::OUString const& texte);
 
 } // namespace extension

@@ -30,13 +30,13 @@ Constat Constate(uno::Reference<frame::XFrame> const& cadre) {
     if (extension == nullptr) {
         return constat;
     }
-    constat.service = extension->NomDuService();
+    constat.service = extension->DonneNomDuService();
     constat.bus = extension->DonneEtat();
     constat.documents = extension->NombreDeDocuments();
     uno::Reference<frame::XController> const vue =
         cadre.is() ? cadre->getController() : uno::Reference<frame::XController>();
     if (vue.is() && vue->getModel().is()) {
-        constat.idDocument = extension->Identifiant(vue->getModel());
+        constat.idDocument = extension->DonneIdentifiant(vue->getModel());
     }
     return constat;
 }

@@ -17,9 +17,8 @@ std::optional<Commande> CommandeDeNom(std::u16string_view nom);
 
 /// Carries a command out on the document in the window `cadre`: starts the host, or says what is
 /// missing. The office does not wait for the host. Main thread.
-void ExecuteCommande(
-    Commande commande,
-    com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> const& contexte,
-    com::sun::star::uno::Reference<com::sun::star::frame::XFrame> const& cadre);
+void ExecuteCommande(Commande commande,
+                     css::uno::Reference<css::uno::XComponentContext> const& contexte,
+                     css::uno::Reference<css::frame::XFrame> const& cadre);
 
 } // namespace extension

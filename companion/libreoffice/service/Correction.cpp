@@ -19,7 +19,7 @@ namespace {
 class EtapeAnnulable {
   public:
     EtapeAnnulable(DocumentOuvert const& document, std::u16string const& nom) {
-        uno::Reference<document::XUndoManagerSupplier> const source(document.Modele(),
+        uno::Reference<document::XUndoManagerSupplier> const source(document.DonneModele(),
                                                                     uno::UNO_QUERY);
         if (source.is()) {
             pile_ = source->getUndoManager();
@@ -76,12 +76,12 @@ bool PeutCorriger(DocumentOuvert const& document, DialogueModal const& dialogue,
     }
     PlanDePortions const plan = zone.Lis();
     auto const trouve = croyance.Localise(plage, plan.DonneTexte(), attendu);
-    return trouve && plan.PeutModifier(trouve.plage.Debut(), trouve.plage.Fin());
+    return trouve && plan.PeutModifier(trouve.plage.DonneDebut(), trouve.plage.DonneFin());
 }
 
 void Remplace(DocumentOuvert const& document, ZoneOuverte& zone, PlanDePortions const& plan,
               Intervalle plage, std::u16string const& texte) {
-    auto etapes = plan.Prepare(plage.Debut(), plage.Fin(), texte);
+    auto etapes = plan.Prepare(plage.DonneDebut(), plage.DonneFin(), texte);
     if (!etapes) {
         throw Refuse("the change would touch a field, an anchor, or text that is not shown");
     }
@@ -89,8 +89,8 @@ void Remplace(DocumentOuvert const& document, ZoneOuverte& zone, PlanDePortions 
         return;
     }
     CorrectionPrete correction;
-    correction.debut = plage.Debut();
-    correction.avant = plan.DonneTexte().substr(plage.Debut(), plage.Longueur());
+    correction.debut = plage.DonneDebut();
+    correction.avant = plan.DonneTexte().substr(plage.DonneDebut(), plage.DonneLongueur());
     correction.apres = texte;
     correction.nom = NomDeCorrection(correction.avant, texte);
     correction.etapes = std::move(*etapes);

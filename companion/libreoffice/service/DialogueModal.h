@@ -10,15 +10,14 @@ namespace extension {
 /// one, and an edit there would land under the person's hands. Main thread only.
 class DialogueModal {
   public:
-    explicit DialogueModal(
-        com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> const& contexte)
+    explicit DialogueModal(css::uno::Reference<css::uno::XComponentContext> const& contexte)
         : contexte_(contexte) {}
 
     /// Exact with GTK; elsewhere any dialogue in view counts, modal or not.
     bool EstOuvert() const;
 
   private:
-    com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> contexte_;
+    css::uno::Reference<css::uno::XComponentContext> contexte_;
 };
 
 } // namespace extension

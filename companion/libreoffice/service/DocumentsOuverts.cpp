@@ -87,20 +87,21 @@ bool ClesVivantes::Contient(std::string const& cle) const {
     return cles_.count(cle) > 0;
 }
 
-Documents::Documents(uno::Reference<uno::XComponentContext> const& contexte)
+DocumentsOuverts::DocumentsOuverts(uno::Reference<uno::XComponentContext> const& contexte)
     : bureau_(contexte->getServiceManager()->createInstanceWithContext("com.sun.star.frame.Desktop",
                                                                        contexte),
               uno::UNO_QUERY_THROW) {}
 
-void Documents::RetireLesFermes() {
+void DocumentsOuverts::RetireLesFermes() {
     ouverts_.erase(std::remove_if(ouverts_.begin(), ouverts_.end(),
                                   [&](Entree const& entree) {
-                                      return !vivantes_->Contient(entree.document->Cle());
+                                      return !vivantes_->Contient(entree.document->DonneCle());
                                   }),
                    ouverts_.end());
 }
 
-std::shared_ptr<DocumentOuvert> Documents::ParModele(uno::Reference<frame::XModel> const& modele) {
+std::shared_ptr<DocumentOuvert>
+DocumentsOuverts::ParModele(uno::Reference<frame::XModel> const& modele) {
     RetireLesFermes();
     uno::Reference<uno::XInterface> const identite(modele, uno::UNO_QUERY);
     for (Entree const& entree : ouverts_) {
@@ -123,7 +124,7 @@ std::shared_ptr<DocumentOuvert> Documents::ParModele(uno::Reference<frame::XMode
     return document;
 }
 
-std::vector<std::shared_ptr<DocumentOuvert>> Documents::Tous() {
+std::vector<std::shared_ptr<DocumentOuvert>> DocumentsOuverts::Tous() {
     std::vector<std::shared_ptr<DocumentOuvert>> tous;
     uno::Reference<frame::XModel> const devant(bureau_->getCurrentComponent(), uno::UNO_QUERY);
     uno::Reference<container::XEnumeration> const suite =
@@ -141,18 +142,18 @@ std::vector<std::shared_ptr<DocumentOuvert>> Documents::Tous() {
     return tous;
 }
 
-std::shared_ptr<DocumentOuvert> Documents::ParCle(std::string const& cle) {
+std::shared_ptr<DocumentOuvert> DocumentsOuverts::TrouveParCle(std::string const& cle) {
     RetireLesFermes();
     for (Entree const& entree : ouverts_) {
-        if (entree.document->Cle() == cle) {
+        if (entree.document->DonneCle() == cle) {
             return entree.document;
         }
     }
     return nullptr;
 }
 
-std::shared_ptr<DocumentOuvert> Documents::ParZone(std::string const& cleDeZone) {
-    return ParCle(cleDeZone.substr(0, cleDeZone.find(':')));
+std::shared_ptr<DocumentOuvert> DocumentsOuverts::TrouveParZone(std::string const& cleDeZone) {
+    return TrouveParCle(cleDeZone.substr(0, cleDeZone.find(':')));
 }
 
 } // namespace extension

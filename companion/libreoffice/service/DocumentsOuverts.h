@@ -27,32 +27,31 @@ class ClesVivantes {
 };
 
 /// The documents open in this office that have text to proof and a window. Main thread only.
-class Documents {
+class DocumentsOuverts {
   public:
-    explicit Documents(
-        com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> const& contexte);
+    explicit DocumentsOuverts(css::uno::Reference<css::uno::XComponentContext> const& contexte);
 
     /// All of them, the one in front first; those met for the first time get a key.
     std::vector<std::shared_ptr<DocumentOuvert>> Tous();
     /// The one of that key, or null.
-    std::shared_ptr<DocumentOuvert> ParCle(std::string const& cle);
+    std::shared_ptr<DocumentOuvert> TrouveParCle(std::string const& cle);
     /// The one that holds the zone, or null. Zone keys start with their document's.
-    std::shared_ptr<DocumentOuvert> ParZone(std::string const& cleDeZone);
+    std::shared_ptr<DocumentOuvert> TrouveParZone(std::string const& cleDeZone);
     /// The one of that model, or null when it is not of a kind that is served.
     std::shared_ptr<DocumentOuvert>
-    ParModele(com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& modele);
+    ParModele(css::uno::Reference<css::frame::XModel> const& modele);
 
-    std::shared_ptr<ClesVivantes const> Vivantes() const noexcept { return vivantes_; }
+    std::shared_ptr<ClesVivantes const> DonneVivantes() const noexcept { return vivantes_; }
 
   private:
     struct Entree {
-        com::sun::star::uno::Reference<com::sun::star::uno::XInterface> identite;
+        css::uno::Reference<css::uno::XInterface> identite;
         std::shared_ptr<DocumentOuvert> document;
     };
 
     void RetireLesFermes();
 
-    com::sun::star::uno::Reference<com::sun::star::frame::XDesktop> bureau_;
+    css::uno::Reference<css::frame::XDesktop> bureau_;
     std::vector<Entree> ouverts_;
     std::shared_ptr<ClesVivantes> vivantes_ = std::make_shared<ClesVivantes>();
     unsigned dernier_ = 0;

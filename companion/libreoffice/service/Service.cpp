@@ -20,14 +20,15 @@ Service::Service(uno::Reference<uno::XComponentContext> const& contexte, std::st
     , documents_(contexte)
     , dialogue_(contexte) {}
 
-std::string Service::Identifiant(DocumentOuvert const& document) const {
-    return instance_ + "~" + document.Cle();
+std::string Service::DonneIdentifiant(DocumentOuvert const& document) const {
+    return instance_ + "~" + document.DonneCle();
 }
 
 std::string Service::DonneDocuments() {
     EcritureDocuments ecriture;
     for (std::shared_ptr<DocumentOuvert> const& document : documents_.Tous()) {
-        ecriture.Ajoute(Identifiant(*document), document->DonneTitre(), document->DonneChemin());
+        ecriture.Ajoute(DonneIdentifiant(*document), document->DonneTitre(),
+                        document->DonneChemin());
     }
     return ecriture.Termine();
 }
@@ -35,7 +36,7 @@ std::string Service::DonneDocuments() {
 std::shared_ptr<DocumentOuvert> Service::DocumentDe(std::string const& appelant) {
     auto const session = sessions_.find(appelant);
     std::shared_ptr<DocumentOuvert> document =
-        session == sessions_.end() ? nullptr : documents_.ParCle(session->second.document);
+        session == sessions_.end() ? nullptr : documents_.TrouveParCle(session->second.document);
     if (!document) {
         throw DocumentInconnu();
     }
@@ -44,18 +45,18 @@ std::shared_ptr<DocumentOuvert> Service::DocumentDe(std::string const& appelant)
 
 std::pair<std::shared_ptr<DocumentOuvert>, std::shared_ptr<ZoneOuverte>>
 Service::ZoneDe(Session& session, std::string const& cle) {
-    std::shared_ptr<DocumentOuvert> document = documents_.ParZone(cle);
-    std::shared_ptr<ZoneOuverte> zone = document ? document->Zone(cle) : nullptr;
+    std::shared_ptr<DocumentOuvert> document = documents_.TrouveParZone(cle);
+    std::shared_ptr<ZoneOuverte> zone = document ? document->DonneZone(cle) : nullptr;
     if (!zone) {
         throw ZoneInconnue();
     }
-    session.document = document->Cle();
+    session.document = document->DonneCle();
     return {std::move(document), std::move(zone)};
 }
 
 void Service::InitialiseTexteur(std::string const& appelant, std::string const& cle) {
     documents_.Tous(); // one that was opened since may be meant
-    if (!documents_.ParCle(cle)) {
+    if (!documents_.TrouveParCle(cle)) {
         throw DocumentInconnu();
     }
     sessions_[appelant].document = cle;
@@ -98,13 +99,13 @@ std::string Service::SynchronisePositions(std::string const& appelant, std::stri
     std::string const prefixe = instance_ + "~";
     std::shared_ptr<DocumentOuvert> const document =
         leId.compare(0, prefixe.size(), prefixe) == 0
-            ? documents_.ParCle(leId.substr(prefixe.size()))
+            ? documents_.TrouveParCle(leId.substr(prefixe.size()))
             : nullptr;
     if (!document) {
         throw DocumentInconnu();
     }
     Session& session = sessions_[appelant];
-    session.document = document->Cle();
+    session.document = document->DonneCle();
     compagnon::EcrivainZones ecrivain;
     ecrivain.Prevois(session.tailleZones + session.tailleZones / 16);
     // Most often the same zones again with the same texts: those are taken over as they are.
@@ -113,13 +114,13 @@ std::string Service::SynchronisePositions(std::string const& appelant, std::stri
     croyances.reserve(anciennes.size());
     document->Parcours([&](ZoneLue const& lue) {
         std::u16string const& texte = lue.plan.DonneTexte();
-        ecrivain.Ajoute(lue.zone->Cle(), texte, lue.selection.value_or(Intervalle()),
+        ecrivain.Ajoute(lue.zone->DonneCle(), texte, lue.selection.value_or(Intervalle()),
                         lue.plan.DonneStyles());
-        auto connue = anciennes.extract(lue.zone->Cle());
+        auto connue = anciennes.extract(lue.zone->DonneCle());
         if (!connue.empty() && connue.mapped().Confirme(texte)) {
             croyances.insert(std::move(connue));
         } else {
-            croyances[lue.zone->Cle()].Donne(std::make_shared<std::u16string const>(texte));
+            croyances[lue.zone->DonneCle()].Donne(std::make_shared<std::u16string const>(texte));
         }
     });
     std::optional<std::string> zones = ecrivain.Termine();
@@ -161,7 +162,7 @@ void Service::SelectionneIntervalle(std::string const& appelant, std::string con
 
 std::u16string Service::DonneContenuSelection(std::string const& appelant) {
     auto const [texte, selection] = DonneContexte(appelant);
-    return texte.substr(selection.Debut(), selection.Longueur());
+    return texte.substr(selection.DonneDebut(), selection.DonneLongueur());
 }
 
 std::pair<std::u16string, Intervalle> Service::DonneContexte(std::string const& appelant) {
@@ -171,7 +172,8 @@ std::pair<std::u16string, Intervalle> Service::DonneContexte(std::string const& 
         session.contexte.reset();
         return {};
     }
-    session.contexte = Session::Contexte{lue->zone->Cle(), lue->plan.DonneTexte(), *lue->selection};
+    session.contexte =
+        Session::Contexte{lue->zone->DonneCle(), lue->plan.DonneTexte(), *lue->selection};
     return {lue->plan.DonneTexte(), *lue->selection};
 }
 
@@ -191,7 +193,7 @@ void Service::AjusteSelectionPourOutils(std::string const& appelant, std::int32_
     selection.fin = borne(std::int64_t{lue->selection->fin} + deltaFin, selection.debut);
     document->Selectionne(*lue->zone, lue->plan, selection);
     sessions_[appelant].contexte =
-        Session::Contexte{lue->zone->Cle(), lue->plan.DonneTexte(), selection};
+        Session::Contexte{lue->zone->DonneCle(), lue->plan.DonneTexte(), selection};
 }
 
 void Service::RemplaceEtReselectionne(std::string const& appelant, std::u16string const& mot) {
@@ -210,8 +212,9 @@ void Service::RemplaceEtReselectionne(std::string const& appelant, std::u16strin
         throw Refuse("the selection spans several paragraphs");
     }
     std::optional<Session::Contexte>& contexte = sessions_[appelant].contexte;
-    if (contexte && (contexte->zone != lue->zone->Cle() || contexte->selection != *lue->selection ||
-                     contexte->texte != lue->plan.DonneTexte())) {
+    if (contexte &&
+        (contexte->zone != lue->zone->DonneCle() || contexte->selection != *lue->selection ||
+         contexte->texte != lue->plan.DonneTexte())) {
         throw Refuse("the selection is another one than the caller was told");
     }
     if (lue->zone->EstEnFrappe()) {
@@ -224,7 +227,7 @@ void Service::RemplaceEtReselectionne(std::string const& appelant, std::u16strin
         std::min(lue->selection->debut, taille),
         std::min(lue->selection->debut + static_cast<std::int32_t>(mot.size()), taille)};
     document->Selectionne(*lue->zone, plan, resultat);
-    contexte = Session::Contexte{lue->zone->Cle(), plan.DonneTexte(), resultat};
+    contexte = Session::Contexte{lue->zone->DonneCle(), plan.DonneTexte(), resultat};
 }
 
 } // namespace extension

@@ -16,14 +16,15 @@ namespace extension {
 class Service {
   public:
     /// `instance`: the first part of the identifiers handed out.
-    Service(com::sun::star::uno::Reference<com::sun::star::uno::XComponentContext> const& contexte,
-            std::string instance);
+    Service(css::uno::Reference<css::uno::XComponentContext> const& contexte, std::string instance);
 
-    std::shared_ptr<ClesVivantes const> Vivantes() const noexcept { return documents_.Vivantes(); }
-    Documents& LesDocuments() noexcept { return documents_; }
-    std::string const& Instance() const noexcept { return instance_; }
+    std::shared_ptr<ClesVivantes const> DonneVivantes() const noexcept {
+        return documents_.DonneVivantes();
+    }
+    DocumentsOuverts& LesDocuments() noexcept { return documents_; }
+    std::string const& DonneInstance() const noexcept { return instance_; }
     /// Whole identifier of a document.
-    std::string Identifiant(DocumentOuvert const& document) const;
+    std::string DonneIdentifiant(DocumentOuvert const& document) const;
     /// That caller has left the bus.
     void Oublie(std::string const& appelant) { sessions_.erase(appelant); }
     void OublieTous() { sessions_.clear(); }
@@ -61,7 +62,7 @@ class Service {
     ZoneDe(Session& session, std::string const& cle);
 
     std::string instance_;
-    Documents documents_;
+    DocumentsOuverts documents_;
     DialogueModal dialogue_;
     Sessions sessions_;
 };

@@ -48,14 +48,14 @@ class Commentaire : public TexteDessine {
     }
 
     void Selectionne() override {
-        uno::Reference<text::XTextContent> const contenu(Objet(), uno::UNO_QUERY_THROW);
-        uno::Reference<view::XSelectionSupplier> const vue(Modele()->getCurrentController(),
+        uno::Reference<text::XTextContent> const contenu(DonneObjet(), uno::UNO_QUERY_THROW);
+        uno::Reference<view::XSelectionSupplier> const vue(DonneModele()->getCurrentController(),
                                                            uno::UNO_QUERY_THROW);
         vue->select(uno::Any(contenu->getAnchor()));
     }
 
   protected:
-    uno::Reference<text::XText> Texte() const override {
+    uno::Reference<text::XText> DonneTexte() const override {
         uno::Reference<text::XText> texte;
         Champ()->getPropertyValue("TextRange") >>= texte;
         return uno::Reference<text::XText>(texte, uno::UNO_SET_THROW);
@@ -63,7 +63,7 @@ class Commentaire : public TexteDessine {
 
   private:
     uno::Reference<beans::XPropertySet> Champ() const {
-        return uno::Reference<beans::XPropertySet>(Objet(), uno::UNO_QUERY_THROW);
+        return uno::Reference<beans::XPropertySet>(DonneObjet(), uno::UNO_QUERY_THROW);
     }
 };
 

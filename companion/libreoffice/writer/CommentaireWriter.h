@@ -8,8 +8,8 @@ namespace extension {
 /// A Writer comment: can be changed only while it has no format of its own, for the office takes
 /// new words for a comment as plain text.
 std::shared_ptr<TexteDessine>
-TexteDeCommentaire(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& champ,
-                   com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& modele,
+TexteDeCommentaire(css::uno::Reference<css::uno::XInterface> const& champ,
+                   css::uno::Reference<css::frame::XModel> const& modele,
                    std::shared_ptr<Contenant const> contenant);
 
 } // namespace extension

@@ -19,7 +19,7 @@ void DocumentWriter::ParcoursZones(Recueil const& recueil) {
 }
 
 std::unique_ptr<SelectionVue> DocumentWriter::LisChoixDuBureau() {
-    return LisChoixWriter(Modele());
+    return LisChoixWriter(DonneModele());
 }
 
 } // namespace extension

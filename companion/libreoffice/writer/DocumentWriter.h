@@ -9,8 +9,7 @@ namespace extension {
 /// A Writer document (also a web or master document).
 class DocumentWriter : public DocumentOuvert {
   public:
-    DocumentWriter(com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& modele,
-                   std::string cle);
+    DocumentWriter(css::uno::Reference<css::frame::XModel> const& modele, std::string cle);
 
   protected:
     void ParcoursZones(Recueil const& recueil) override;

@@ -18,7 +18,7 @@ namespace extension {
 
 /// What a Writer document's paragraphs share.
 struct FondWriter {
-    com::sun::star::uno::Reference<com::sun::star::frame::XModel> modele;
+    css::uno::Reference<css::frame::XModel> modele;
     LecteurPortions lecteur;
     Suppressions suppressions;
 };
@@ -26,10 +26,10 @@ struct FondWriter {
 /// A paragraph of a Writer text: body, cell, note, header, frame.
 class ParagrapheWriter : public ZoneOuverte {
   public:
-    ParagrapheWriter(
-        std::string cle,
-        com::sun::star::uno::Reference<com::sun::star::text::XTextContent> const& paragraphe,
-        std::shared_ptr<Contenant const> contenant, std::shared_ptr<FondWriter const> fond);
+    ParagrapheWriter(std::string cle,
+                     css::uno::Reference<css::text::XTextContent> const& paragraphe,
+                     std::shared_ptr<Contenant const> contenant,
+                     std::shared_ptr<FondWriter const> fond);
 
     compagnon::PlanDePortions Lis() override;
     bool EstProtegee() override;
@@ -38,27 +38,25 @@ class ParagrapheWriter : public ZoneOuverte {
                      std::size_t fin) override;
 
     /// Is it the zone of that object of the office?
-    bool
-    EstCelleDe(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet) const;
+    bool EstCelleDe(css::uno::Reference<css::uno::XInterface> const& objet) const;
     /// Does it stand in the same text (body, cell, note) as that object?
-    bool EstVoisineDe(
-        com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet) const;
+    bool EstVoisineDe(css::uno::Reference<css::uno::XInterface> const& objet) const;
     /// Does it stand in one of these texts, or in what is nested in one?
-    bool EstDans(std::set<com::sun::star::uno::XInterface*> const& textes) const;
+    bool EstDans(std::set<css::uno::XInterface*> const& textes) const;
 
     /// The place, in the last plan read, of a range of the document; what lies outside counts as
     /// the nearest end.
     compagnon::PlaceDansPortion
-    PlaceDe(com::sun::star::uno::Reference<com::sun::star::text::XTextRange> const& position) const;
+    PlaceDe(css::uno::Reference<css::text::XTextRange> const& position) const;
 
   private:
-    com::sun::star::uno::Reference<com::sun::star::text::XTextRange>
-    Position(compagnon::PlanDePortions const& plan, compagnon::PlaceDansPortion place) const;
+    css::uno::Reference<css::text::XTextRange> Position(compagnon::PlanDePortions const& plan,
+                                                        compagnon::PlaceDansPortion place) const;
 
-    com::sun::star::uno::Reference<com::sun::star::text::XTextContent> paragraphe_;
+    css::uno::Reference<css::text::XTextContent> paragraphe_;
     std::shared_ptr<Contenant const> contenant_;
     std::shared_ptr<FondWriter const> fond_;
-    std::vector<com::sun::star::uno::Reference<com::sun::star::text::XTextRange>> etendues_;
+    std::vector<css::uno::Reference<css::text::XTextRange>> etendues_;
 };
 
 } // namespace extension

@@ -28,20 +28,17 @@ class ParcoursWriter {
 
   private:
     void ParcoursTexte(std::shared_ptr<Contenant const> const& contenant);
-    void ParcoursTableau(com::sun::star::uno::Reference<com::sun::star::text::XTextTable> const& t,
+    void ParcoursTableau(css::uno::Reference<css::text::XTextTable> const& t,
                          std::shared_ptr<Contenant const> const& parent);
-    void ParcoursParagraphe(
-        com::sun::star::uno::Reference<com::sun::star::text::XTextContent> const& p,
-        com::sun::star::uno::Reference<com::sun::star::container::XEnumerationAccess> const&
-            portions,
-        std::shared_ptr<Contenant const> const& contenant, int& suppressions);
-    void ParcoursRencontre(
-        Rencontre const& rencontre, std::shared_ptr<Contenant const> const& contenant,
-        com::sun::star::uno::Reference<com::sun::star::beans::XPropertySet> const& ancre);
-    void
-    ParcoursCadre(com::sun::star::uno::Reference<com::sun::star::uno::XInterface> const& objet,
-                  std::shared_ptr<Contenant const> const& parent,
-                  com::sun::star::uno::Reference<com::sun::star::beans::XPropertySet> const& ancre);
+    void ParcoursParagraphe(css::uno::Reference<css::text::XTextContent> const& p,
+                            css::uno::Reference<css::container::XEnumerationAccess> const& portions,
+                            std::shared_ptr<Contenant const> const& contenant, int& suppressions);
+    void ParcoursRencontre(Rencontre const& rencontre,
+                           std::shared_ptr<Contenant const> const& contenant,
+                           css::uno::Reference<css::beans::XPropertySet> const& ancre);
+    void ParcoursCadre(css::uno::Reference<css::uno::XInterface> const& objet,
+                       std::shared_ptr<Contenant const> const& parent,
+                       css::uno::Reference<css::beans::XPropertySet> const& ancre);
     void ParcoursEntetes(char const* actif, char const* texte);
     void ParcoursPages();
 
@@ -50,7 +47,7 @@ class ParcoursWriter {
     Recueil const& recueil_;
     bool aDesSections_ = false;
     bool aDesCadres_ = false;
-    std::set<com::sun::star::uno::XInterface*> vus_; // frames, shapes and comments walked already
+    std::set<css::uno::XInterface*> vus_; // frames, shapes and comments walked already
     std::vector<std::pair<Rencontre, std::shared_ptr<Contenant const>>> notesDeFin_;
 };
 

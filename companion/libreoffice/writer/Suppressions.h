@@ -10,18 +10,16 @@ namespace extension {
 /// The tracked deletions of a Writer document. Main thread only.
 class Suppressions {
   public:
-    explicit Suppressions(
-        com::sun::star::uno::Reference<com::sun::star::frame::XModel> const& modele)
-        : modele_(modele, com::sun::star::uno::UNO_QUERY) {}
+    explicit Suppressions(css::uno::Reference<css::frame::XModel> const& modele)
+        : modele_(modele, css::uno::UNO_QUERY) {}
 
     /// How many deletions started before this paragraph of `texte` and go on into it: its own
     /// portions do not say.
-    int OuvertesAuDebut(
-        com::sun::star::uno::Reference<com::sun::star::text::XTextRange> const& paragraphe,
-        com::sun::star::uno::Reference<com::sun::star::text::XText> const& texte) const;
+    int OuvertesAuDebut(css::uno::Reference<css::text::XTextRange> const& paragraphe,
+                        css::uno::Reference<css::text::XText> const& texte) const;
 
   private:
-    com::sun::star::uno::Reference<com::sun::star::document::XRedlinesSupplier> modele_;
+    css::uno::Reference<css::document::XRedlinesSupplier> modele_;
 };
 
 } // namespace extension

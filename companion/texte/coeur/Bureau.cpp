@@ -28,8 +28,8 @@ std::optional<NumeroZone> Numero(std::string const& cle) {
 }
 
 std::u16string Remplace(std::u16string_view texte, Intervalle plage, std::u16string_view par) {
-    std::u16string resultat(texte.substr(0, plage.Debut()));
-    resultat.append(par).append(texte.substr(plage.Fin()));
+    std::u16string resultat(texte.substr(0, plage.DonneDebut()));
+    resultat.append(par).append(texte.substr(plage.DonneFin()));
     return resultat;
 }
 
@@ -46,22 +46,22 @@ DocumentTexte& Bureau::Ouvre(std::string chemin, LectureFichier lecture) {
 
 bool Bureau::Ferme(std::string_view cle) {
     auto const document = std::find_if(documents_.begin(), documents_.end(),
-                                       [&](DocumentTexte const& d) { return d.Cle() == cle; });
+                                       [&](DocumentTexte const& d) { return d.DonneCle() == cle; });
     if (document == documents_.end()) {
         return false;
     }
-    appelants_.OublieDocument(document->Cle());
+    appelants_.OublieDocument(document->DonneCle());
     documents_.erase(document);
     return true;
 }
 
-std::string Bureau::Identifiant(DocumentTexte const& document) const {
-    return instance_ + "~" + document.Cle();
+std::string Bureau::DonneIdentifiant(DocumentTexte const& document) const {
+    return instance_ + "~" + document.DonneCle();
 }
 
 DocumentTexte* Bureau::Cherche(std::string_view cle) noexcept {
     auto const document = std::find_if(documents_.begin(), documents_.end(),
-                                       [&](DocumentTexte const& d) { return d.Cle() == cle; });
+                                       [&](DocumentTexte const& d) { return d.DonneCle() == cle; });
     return document == documents_.end() ? nullptr : &*document;
 }
 
@@ -87,13 +87,13 @@ Resultat<Bureau::Place> Bureau::ChercheZone(std::string const& zone) {
 Resultat<Bureau::Place> Bureau::ChercheZone(std::string const& appelant, std::string const& zone) {
     Resultat<Place> place = ChercheZone(zone);
     if (place) {
-        appelants_.Donne(appelant).document = place->document->Cle();
+        appelants_.Donne(appelant).document = place->document->DonneCle();
     }
     return place;
 }
 
 TexteSuivi* Bureau::Croyance(std::string const& appelant, Place const& place) {
-    return appelants_.Donne(appelant).Croyance(place.document->Cle(), place.numero);
+    return appelants_.Donne(appelant).Croyance(place.document->DonneCle(), place.numero);
 }
 
 Resultat<Rien> Bureau::InitialiseTexteur(std::string const& appelant, std::string const& cle) {
@@ -110,12 +110,12 @@ Resultat<std::string> Bureau::SynchronisePositions(std::string const& appelant,
     if (!document) {
         return Inconnu(identifiant);
     }
-    appelants_.Donne(appelant).document = document->Cle();
+    appelants_.Donne(appelant).document = document->DonneCle();
 
     Selection const& selection = document->DonneSelection();
     EcrivainZones ecrivain;
-    for (std::size_t i = 0; i < document->Zones().size(); ++i) {
-        DocumentTexte::Zone const& zone = document->Zones()[i];
+    for (std::size_t i = 0; i < document->DonneZones().size(); ++i) {
+        DocumentTexte::Zone const& zone = document->DonneZones()[i];
         Intervalle const choisie = i == selection.zone ? selection.plage : Intervalle{};
         if (!ecrivain.Ajoute(CleDeZone(zone.numero), *zone.paragraphe.texte, choisie)) {
             return Erreur{CodeErreur::TropGrand, identifiant, {}};
@@ -127,11 +127,11 @@ Resultat<std::string> Bureau::SynchronisePositions(std::string const& appelant,
     }
     // Only now: a caller that got an error was given nothing.
     Appelant::Croyances croyances;
-    croyances.reserve(document->Zones().size());
-    for (DocumentTexte::Zone const& zone : document->Zones()) {
+    croyances.reserve(document->DonneZones().size());
+    for (DocumentTexte::Zone const& zone : document->DonneZones()) {
         croyances[zone.numero].Donne(zone.paragraphe.texte);
     }
-    appelants_.Donne(appelant, document->Cle(), std::move(croyances));
+    appelants_.Donne(appelant, document->DonneCle(), std::move(croyances));
     return std::move(*reponse);
 }
 
@@ -143,7 +143,7 @@ Resultat<bool> Bureau::PeutCorriger(std::string const& appelant, std::string con
     }
     TexteSuivi const* const croyance = Croyance(appelant, *place);
     return place->document->EstInscriptible() && croyance &&
-           croyance->Localise(plage, *place->document->Texte(place->index), attendu);
+           croyance->Localise(plage, *place->document->DonneTexte(place->index), attendu);
 }
 
 Resultat<Rien> Bureau::CorrigeDansTexteur(std::string const& appelant, std::string const& zone,
@@ -156,8 +156,9 @@ Resultat<Rien> Bureau::CorrigeDansTexteur(std::string const& appelant, std::stri
     if (!croyance) {
         return Erreur{CodeErreur::PlageRefusee, zone, Refus::Inconnu};
     }
-    TextePartage document = place->document->Texte(place->index);
-    std::size_t const retirees = plage.EstDans(croyance->Croyance().size()) ? plage.Longueur() : 0;
+    TextePartage document = place->document->DonneTexte(place->index);
+    std::size_t const retirees =
+        plage.EstDans(croyance->DonneCroyance().size()) ? plage.DonneLongueur() : 0;
     if (auto const raison = place->document->PeutRecevoir(retirees, texte)) {
         croyance->NoteRefus(plage);
         return Erreur{*raison, zone, {}};
@@ -179,7 +180,7 @@ Resultat<Rien> Bureau::SelectionneIntervalle(std::string const& appelant, std::s
     }
     TexteSuivi const* const croyance = Croyance(appelant, *place);
     Localisation const trouvee =
-        croyance ? croyance->Localise(plage, *place->document->Texte(place->index))
+        croyance ? croyance->Localise(plage, *place->document->DonneTexte(place->index))
                  : Localisation{Refus::Inconnu, {}};
     if (!trouvee) {
         return Erreur{CodeErreur::PlageRefusee, zone, trouvee.refus};
@@ -239,12 +240,12 @@ Resultat<Rien> Bureau::RemplaceEtReselectionne(std::string const& appelant,
         return document.DonneErreur();
     }
     Selection const selection = (*document)->DonneSelection();
-    if (auto const raison = (*document)->PeutRecevoir(selection.plage.Longueur(), mot)) {
+    if (auto const raison = (*document)->PeutRecevoir(selection.plage.DonneLongueur(), mot)) {
         return Erreur{*raison, {}, {}};
     }
-    (*document)->MetsTexte(
-        selection.zone, std::make_shared<std::u16string const>(
-                            Remplace(*(*document)->Texte(selection.zone), selection.plage, mot)));
+    (*document)->MetsTexte(selection.zone,
+                           std::make_shared<std::u16string const>(Remplace(
+                               *(*document)->DonneTexte(selection.zone), selection.plage, mot)));
     (*document)->Selectionne(
         selection.zone,
         {selection.plage.debut, selection.plage.debut + static_cast<std::int32_t>(mot.size())});
@@ -257,7 +258,7 @@ void Bureau::RompsLien(std::string const& appelant) {
         return;
     }
     Appelant& celui = appelants_.Donne(appelant);
-    celui.croyances.erase((*document)->Cle());
+    celui.croyances.erase((*document)->DonneCle());
     celui.document.clear();
 }
 
@@ -267,14 +268,14 @@ Resultat<Rien> Bureau::Tape(std::string const& zone, Intervalle plage, std::u16s
         return place.DonneErreur();
     }
     DocumentTexte& document = *place->document;
-    std::u16string_view const avant = *document.Texte(place->index);
+    std::u16string_view const avant = *document.DonneTexte(place->index);
     if (!plage.EstDans(avant.size())) {
         return Erreur{CodeErreur::PlageRefusee, zone, Refus::HorsLimites};
     }
-    if (CoupePaire(avant, plage.Debut()) || CoupePaire(avant, plage.Fin())) {
+    if (CoupePaire(avant, plage.DonneDebut()) || CoupePaire(avant, plage.DonneFin())) {
         return Erreur{CodeErreur::PlageRefusee, zone, Refus::CoupePaire};
     }
-    if (auto const raison = document.PeutRecevoir(plage.Longueur(), texte)) {
+    if (auto const raison = document.PeutRecevoir(plage.DonneLongueur(), texte)) {
         return Erreur{*raison, zone, {}};
     }
     document.MetsTexte(place->index,
@@ -303,7 +304,7 @@ Resultat<std::string> Bureau::InsereApres(std::string const& zone, std::u16strin
     if (auto const raison = document.PeutRecevoir(0, texte)) {
         return Erreur{*raison, zone, {}};
     }
-    if (document.Zones().size() >= kParagraphesMax) {
+    if (document.DonneZones().size() >= kParagraphesMax) {
         return Erreur{CodeErreur::TropGrand, zone, {}};
     }
     return CleDeZone(document.InsereApres(

@@ -26,11 +26,11 @@ class Bureau {
     /// The document is served no more. Its text is not saved. False when there is none of that key.
     bool Ferme(std::string_view cle);
 
-    std::string const& Instance() const noexcept { return instance_; }
-    std::string Identifiant(DocumentTexte const& document) const;
+    std::string const& DonneInstance() const noexcept { return instance_; }
+    std::string DonneIdentifiant(DocumentTexte const& document) const;
     /// The documents, the one in front first.
-    std::list<DocumentTexte> const& Documents() const noexcept { return documents_; }
-    std::list<DocumentTexte>& Documents() noexcept { return documents_; }
+    std::list<DocumentTexte> const& DonneDocuments() const noexcept { return documents_; }
+    std::list<DocumentTexte>& DonneDocuments() noexcept { return documents_; }
     DocumentTexte* Cherche(std::string_view cle) noexcept;
     /// By whole identifier.
     DocumentTexte* ChercheIdentifiant(std::string_view identifiant) noexcept;

@@ -26,7 +26,7 @@ DocumentTexte::DocumentTexte(std::string cle, std::string chemin, LectureFichier
     }
 }
 
-std::string DocumentTexte::Titre() const {
+std::string DocumentTexte::DonneTitre() const {
     return chemin_.substr(chemin_.find_last_of('/') + 1);
 }
 
@@ -44,9 +44,9 @@ std::optional<std::size_t> DocumentTexte::IndexDe(NumeroZone numero) const noexc
 }
 
 bool DocumentTexte::Selectionne(std::size_t zone, Intervalle plage) noexcept {
-    std::u16string_view const texte = *Texte(zone);
-    if (!plage.EstDans(texte.size()) || CoupePaire(texte, plage.Debut()) ||
-        CoupePaire(texte, plage.Fin())) {
+    std::u16string_view const texte = *DonneTexte(zone);
+    if (!plage.EstDans(texte.size()) || CoupePaire(texte, plage.DonneDebut()) ||
+        CoupePaire(texte, plage.DonneFin())) {
         return false;
     }
     selection_ = {zone, plage};
@@ -100,7 +100,7 @@ NumeroZone DocumentTexte::InsereApres(std::size_t zone, TextePartage texte,
 }
 
 void DocumentTexte::Supprime(std::size_t zone) {
-    unites_ -= Texte(zone)->size();
+    unites_ -= DonneTexte(zone)->size();
     if (zones_.size() == 1) {
         zones_.front().paragraphe.texte = std::make_shared<std::u16string const>();
         selection_ = {};

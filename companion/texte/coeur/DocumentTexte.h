@@ -40,15 +40,15 @@ class DocumentTexte {
     DocumentTexte(std::string cle, std::string chemin, LectureFichier lecture,
                   NumeroZone& prochainNumero);
 
-    std::string const& Cle() const noexcept { return cle_; }
-    std::string const& Chemin() const noexcept { return chemin_; }
+    std::string const& DonneCle() const noexcept { return cle_; }
+    std::string const& DonneChemin() const noexcept { return chemin_; }
     /// The last part of the path.
-    std::string Titre() const;
+    std::string DonneTitre() const;
     bool EstInscriptible() const noexcept { return inscriptible_; }
 
-    std::vector<Zone> const& Zones() const noexcept { return zones_; }
+    std::vector<Zone> const& DonneZones() const noexcept { return zones_; }
     std::optional<std::size_t> IndexDe(NumeroZone numero) const noexcept;
-    TextePartage const& Texte(std::size_t zone) const noexcept {
+    TextePartage const& DonneTexte(std::size_t zone) const noexcept {
         return zones_[zone].paragraphe.texte;
     }
 

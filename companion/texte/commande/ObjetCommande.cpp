@@ -96,7 +96,7 @@ QString ObjetCommande::DonneSelection(QString const& leId, int& debut, int& fin)
     Selection const& selection = document->DonneSelection();
     debut = selection.plage.debut;
     fin = selection.plage.fin;
-    return VersQString(Bureau::CleDeZone(document->Zones()[selection.zone].numero));
+    return VersQString(Bureau::CleDeZone(document->DonneZones()[selection.zone].numero));
 }
 
 QString ObjetCommande::DonneJournal() {

@@ -49,17 +49,20 @@ void Attends(std::vector<QDBusPendingCall> const& appels, int delaiMs) {
     std::vector<std::unique_ptr<QDBusPendingCallWatcher>> guetteurs;
     std::size_t restants = 0;
     for (QDBusPendingCall const& appel : appels) {
-        if (appel.isFinished())
+        if (appel.isFinished()) {
             continue;
+        }
         ++restants;
         guetteurs.push_back(std::make_unique<QDBusPendingCallWatcher>(appel));
         QObject::connect(guetteurs.back().get(), &QDBusPendingCallWatcher::finished, &boucle, [&] {
-            if (--restants == 0)
+            if (--restants == 0) {
                 boucle.quit();
+            }
         });
     }
-    if (restants == 0)
+    if (restants == 0) {
         return;
+    }
     QTimer minuterie;
     QObject::connect(&minuterie, &QTimer::timeout, &boucle, &QEventLoop::quit);
     minuterie.start(std::max(delaiMs, 0));
@@ -76,10 +79,12 @@ QStringList DonneServices(QDBusConnection const& bus, int delaiMs) {
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("ListNames"));
     QDBusPendingReply<QStringList> const reponse = bus.asyncCall(demande, delaiMs);
     Attends({reponse}, delaiMs);
-    if (!reponse.isFinished())
+    if (!reponse.isFinished()) {
         throw SansBus(QString::fromStdString(Tr("il ne répond pas")));
-    if (reponse.isError())
+    }
+    if (reponse.isError()) {
         throw SansBus(reponse.error().message());
+    }
     QStringList services = reponse.value();
     services.sort();
     return services;
@@ -87,21 +92,23 @@ QStringList DonneServices(QDBusConnection const& bus, int delaiMs) {
 
 void Recueille(QString const& instance, QDBusPendingReply<QString> const& reponse,
                ListeDocuments& liste) {
-    if (!reponse.isFinished())
+    if (!reponse.isFinished()) {
         liste.avertissements.push_back(Tr("Le compagnon {1} ne répond pas.", instance));
-    else if (reponse.isError())
+    } else if (reponse.isError()) {
         liste.avertissements.push_back(Tr("Le compagnon {1} ne donne pas ses documents : {2}",
                                           instance, reponse.error().message()));
-    else
+    } else {
         LisDocuments(instance, reponse.value(), liste);
+    }
 }
 
 } // namespace
 
 QString DonneInstance(QString const& service) {
     static QRegularExpression const forme(QStringLiteral("\\A[A-Za-z_][A-Za-z0-9_]*\\z"));
-    if (!service.startsWith(DonnePrefixe()))
+    if (!service.startsWith(DonnePrefixe())) {
         return {};
+    }
     QString const instance = service.mid(DonnePrefixe().size());
     return forme.match(instance).hasMatch() ? instance : QString();
 }
@@ -112,16 +119,18 @@ ListeDocuments EnumereDocuments(int delaiMs) {
     auto const reste = [&] { return delaiMs - static_cast<int>(montre.elapsed()); };
     ConnexionPrivee const connexion;
     QDBusConnection const& bus = connexion.Donne();
-    if (!bus.isConnected())
+    if (!bus.isConnected()) {
         throw SansBus(bus.lastError().message());
+    }
 
     QStringList instances;
     std::vector<std::unique_ptr<ProxyDocuments>> proxys;
     std::vector<QDBusPendingCall> appels;
     for (QString const& service : DonneServices(bus, delaiMs)) {
         QString const instance = DonneInstance(service);
-        if (instance.isEmpty())
+        if (instance.isEmpty()) {
             continue;
+        }
         proxys.push_back(std::make_unique<ProxyDocuments>(
             service, QStringLiteral("/com/ombrel/vocalyne/texteurs/OpenOffice/") + instance, bus));
         instances.append(instance);
@@ -130,8 +139,9 @@ ListeDocuments EnumereDocuments(int delaiMs) {
     Attends(appels, reste());
 
     ListeDocuments liste;
-    for (int i = 0; i < instances.size(); ++i)
+    for (int i = 0; i < instances.size(); ++i) {
         Recueille(instances.at(i), appels[static_cast<std::size_t>(i)], liste);
+    }
     return liste;
 }
 

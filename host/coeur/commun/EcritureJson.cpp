@@ -8,8 +8,9 @@ namespace {
 void AjouteEchappee(std::string& json, unsigned unite) {
     static char const chiffres[] = "0123456789abcdef";
     json += "\\u";
-    for (int decalage = 12; decalage >= 0; decalage -= 4)
+    for (int decalage = 12; decalage >= 0; decalage -= 4) {
         json += chiffres[(unite >> decalage) & 0xFU];
+    }
 }
 
 bool EstAEchapper(unsigned unite) {
@@ -106,8 +107,9 @@ EcritureJson& EcritureJson::Ferme(char signe) {
 }
 
 void EcritureJson::Virgule() {
-    if (virgule_)
+    if (virgule_) {
         json_ += ',';
+    }
 }
 
 } // namespace hote

@@ -33,15 +33,18 @@ std::optional<int> Alignement::Retrouve(int debut, int fin) const {
     auto dernier = premier;
     for (; dernier != anciens_.end() && dernier->debut < droite; ++dernier) {
         int const attendu = premier->correspondant + static_cast<int>(dernier - premier);
-        if (dernier->correspondant < 0 || dernier->correspondant != attendu)
+        if (dernier->correspondant < 0 || dernier->correspondant != attendu) {
             return std::nullopt;
+        }
     }
-    if (dernier == premier)
+    if (dernier == premier) {
         return anciens_.empty() && nouveaux_.empty() ? std::optional<int>(0) : std::nullopt;
+    }
     auto const rang = static_cast<std::size_t>(premier - anciens_.begin());
     auto const rangDernier = static_cast<std::size_t>(dernier - anciens_.begin()) - 1;
-    if (!EstAppuye(rang, rangDernier))
+    if (!EstAppuye(rang, rangDernier)) {
         return std::nullopt;
+    }
     return nouveaux_[premier->correspondant].debut + debut - premier->debut;
 }
 
@@ -59,10 +62,12 @@ bool Alignement::EstAppuye(std::size_t premier, std::size_t dernier) const {
 int Alignement::RetrouveAvant(int position) const {
     int place = 0;
     for (Morceau const& m : anciens_) {
-        if (m.fin > position)
+        if (m.fin > position) {
             break;
-        if (m.correspondant >= 0)
+        }
+        if (m.correspondant >= 0) {
             place = nouveaux_[m.correspondant].fin;
+        }
     }
     return place;
 }
@@ -73,8 +78,9 @@ Alignement::Morceaux Alignement::Decoupe(QString const& texte) {
     for (int debut = 0; debut < longueur;) {
         int fin = debut + 1;
         if (EstDeMot(texte.at(debut))) {
-            while (fin < longueur && EstDeMot(texte.at(fin)))
+            while (fin < longueur && EstDeMot(texte.at(fin))) {
                 ++fin;
+            }
         }
         morceaux.push_back({debut, fin, -1});
         debut = fin;
@@ -94,10 +100,12 @@ void Alignement::Apparie(QString const& ancien, QString const& nouveau) {
     int finAncien = static_cast<int>(anciens_.size());
     int finNouveau = static_cast<int>(nouveaux_.size());
     int debut = 0;
-    for (; debut < std::min(finAncien, finNouveau) && pareils(debut, debut); ++debut)
+    for (; debut < std::min(finAncien, finNouveau) && pareils(debut, debut); ++debut) {
         marie(debut, debut);
-    while (finAncien > debut && finNouveau > debut && pareils(finAncien - 1, finNouveau - 1))
+    }
+    while (finAncien > debut && finNouveau > debut && pareils(finAncien - 1, finNouveau - 1)) {
         marie(--finAncien, --finNouveau);
+    }
     ApparieMilieu(ancien, nouveau, debut, finAncien, finNouveau);
 }
 
@@ -105,8 +113,9 @@ void Alignement::ApparieMilieu(QString const& ancien, QString const& nouveau, in
                                int finAncien, int finNouveau) {
     int const na = finAncien - debut;
     int const nn = finNouveau - debut;
-    if (na == 0 || nn == 0 || (std::int64_t{na} + 1) * (nn + 1) > kCasesMax)
+    if (na == 0 || nn == 0 || (std::int64_t{na} + 1) * (nn + 1) > kCasesMax) {
         return;
+    }
     // Longest common subsequence: longueurs[i][j] is that of what follows i and j.
     std::vector<std::uint16_t> longueurs(static_cast<std::size_t>(na + 1) * (nn + 1), 0);
     auto const longueur = [&](int i, int j) -> std::uint16_t& {
@@ -121,10 +130,11 @@ void Alignement::ApparieMilieu(QString const& ancien, QString const& nouveau, in
         return nouveau.midRef(m.debut, m.fin - m.debut);
     };
     for (int i = na - 1; i >= 0; --i) {
-        for (int j = nn - 1; j >= 0; --j)
+        for (int j = nn - 1; j >= 0; --j) {
             longueur(i, j) = texteAncien(i) == texteNouveau(j)
                                  ? static_cast<std::uint16_t>(longueur(i + 1, j + 1) + 1)
                                  : std::max(longueur(i + 1, j), longueur(i, j + 1));
+        }
     }
     for (int i = 0, j = 0; i < na && j < nn;) {
         if (texteAncien(i) == texteNouveau(j)) {

@@ -54,8 +54,9 @@ void Correcteur::Parcours() {
     }
     CompteLeReste(curseur);
     bilan_.zones = document_.DonneNombre();
-    if (envois_.EstVide())
+    if (envois_.EstVide()) {
         return;
+    }
     auto const anciens = document_.DonneTextes();
     document_.Lis();
     auto const& nouveaux = document_.DonneTextes();
@@ -69,12 +70,14 @@ Correcteur::Curseur Correcteur::TraiteZone(Curseur depart) {
     bool const apostropheCourbe = Orthographe::AUneApostropheCourbe(document_.DonneTextes()[zone]);
     int decalage = 0; // of what lies behind the corrections made here
     for (Faute const& faute : fautes) {
-        if (faute.debut < depart.position)
+        if (faute.debut < depart.position) {
             continue;
+        }
         Faute const place = Decale(faute, decalage);
         std::size_t const rang = Note(zone, faute, place);
-        if (ignores_.contains(DonneForme(faute.mot)))
+        if (ignores_.contains(DonneForme(faute.mot))) {
             continue;
+        }
         bilan_.fautes[rang].suggestions = orthographe_.Suggere(place, apostropheCourbe);
         AnnonceProgres(zone);
         Decision const decision =
@@ -84,16 +87,20 @@ Correcteur::Curseur Correcteur::TraiteZone(Curseur depart) {
             bilan_.interrompu = true;
             return {zone, place.fin};
         }
-        if (decision.genre == Decision::Genre::LaisseTout)
+        if (decision.genre == Decision::Genre::LaisseTout) {
             ignores_.insert(DonneForme(faute.mot));
-        if (decision.genre != Decision::Genre::Corrige)
+        }
+        if (decision.genre != Decision::Genre::Corrige) {
             continue;
+        }
         Issue const issue = Applique(rang, zone, place, decision.remplacement);
         interlocuteur_.ApprendsIssue(bilan_.fautes[rang], issue.envoyee);
-        if (issue.suite)
+        if (issue.suite) {
             return *issue.suite;
-        if (issue.envoyee)
+        }
+        if (issue.envoyee) {
             decalage += decision.remplacement.size() - (place.fin - place.debut);
+        }
     }
     return {zone + 1, 0};
 }
@@ -103,8 +110,9 @@ void Correcteur::CompteLeReste(Curseur depart) {
         AnnonceProgres(depart.zone);
         QString const& texte = document_.DonneTextes()[depart.zone];
         for (Faute const& faute : orthographe_.Cherche(texte, document_.DonnePlages(depart.zone))) {
-            if (faute.debut >= depart.position)
+            if (faute.debut >= depart.position) {
                 Note(depart.zone, faute, faute);
+            }
         }
     }
 }
@@ -126,11 +134,13 @@ Correcteur::Issue Correcteur::Applique(std::size_t rang, int zone, Faute const& 
                                        QString const& remplacement) {
     bilan_.fautes[rang].remplacement = remplacement;
     bilan_.fautes[rang].etat = EtatFaute::Refusee;
-    if (Envoie(rang, zone, place, remplacement))
+    if (Envoie(rang, zone, place, remplacement)) {
         return {true, std::nullopt};
+    }
     document_.VerifieVivant();
-    if (!relectures_.Demande())
+    if (!relectures_.Demande()) {
         return {false, std::nullopt};
+    }
     auto const anciens = document_.DonneTextes();
     document_.Lis();
     auto const& nouveaux = document_.DonneTextes();
@@ -138,8 +148,9 @@ Correcteur::Issue Correcteur::Applique(std::size_t rang, int zone, Faute const& 
     envois_.Verifie(recalage, anciens, nouveaux, bilan_);
     relectures_.Apprends(!recalage.RienNeChange());
     // It reads as we believed: the refusal is the word processor's last word.
-    if (recalage.RienNeChange())
+    if (recalage.RienNeChange()) {
         return {false, std::nullopt};
+    }
     return AppliqueAilleurs(rang, zone, place, remplacement, anciens, recalage);
 }
 
@@ -148,24 +159,28 @@ Correcteur::Issue Correcteur::AppliqueAilleurs(std::size_t rang, int zone, Faute
                                                std::vector<QString> const& anciens,
                                                Recalage const& recalage) {
     auto const nouvelle = recalage.Retrouve(zone);
-    if (!nouvelle)
+    if (!nouvelle) {
         return {false, TrouveZoneSuivante(zone + 1, static_cast<int>(anciens.size()), recalage)};
+    }
     Alignement const alignement(anciens[zone], document_.DonneTextes()[*nouvelle]);
     auto const debut = alignement.Retrouve(place.debut, place.fin);
-    if (!debut)
+    if (!debut) {
         return {false, Curseur{*nouvelle, alignement.RetrouveAvant(place.debut)}};
+    }
     bilan_.fautes[rang].zone = *nouvelle;
     bilan_.fautes[rang].faute = Decale(place, *debut - place.debut);
     Faute const& ici = bilan_.fautes[rang].faute;
-    if (!Envoie(rang, *nouvelle, ici, remplacement))
+    if (!Envoie(rang, *nouvelle, ici, remplacement)) {
         return {false, Curseur{*nouvelle, ici.fin}};
+    }
     return {true, Curseur{*nouvelle, ici.debut + remplacement.size()}};
 }
 
 bool Correcteur::Envoie(std::size_t rang, int zone, Faute const& place,
                         QString const& remplacement) {
-    if (!document_.PeutCorriger(zone, place.debut, place.fin, place.mot))
+    if (!document_.PeutCorriger(zone, place.debut, place.fin, place.mot)) {
         return false;
+    }
     document_.Corrige(zone, place.debut, place.fin, remplacement, automatique_);
     envois_.Ajoute(rang, zone, {place.debut, place.debut + remplacement.size(), place.mot});
     relectures_.ApprendsSucces();
@@ -175,8 +190,9 @@ bool Correcteur::Envoie(std::size_t rang, int zone, Faute const& place,
 Correcteur::Curseur Correcteur::TrouveZoneSuivante(int zone, int nombreAncien,
                                                    Recalage const& recalage) const {
     for (; zone < nombreAncien; ++zone) {
-        if (auto const nouvelle = recalage.Retrouve(zone))
+        if (auto const nouvelle = recalage.Retrouve(zone)) {
             return {*nouvelle, 0};
+        }
     }
     return {document_.DonneNombre(), 0};
 }

@@ -20,13 +20,15 @@ class Chemins {
     std::optional<std::vector<bool>> Cherche() {
         auto const nombre = remplacements_.size();
         std::vector<Places> places(nombre + 1);
-        if (auto const depart = SuisTexte(0, 0))
+        if (auto const depart = SuisTexte(0, 0)) {
             places[0].push_back(*depart);
+        }
         for (std::size_t i = 0; i < nombre; ++i) {
             for (int place : places[i]) {
                 for (bool fait : {false, true}) {
-                    if (auto const suite = Suis(i, place, fait))
+                    if (auto const suite = Suis(i, place, fait)) {
                         places[i + 1].push_back(*suite);
+                    }
                 }
             }
             Range(places[i + 1]);
@@ -34,8 +36,9 @@ class Chemins {
         // Only ways that use the whole text up count; from the end, those that lead there.
         bool const arrive =
             std::binary_search(places[nombre].begin(), places[nombre].end(), reel_.size());
-        if (!arrive)
+        if (!arrive) {
             return std::nullopt;
+        }
         std::vector<bool> faits(nombre);
         Places bonnes{reel_.size()};
         for (std::size_t i = nombre; i-- > 0;) {
@@ -44,8 +47,9 @@ class Chemins {
             for (int place : places[i]) {
                 for (bool fait : {false, true}) {
                     auto const suite = Suis(i, place, fait);
-                    if (!suite || !std::binary_search(bonnes.begin(), bonnes.end(), *suite))
+                    if (!suite || !std::binary_search(bonnes.begin(), bonnes.end(), *suite)) {
                         continue;
+                    }
                     precedentes.push_back(place);
                     peutEtreNon = peutEtreNon || !fait;
                 }
@@ -68,8 +72,9 @@ class Chemins {
         Remplacement const& r = remplacements_[rang];
         QStringRef const texte =
             fait ? cru_.midRef(r.debut, r.fin - r.debut) : QStringRef(&r.avant);
-        if (reel_.midRef(place, texte.size()) != texte)
+        if (reel_.midRef(place, texte.size()) != texte) {
             return std::nullopt;
+        }
         return SuisTexte(rang + 1, place + texte.size());
     }
 
@@ -77,8 +82,9 @@ class Chemins {
     std::optional<int> SuisTexte(std::size_t rang, int place) const {
         int const debut = rang == 0 ? 0 : remplacements_[rang - 1].fin;
         int const fin = rang < remplacements_.size() ? remplacements_[rang].debut : cru_.size();
-        if (reel_.midRef(place, fin - debut) != cru_.midRef(debut, fin - debut))
+        if (reel_.midRef(place, fin - debut) != cru_.midRef(debut, fin - debut)) {
             return std::nullopt;
+        }
         return place + fin - debut;
     }
 

@@ -34,15 +34,18 @@ Recalage::Recalage(std::vector<QString> const& anciens, std::vector<QString> con
     int const nombre = static_cast<int>(anciens.size());
     rienNeChange_ = debut == nombre && nouveaux.size() == anciens.size();
 
-    for (int rang = 0; rang < debut; ++rang)
+    for (int rang = 0; rang < debut; ++rang) {
         places_[rang] = rang;
-    for (int rang = finAncien; rang < nombre; ++rang)
+    }
+    for (int rang = finAncien; rang < nombre; ++rang) {
         places_[rang] = rang + finNouveau - finAncien;
+    }
     TrouveTextesUniques(anciens, nouveaux, debut, finAncien, finNouveau);
     int precedent = debut - 1;
     for (int rang = debut; rang < finAncien; ++rang) {
-        if (places_[rang] < 0)
+        if (places_[rang] < 0) {
             continue;
+        }
         CombleEntre(precedent, rang, places_[rang]);
         precedent = rang;
     }
@@ -61,17 +64,20 @@ void Recalage::TrouveTextesUniques(std::vector<QString> const& anciens,
     auto const rangsNouveaux = DonneRangs(nouveaux, debut, finNouveau);
     for (int rang = debut; rang < finAncien; ++rang) {
         QString const& texte = anciens[static_cast<std::size_t>(rang)];
-        if (rangsAnciens.value(texte) == rang)
+        if (rangsAnciens.value(texte) == rang) {
             places_[rang] = rangsNouveaux.value(texte, -1);
+        }
     }
 }
 
 void Recalage::CombleEntre(int precedent, int suivant, int placeSuivante) {
     int const placePrecedente = precedent < 0 ? -1 : places_[precedent];
-    if (placeSuivante - placePrecedente != suivant - precedent)
+    if (placeSuivante - placePrecedente != suivant - precedent) {
         return;
-    for (int rang = precedent + 1; rang < suivant; ++rang)
+    }
+    for (int rang = precedent + 1; rang < suivant; ++rang) {
         places_[rang] = placePrecedente + rang - precedent;
+    }
 }
 
 } // namespace hote

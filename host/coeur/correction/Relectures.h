@@ -11,8 +11,9 @@ class Relectures {
     /// Is this refusal worth a reading?
     bool Demande() noexcept {
         // A document that is another one at each reading must not keep us for ever.
-        if (faites_ >= kMax || ++refus_ < attente_)
+        if (faites_ >= kMax || ++refus_ < attente_) {
             return false;
+        }
         refus_ = 0;
         ++faites_;
         return true;

@@ -40,19 +40,23 @@ void Document::Lis() {
                         : tenu_.DonneAgent()->DonneZones(zones);
     std::vector<QString> textes;
     textes.reserve(static_cast<std::size_t>(zones.DonneNombre()));
-    for (int i = 0; i < zones.DonneNombre(); ++i)
+    for (int i = 0; i < zones.DonneNombre(); ++i) {
         textes.push_back(DonneZone(i).DonneTexte().DonneTexte().VersQString());
+    }
     // Not every agent that reaches nobody says so, nor calls its document dead.
     bool const disparu = !ok || (textes.empty() && !textes_.empty());
     bool const premiereFois = !lu_;
     textes_ = std::move(textes);
     lu_ = true;
-    if (!ok && premiereFois)
+    if (!ok && premiereFois) {
         throw ErreurHote(kSortieDocument, Tr("Le document ne se lit pas."));
-    if (disparu)
+    }
+    if (disparu) {
         throw DonneErreurMort();
-    if (textes_.empty())
+    }
+    if (textes_.empty()) {
         VerifieVivant();
+    }
 }
 
 Orthographe::Plages Document::DonnePlages(int zone) {
@@ -69,8 +73,9 @@ void Document::Corrige(int zone, int debut, int fin, QString const& texte, bool 
 }
 
 void Document::VerifieVivant() {
-    if (tenu_.DonneAgent()->DocEstMort())
+    if (tenu_.DonneAgent()->DocEstMort()) {
         throw DonneErreurMort();
+    }
 }
 
 InterfaceZoneDeTexte& Document::DonneZone(int zone) {

@@ -35,10 +35,11 @@ std::string DonneErreurChargeur() {
 template <class Fonction>
 void Trouve(void* bibliotheque, std::string const& fichier, char const* nom, Fonction& fonction) {
     void* const adresse = dlsym(bibliotheque, nom);
-    if (adresse == nullptr)
+    if (adresse == nullptr) {
         throw ErreurHote(
             kSortieGreffon,
             Tr("{1} n’est pas un connecteur : la fonction {2} n’est pas exportée.", fichier, nom));
+    }
     fonction = reinterpret_cast<Fonction>(adresse);
 }
 
@@ -58,8 +59,9 @@ class GardeChargement {
     [[noreturn]] static void Finis() {
         std::string raison = "?";
         try {
-            if (auto const exception = std::current_exception())
+            if (auto const exception = std::current_exception()) {
                 std::rethrow_exception(exception);
+            }
         } catch (std::exception const& erreur) {
             raison = erreur.what();
         } catch (...) {
@@ -89,9 +91,10 @@ void* Ouvre(std::string const& fichier) {
 
 std::unique_ptr<Greffon> Greffon::Charge(std::string const& fichier) {
     void* const bibliotheque = Ouvre(fichier);
-    if (bibliotheque == nullptr)
+    if (bibliotheque == nullptr) {
         throw ErreurHote(kSortieGreffon, Tr("Le connecteur {1} ne se charge pas : {2}", fichier,
                                             DonneErreurChargeur()));
+    }
     auto exports = std::make_unique<Exports>();
     // Made first, so that a missing function unloads the library again.
     std::unique_ptr<Greffon> greffon(new Greffon(bibliotheque, std::move(exports)));

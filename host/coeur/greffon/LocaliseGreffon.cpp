@@ -32,11 +32,13 @@ fs::path DonneDossierProgramme() {
 } // namespace
 
 std::vector<std::string> DonneCheminsGreffon(std::string const& demande) {
-    if (!demande.empty())
+    if (!demande.empty()) {
         return {demande};
+    }
     char const* const environnement = std::getenv("VOCALYNE_GREFFON");
-    if (environnement != nullptr && *environnement != '\0')
+    if (environnement != nullptr && *environnement != '\0') {
         return {environnement};
+    }
     std::vector<std::string> chemins;
     fs::path const dossier = DonneDossierProgramme();
     // The configured place first; then the others, for a program moved to another distribution's
@@ -45,10 +47,12 @@ std::vector<std::string> DonneCheminsGreffon(std::string const& demande) {
                                 "../lib/" VOCALYNE_TRIPLET "/vocalyne"}) {
         std::string const chemin = (dossier / relatif / kNomGreffon).lexically_normal().string();
         bool connu = false;
-        for (std::string const& autre : chemins)
+        for (std::string const& autre : chemins) {
             connu = connu || autre == chemin;
-        if (!connu)
+        }
+        if (!connu) {
             chemins.push_back(chemin);
+        }
     }
     return chemins;
 }
@@ -57,12 +61,14 @@ std::string LocaliseGreffon(std::string const& demande) {
     auto const chemins = DonneCheminsGreffon(demande);
     for (std::string const& chemin : chemins) {
         std::error_code erreur;
-        if (fs::exists(chemin, erreur))
+        if (fs::exists(chemin, erreur)) {
             return chemin;
+        }
     }
     std::string liste;
-    for (std::string const& chemin : chemins)
+    for (std::string const& chemin : chemins) {
         liste += (liste.empty() ? "" : ", ") + chemin;
+    }
     throw ErreurHote(kSortieGreffon,
                      Tr("Connecteur introuvable : {1}. Indiquez-le par --greffon FICHIER ou par la "
                         "variable VOCALYNE_GREFFON.",

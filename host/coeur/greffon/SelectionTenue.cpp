@@ -27,12 +27,14 @@ SelectionTenue::Etat SelectionTenue::Lis() {
 }
 
 bool SelectionTenue::Remplace(Etat const& attendu, int debut, int fin, QString const& texte) {
-    if (!(Lis() == attendu))
+    if (!(Lis() == attendu)) {
         return false;
+    }
     if (debut != attendu.debut || fin != attendu.fin) {
         tenu_.DonneAgent()->AjusteSelectionPourOutils(debut - attendu.debut, fin - attendu.fin);
-        if (!(Lis() == Etat{attendu.texte, debut, fin}))
+        if (!(Lis() == Etat{attendu.texte, debut, fin})) {
             return false;
+        }
     }
     tenu_.DonneAgent()->RemplaceEtReselectionne(UniChaine(texte));
     // That call is not waited for: what the document then shows is the answer.

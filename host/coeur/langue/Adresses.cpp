@@ -30,8 +30,9 @@ bool PeutEtreTechnique(QStringRef const& morceau) {
 } // namespace
 
 bool EstTechnique(QStringRef const& morceau) {
-    if (!PeutEtreTechnique(morceau))
+    if (!PeutEtreTechnique(morceau)) {
         return false;
+    }
     // The names of domains are few on purpose: "fin.Le" is a missing space, not an address.
     static QRegularExpression const technique(
         QStringLiteral("\\w://"                                 // https://…

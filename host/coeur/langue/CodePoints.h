@@ -15,8 +15,10 @@ struct CodePoint {
 /// of a pair standing alone, or cut off by `limite`, is a character of one unit with its own code.
 inline CodePoint LisCodePoint(QString const& texte, int position, int limite) {
     QChar const unite = texte.at(position);
-    if (unite.isHighSurrogate() && position + 1 < limite && texte.at(position + 1).isLowSurrogate())
+    if (unite.isHighSurrogate() && position + 1 < limite &&
+        texte.at(position + 1).isLowSurrogate()) {
         return {QChar::surrogateToUcs4(unite, texte.at(position + 1)), 2};
+    }
     return {unite.unicode(), 1};
 }
 

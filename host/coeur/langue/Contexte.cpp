@@ -21,8 +21,9 @@ Contexte DonneContexte(QString const& texte, int debut, int fin, int largeur) {
     int gauche = std::max(debut - largeur, 0);
     if (gauche > 0) {
         int mot = gauche;
-        while (mot < debut && !texte.at(mot - 1).isSpace())
+        while (mot < debut && !texte.at(mot - 1).isSpace()) {
             ++mot;
+        }
         gauche = mot < debut ? mot : gauche;
         gauche += CoupePaire(texte, gauche) ? 1 : 0;
     }
@@ -30,8 +31,9 @@ Contexte DonneContexte(QString const& texte, int debut, int fin, int largeur) {
     int droite = std::min(fin + largeur, longueur);
     if (droite < longueur) {
         int mot = droite;
-        while (mot > fin && !texte.at(mot).isSpace())
+        while (mot > fin && !texte.at(mot).isSpace()) {
             --mot;
+        }
         droite = mot > fin ? mot : droite;
         droite -= CoupePaire(texte, droite) ? 1 : 0;
     }
@@ -50,12 +52,13 @@ QString PourTerminal(QString const& texte) {
             categorie == QChar::Separator_Line || categorie == QChar::Separator_Paragraph ||
             (point.code >= 0x202A && point.code <= 0x202E) ||
             (point.code >= 0x2066 && point.code <= 0x2069);
-        if (point.code == '\t')
+        if (point.code == '\t') {
             resultat += QLatin1Char(' ');
-        else if (dangereux)
+        } else if (dangereux) {
             resultat += QChar(0xB7);
-        else if (point.code != 0xAD)
+        } else if (point.code != 0xAD) {
             resultat += texte.midRef(i, point.taille);
+        }
         i += point.taille;
     }
     return resultat;

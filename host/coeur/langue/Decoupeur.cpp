@@ -44,17 +44,20 @@ bool EstNombreRomain(QString const& forme) {
 
 /// Can a French or English dictionary judge this word at all?
 bool EstJugeable(QString const& texte, Mot const& mot) {
-    if (mot.fin - mot.debut > kLongueurMax)
+    if (mot.fin - mot.debut > kLongueurMax) {
         return false;
+    }
     int lettres = 0;
     for (int i = mot.debut; i < mot.fin;) {
         CodePoint const point = LisCodePoint(texte, i, mot.fin);
-        if (QChar::isDigit(point.code) || point.code == kPointMedian)
+        if (QChar::isDigit(point.code) || point.code == kPointMedian) {
             return false;
+        }
         if (EstLettre(point.code)) {
             auto const ecriture = QChar::script(point.code);
-            if (ecriture != QChar::Script_Latin && ecriture != QChar::Script_Common)
+            if (ecriture != QChar::Script_Latin && ecriture != QChar::Script_Common) {
                 return false;
+            }
             ++lettres;
         }
         i += point.taille;
@@ -70,22 +73,25 @@ int TrouveFin(QString const& texte, int debut, int limite) {
         CodePoint const point = LisCodePoint(texte, i, limite);
         if (EstCorps(point.code)) {
             i += point.taille;
-            if (point.code != kCesureConditionnelle)
+            if (point.code != kCesureConditionnelle) {
                 fin = i; // a soft hyphen at the very end is not the word's
+            }
             continue;
         }
         bool const suivi = i + point.taille < limite &&
                            EstLettre(LisCodePoint(texte, i + point.taille, limite).code);
-        if (!EstLien(point.code) || !suivi)
+        if (!EstLien(point.code) || !suivi) {
             break;
+        }
         i += point.taille;
     }
     return fin;
 }
 
 void DecoupeMorceau(QString const& texte, int debut, int fin, std::vector<Mot>& mots) {
-    if (EstTechnique(texte.midRef(debut, fin - debut)))
+    if (EstTechnique(texte.midRef(debut, fin - debut))) {
         return;
+    }
     for (int i = debut; i < fin;) {
         CodePoint const point = LisCodePoint(texte, i, fin);
         if (!EstLettre(point.code) && !QChar::isDigit(point.code)) {
@@ -93,8 +99,9 @@ void DecoupeMorceau(QString const& texte, int debut, int fin, std::vector<Mot>& 
             continue;
         }
         Mot const mot{i, TrouveFin(texte, i, fin)};
-        if (EstJugeable(texte, mot))
+        if (EstJugeable(texte, mot)) {
             mots.push_back(mot);
+        }
         i = mot.fin;
     }
 }
@@ -121,14 +128,16 @@ QString DonneForme(QString const& brut) {
     QString forme;
     forme.reserve(brut.size());
     for (QChar const unite : brut) {
-        if (unite.unicode() == kCesureConditionnelle)
+        if (unite.unicode() == kCesureConditionnelle) {
             continue;
-        if (EstApostrophe(unite))
+        }
+        if (EstApostrophe(unite)) {
             forme += QLatin1Char('\'');
-        else if (EstTraitDUnion(unite))
+        } else if (EstTraitDUnion(unite)) {
             forme += QLatin1Char('-');
-        else
+        } else {
             forme += unite;
+        }
     }
     return forme.normalized(QString::NormalizationForm_C);
 }

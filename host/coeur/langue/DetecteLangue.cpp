@@ -28,8 +28,9 @@ bool EstMotOutil(QString const& forme, Langue langue) {
 }
 
 int DonnePoints(QString const& forme, Lexique& lexique) {
-    if (!lexique.Connait(forme))
+    if (!lexique.Connait(forme)) {
         return 0;
+    }
     return EstMotOutil(forme, lexique.DonneLangue()) ? kPoidsMotOutil : 1;
 }
 
@@ -40,15 +41,17 @@ bool DetecteLangue::Compte(QString const& texte) {
         QString const forme = DonneForme(texte.mid(mot.debut, mot.fin - mot.debut));
         pointsFrancais_ += DonnePoints(forme, francais_);
         pointsAnglais_ += DonnePoints(forme, anglais_);
-        if (++mots_ >= kMotsSuffisants)
+        if (++mots_ >= kMotsSuffisants) {
             return true;
+        }
     }
     return false;
 }
 
 std::optional<Langue> DetecteLangue::DonneLangue() const {
-    if (pointsFrancais_ == pointsAnglais_)
+    if (pointsFrancais_ == pointsAnglais_) {
         return std::nullopt;
+    }
     return pointsFrancais_ > pointsAnglais_ ? Langue::Francais : Langue::Anglais;
 }
 

@@ -21,45 +21,53 @@ DictionnaireHunspell::DictionnaireHunspell(Langue langue, FichiersDictionnaire c
     : langue_(langue)
     , hunspell_(std::make_unique<Hunspell>(fichiers.affixes.c_str(), fichiers.mots.c_str())) {
     QByteArray codage(hunspell_->get_dict_encoding().c_str());
-    if (codage.startsWith("microsoft-"))
+    if (codage.startsWith("microsoft-")) {
         codage.remove(0, 10); // Hunspell's own prefix; the rest is a usual name
+    }
     codec_ = QTextCodec::codecForName(codage);
-    if (codec_ == nullptr)
+    if (codec_ == nullptr) {
         throw ErreurHote(kSortieDictionnaire, Tr("Codage {1} inconnu dans le dictionnaire {2}.",
                                                  codage.toStdString(), fichiers.affixes));
+    }
 }
 
 DictionnaireHunspell::~DictionnaireHunspell() = default;
 
 bool DictionnaireHunspell::Encode(QString const& forme, std::string& octets) const {
-    if (!codec_->canEncode(forme))
+    if (!codec_->canEncode(forme)) {
         return false;
+    }
     octets = codec_->fromUnicode(forme).toStdString();
     return true;
 }
 
 bool DictionnaireHunspell::Connait(QString const& forme) {
     auto const memoire = connus_.constFind(forme);
-    if (memoire != connus_.constEnd())
+    if (memoire != connus_.constEnd()) {
         return *memoire;
+    }
     std::string octets;
     bool const connu = Encode(forme, octets) && hunspell_->spell(octets);
-    if (connus_.size() >= kMemoireMax)
+    if (connus_.size() >= kMemoireMax) {
         connus_.clear();
+    }
     connus_.insert(forme, connu);
     return connu;
 }
 
 QStringList DictionnaireHunspell::Suggere(QString const& forme) {
     auto const memoire = suggestions_.constFind(forme);
-    if (memoire != suggestions_.constEnd())
+    if (memoire != suggestions_.constEnd()) {
         return *memoire;
+    }
     QStringList suggestions;
     std::string octets;
-    if (Encode(forme, octets))
+    if (Encode(forme, octets)) {
         suggestions = Decode(hunspell_->suggest(octets), forme);
-    if (suggestions_.size() >= kMemoireMax)
+    }
+    if (suggestions_.size() >= kMemoireMax) {
         suggestions_.clear();
+    }
     suggestions_.insert(forme, suggestions);
     return suggestions;
 }
@@ -74,8 +82,9 @@ QStringList DictionnaireHunspell::Decode(std::vector<std::string> const& mots,
     QStringList decodes;
     for (std::string const& mot : mots) {
         QString const texte = codec_->toUnicode(mot.data(), static_cast<int>(mot.size()));
-        if (!texte.isEmpty() && texte != sauf && !decodes.contains(texte))
+        if (!texte.isEmpty() && texte != sauf && !decodes.contains(texte)) {
             decodes.append(texte);
+        }
     }
     return decodes;
 }
@@ -83,13 +92,14 @@ QStringList DictionnaireHunspell::Decode(std::vector<std::string> const& mots,
 std::unique_ptr<Lexique> OuvreDictionnaire(Langue langue,
                                            std::vector<std::string> const& dossiers) {
     auto const fichiers = LocaliseDictionnaire(langue, dossiers);
-    if (!fichiers)
+    if (!fichiers) {
         throw ErreurHote(
             kSortieDictionnaire,
             langue == Langue::Francais
                 ? Tr("Dictionnaire français introuvable : installez le paquet {1}.", "hunspell-fr")
                 : Tr("Dictionnaire anglais introuvable : installez le paquet {1}.",
                      "hunspell-en-us"));
+    }
     return std::make_unique<DictionnaireHunspell>(langue, *fichiers);
 }
 

@@ -21,13 +21,15 @@ std::vector<std::string> DonneDossiersDictionnaires() {
     if (char const* const chemins = std::getenv("DICPATH")) {
         std::istringstream flux(chemins);
         for (std::string dossier; std::getline(flux, dossier, ':');) {
-            if (!dossier.empty())
+            if (!dossier.empty()) {
                 dossiers.push_back(dossier);
+            }
         }
     }
     for (char const* dossier : {"/usr/share/hunspell", "/usr/local/share/hunspell",
-                                "/usr/share/myspell", "/usr/share/myspell/dicts"})
+                                "/usr/share/myspell", "/usr/share/myspell/dicts"}) {
         dossiers.emplace_back(dossier);
+    }
     return dossiers;
 }
 
@@ -40,8 +42,9 @@ std::optional<FichiersDictionnaire> LocaliseDictionnaire(Langue langue,
     for (std::string const& dossier : dossiers) {
         for (char const* nom : noms) {
             std::string const base = dossier + '/' + nom;
-            if (EstLisible(base + ".aff") && EstLisible(base + ".dic"))
+            if (EstLisible(base + ".aff") && EstLisible(base + ".dic")) {
                 return FichiersDictionnaire{base + ".aff", base + ".dic"};
+            }
         }
     }
     return std::nullopt;

@@ -17,11 +17,13 @@ constexpr ushort kApostropheCourbe = 0x2019;
 /// Does the word touch a run that is not to be proofed? `plage` moves forward with the
 /// words, so the whole text costs one pass over the runs.
 bool EstExclu(Mot const& mot, Orthographe::Plages const& plages, std::size_t& plage) {
-    while (plage < plages.size() && plages[plage].fin <= mot.debut)
+    while (plage < plages.size() && plages[plage].fin <= mot.debut) {
         ++plage;
+    }
     for (std::size_t i = plage; i < plages.size() && plages[i].debut < mot.fin; ++i) {
-        if ((plages[i].attribut & kStyleNonCorrige) != 0)
+        if ((plages[i].attribut & kStyleNonCorrige) != 0) {
             return true;
+        }
     }
     return false;
 }
@@ -39,8 +41,9 @@ bool EstElision(QString const& forme) {
 }
 
 bool CommenceParUneVoyelle(QString const& forme) {
-    if (forme.isEmpty())
+    if (forme.isEmpty()) {
         return false;
+    }
     QChar const initiale = forme.normalized(QString::NormalizationForm_D).at(0).toLower();
     return QStringLiteral("aeiouyhœæ").contains(initiale);
 }
@@ -51,16 +54,18 @@ std::vector<Faute> Orthographe::Cherche(QString const& texte, Plages const& plag
     std::vector<Faute> fautes;
     std::size_t plage = 0;
     for (Mot const& mot : DecoupeEnMots(texte)) {
-        if (!EstExclu(mot, plages, plage))
+        if (!EstExclu(mot, plages, plage)) {
             Juge(texte, mot.debut, mot.fin, fautes);
+        }
     }
     return fautes;
 }
 
 QStringList Orthographe::Suggere(Faute const& faute, bool apostropheCourbe) const {
     QStringList suggestions = lexique_.Suggere(DonneForme(faute.mot));
-    if (apostropheCourbe)
+    if (apostropheCourbe) {
         suggestions.replaceInStrings(QStringLiteral("'"), QString(QChar(kApostropheCourbe)));
+    }
     suggestions.removeDuplicates();
     suggestions.removeAll(faute.mot);
     return suggestions;
@@ -71,14 +76,16 @@ bool Orthographe::AUneApostropheCourbe(QString const& texte) {
 }
 
 void Orthographe::Juge(QString const& texte, int debut, int fin, std::vector<Faute>& fautes) const {
-    if (Connait(texte, debut, fin))
+    if (Connait(texte, debut, fin)) {
         return;
+    }
     bool const francais = lexique_.DonneLangue() == Langue::Francais;
     int const reste = francais ? SauteElision(texte, debut, fin) : debut;
     int const racine = francais ? fin : OtePossessif(texte, debut, fin);
     if (reste != debut || racine != fin) {
-        if (racine - reste > 1)
+        if (racine - reste > 1) {
             Juge(texte, reste, racine, fautes);
+        }
         return;
     }
     // Not known as a whole: each part between hyphens for itself.
@@ -88,8 +95,9 @@ void Orthographe::Juge(QString const& texte, int debut, int fin, std::vector<Fau
             auto const trait =
                 std::find_if(texte.cbegin() + partie, texte.cbegin() + fin, EstTraitDUnion);
             int const finPartie = static_cast<int>(trait - texte.cbegin());
-            if (finPartie - partie > 1)
+            if (finPartie - partie > 1) {
                 Juge(texte, partie, finPartie, fautes);
+            }
             partie = finPartie + 1;
         }
         return;
@@ -105,8 +113,9 @@ int Orthographe::SauteElision(QString const& texte, int debut, int fin) const {
     auto const apostrophe =
         std::find_if(texte.cbegin() + debut, texte.cbegin() + fin, EstApostrophe);
     int const place = static_cast<int>(apostrophe - texte.cbegin());
-    if (place == fin || !EstElision(DonneForme(texte.mid(debut, place - debut))))
+    if (place == fin || !EstElision(DonneForme(texte.mid(debut, place - debut)))) {
         return debut;
+    }
     // "l'maison" is wrong as a whole, and its second half alone would not show it.
     return CommenceParUneVoyelle(DonneForme(texte.mid(place + 1, fin - place - 1))) ? place + 1
                                                                                     : debut;

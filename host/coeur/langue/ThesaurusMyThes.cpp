@@ -21,8 +21,9 @@ namespace {
 /// "large (similar term)": the word and what is said of it.
 Synonyme Separe(QString const& brut) {
     int const ouvre = brut.lastIndexOf(QLatin1String(" ("));
-    if (ouvre <= 0 || !brut.endsWith(QLatin1Char(')')))
+    if (ouvre <= 0 || !brut.endsWith(QLatin1Char(')'))) {
         return {brut.trimmed(), {}};
+    }
     return {brut.left(ouvre).trimmed(), brut.mid(ouvre + 2).chopped(1)};
 }
 
@@ -42,19 +43,22 @@ ThesaurusMyThes::ThesaurusMyThes(FichiersThesaurus const& fichiers)
     : mythes_(std::make_unique<MyThes>(fichiers.index.c_str(), fichiers.donnees.c_str())) {
     char const* const codage = mythes_->get_th_encoding();
     codec_ = codage == nullptr ? nullptr : QTextCodec::codecForName(codage);
-    if (codec_ == nullptr)
+    if (codec_ == nullptr) {
         throw ErreurHote(kSortieDictionnaire,
                          Tr("Le dictionnaire de synonymes {1} ne se lit pas.", fichiers.donnees));
+    }
 }
 
 ThesaurusMyThes::~ThesaurusMyThes() = default;
 
 std::vector<Sens> ThesaurusMyThes::Cherche(QString const& entree) {
-    if (entree.isEmpty() || entree.contains(QChar(0)) || !codec_->canEncode(entree))
+    if (entree.isEmpty() || entree.contains(QChar(0)) || !codec_->canEncode(entree)) {
         return {};
+    }
     std::string const octets = codec_->fromUnicode(entree).toStdString();
-    if (octets.size() >= MAX_WD_LEN)
+    if (octets.size() >= MAX_WD_LEN) {
         return {}; // the library's own bound
+    }
     mentry* bruts = nullptr;
     int const nombre = mythes_->Lookup(octets.c_str(), static_cast<int>(octets.size()), &bruts);
     auto const decode = [this](char const* texte) {
@@ -71,13 +75,15 @@ std::vector<Sens> ThesaurusMyThes::Cherche(QString const& entree) {
                 std::any_of(lu.synonymes.begin(), lu.synonymes.end(), [&](Synonyme const& autre) {
                     return autre.mot == synonyme.mot && autre.note == synonyme.note;
                 });
-            if (!connu)
+            if (!connu) {
                 lu.synonymes.push_back(synonyme);
+            }
         }
         sens.push_back(std::move(lu));
     }
-    if (bruts != nullptr)
+    if (bruts != nullptr) {
         mythes_->CleanUpAfterLookup(&bruts, nombre);
+    }
     return sens;
 }
 
@@ -96,9 +102,10 @@ std::unique_ptr<Thesaurus> OuvreThesaurus(Langue langue, std::vector<std::string
     for (std::string const& dossier : dossiers) {
         for (char const* nom : noms) {
             std::string const base = dossier + '/' + nom;
-            if (EstLisible(base + ".idx") && EstLisible(base + ".dat"))
+            if (EstLisible(base + ".idx") && EstLisible(base + ".dat")) {
                 return std::make_unique<ThesaurusMyThes>(
                     FichiersThesaurus{base + ".idx", base + ".dat"});
+            }
         }
     }
     throw ErreurHote(

@@ -25,8 +25,9 @@ int Arguments::DonneEntier(char const* nom) const {
     bool const entier = valeur.isDouble() && std::trunc(nombre) == nombre &&
                         nombre >= std::numeric_limits<int>::min() &&
                         nombre <= std::numeric_limits<int>::max();
-    if (!entier)
+    if (!entier) {
         throw DonneErreurType(nom, Tr("un entier de 32 bits"));
+    }
     return static_cast<int>(nombre);
 }
 
@@ -36,8 +37,9 @@ int Arguments::DonneEntier(char const* nom, int defaut) const {
 
 bool Arguments::DonneBooleen(char const* nom) const {
     QJsonValue const valeur = Trouve(nom);
-    if (!valeur.isBool())
+    if (!valeur.isBool()) {
         throw DonneErreurType(nom, Tr("vrai ou faux"));
+    }
     return valeur.toBool();
 }
 
@@ -47,8 +49,9 @@ bool Arguments::DonneBooleen(char const* nom, bool defaut) const {
 
 QString Arguments::DonneTexte(char const* nom) const {
     QJsonValue const valeur = Trouve(nom);
-    if (!valeur.isString())
+    if (!valeur.isString()) {
         throw DonneErreurType(nom, Tr("un texte"));
+    }
     return valeur.toString();
 }
 
@@ -58,29 +61,34 @@ QString Arguments::DonneTexte(char const* nom, QString const& defaut) const {
 
 Arguments Arguments::DonneObjet(char const* nom) const {
     QJsonValue const valeur = Trouve(nom);
-    if (!valeur.isObject())
+    if (!valeur.isObject()) {
         throw DonneErreurType(nom, Tr("un objet"));
+    }
     return Arguments(valeur.toObject());
 }
 
 std::vector<Arguments> Arguments::DonneObjets(char const* nom) const {
     std::vector<Arguments> objets;
-    if (!Contient(nom))
+    if (!Contient(nom)) {
         return objets;
+    }
     QJsonValue const valeur = Trouve(nom);
-    if (!valeur.isArray())
+    if (!valeur.isArray()) {
         throw DonneErreurType(nom, Tr("un tableau d’objets"));
+    }
     for (QJsonValue const element : valeur.toArray()) {
-        if (!element.isObject())
+        if (!element.isObject()) {
             throw DonneErreurType(nom, Tr("un tableau d’objets"));
+        }
         objets.emplace_back(element.toObject());
     }
     return objets;
 }
 
 QJsonValue Arguments::Trouve(char const* nom) const {
-    if (!Contient(nom))
+    if (!Contient(nom)) {
         throw ErreurRequete(Tr("Il manque l’argument « {1} ».", nom));
+    }
     return objet_.value(QLatin1String(nom));
 }
 

@@ -23,9 +23,10 @@ namespace {
 /// where it does not break the dialogue.
 int ReserveSortie() {
     int const copie = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 3);
-    if (copie < 0 || dup2(STDERR_FILENO, STDOUT_FILENO) < 0)
+    if (copie < 0 || dup2(STDERR_FILENO, STDOUT_FILENO) < 0) {
         throw ErreurHote(kSortieInterne,
                          Tr("La sortie ne s’écrit pas : {1}", std::strerror(errno)));
+    }
     return copie;
 }
 
@@ -43,11 +44,13 @@ std::size_t LisEntree(std::array<char, 65536>& octets) {
     for (;;) {
         AttendsEntree();
         ssize_t const nombre = read(STDIN_FILENO, octets.data(), octets.size());
-        if (nombre >= 0)
+        if (nombre >= 0) {
             return static_cast<std::size_t>(nombre);
-        if (errno != EINTR && errno != EAGAIN)
+        }
+        if (errno != EINTR && errno != EAGAIN) {
             throw ErreurHote(kSortieInterne,
                              Tr("L’entrée ne se lit pas : {1}", std::strerror(errno)));
+        }
     }
 }
 
@@ -58,13 +61,15 @@ void Dialogue(Pilote& pilote, Sortie& sortie) {
     while (!fini && !sortie.EstRompue()) {
         std::size_t const nombre = LisEntree(octets);
         fini = nombre == 0;
-        if (fini)
+        if (fini) {
             lecteur.Termine();
-        else
+        } else {
             lecteur.Ajoute(octets.data(), nombre);
+        }
         while (auto const ligne = lecteur.Suivante()) {
-            if (!sortie.Ecris(pilote.Reponds(*ligne)))
+            if (!sortie.Ecris(pilote.Reponds(*ligne))) {
                 break;
+            }
         }
     }
 }

@@ -15,8 +15,9 @@ std::optional<LecteurDeLignes::Ligne> LecteurDeLignes::Suivante() {
     }
     lus_ = attente_.size();
     bool const derniere = termine_ && (deborde_ || !attente_.isEmpty());
-    if (saut < 0 && !derniere)
+    if (saut < 0 && !derniere) {
         return std::nullopt;
+    }
     int const longueur = saut < 0 ? attente_.size() : saut;
     bool const tropLongue = deborde_ || longueur > limite_;
     Ligne ligne{tropLongue ? QByteArray() : attente_.left(longueur), tropLongue};

@@ -13,19 +13,22 @@ void ExecuteOperation(Banc& banc, QString const& nom, Arguments const& arguments
     }
     auto const operationAgent = TrouveOperationAgent(nom);
     auto const operationZone = TrouveOperationZone(nom);
-    if (operationAgent == nullptr && operationZone == nullptr)
+    if (operationAgent == nullptr && operationZone == nullptr) {
         throw ErreurRequete(Tr("Opération inconnue : {1}", nom));
+    }
     InterfaceAgentTexteur* const agent = banc.tenu.DonneAgent();
-    if (agent == nullptr)
+    if (agent == nullptr) {
         throw ErreurRequete(Tr("{1} demande un agent : CreeAgentTexteur d’abord.", nom));
+    }
     if (operationAgent != nullptr) {
         operationAgent(*agent, banc, arguments, resultat);
         return;
     }
     int const rang = arguments.DonneEntier("zone");
     InterfaceZoneDeTexte* const zone = banc.tenu.DonneZones().DonneZone(rang);
-    if (zone == nullptr)
+    if (zone == nullptr) {
         throw ErreurRequete(Tr("Il n’y a pas de zone {1}.", rang));
+    }
     operationZone(*zone, arguments, resultat);
 }
 

@@ -43,14 +43,16 @@ void Mode(Agent& agent, Banc& /*banc*/, Arguments const& a, EcritureJson& result
 template <bool (Agent::*Operation)(CollectionZonesDeTexte&)>
 void Zones(Agent& agent, Banc& banc, Arguments const& a, EcritureJson& resultat) {
     auto& zones = banc.tenu.DonneZones();
-    if (a.DonneBooleen("vide", false))
+    if (a.DonneBooleen("vide", false)) {
         zones.Vide();
+    }
     bool const ok = (agent.*Operation)(zones);
     resultat.Objet();
     resultat.Cle("ok").Booleen(ok);
     resultat.Cle("zones").Tableau();
-    for (int i = 0; i < zones.DonneNombre(); ++i)
+    for (int i = 0; i < zones.DonneNombre(); ++i) {
         EcrisZone(*zones.DonneZone(i), resultat);
+    }
     resultat.FinTableau();
     resultat.FinObjet();
 }
@@ -115,10 +117,11 @@ void RemplaceEtReselectionne(Agent& agent, Banc& /*banc*/, Arguments const& a,
 
 void DonneAgentTexteur(Agent& agent, Banc& /*banc*/, Arguments const& /*arguments*/,
                        EcritureJson& resultat) {
-    if (agent.DonneAgentTexteur() == nullptr)
+    if (agent.DonneAgentTexteur() == nullptr) {
         resultat.Nul();
-    else
+    } else {
         resultat.Booleen(true);
+    }
 }
 
 struct Entree {
@@ -178,8 +181,9 @@ constexpr Entree kTable[] = {
 
 OperationAgent TrouveOperationAgent(QString const& nom) {
     for (Entree const& entree : kTable) {
-        if (nom == QLatin1String(entree.nom))
+        if (nom == QLatin1String(entree.nom)) {
             return entree.operation;
+        }
     }
     return nullptr;
 }

@@ -33,10 +33,11 @@ void NomsTexteurs(Banc& banc, Arguments const& arguments, EcritureJson& resultat
 
 /// An object that the contract says nothing about beyond null: told, not touched.
 void EcrisObjet(InterfaceTexteur const* objet, EcritureJson& resultat) {
-    if (objet == nullptr)
+    if (objet == nullptr) {
         resultat.Nul();
-    else
+    } else {
         resultat.Booleen(true);
+    }
 }
 
 void Texteur(Banc& banc, Arguments const& /*arguments*/, EcritureJson& resultat) {
@@ -70,8 +71,9 @@ void CreeAgent(Banc& banc, Arguments const& arguments, EcritureJson& resultat) {
 }
 
 void Detruis(Banc& banc, Arguments const& /*arguments*/, EcritureJson& resultat) {
-    if (banc.tenu.DonneAgent() == nullptr)
+    if (banc.tenu.DonneAgent() == nullptr) {
         throw ErreurRequete(Tr("{1} demande un agent : CreeAgentTexteur d’abord.", "Detruis"));
+    }
     banc.tenu.Detruis();
     resultat.Nul();
 }
@@ -94,8 +96,9 @@ constexpr Entree kTable[] = {
 
 OperationExport TrouveOperationExport(QString const& nom) {
     for (Entree const& entree : kTable) {
-        if (nom == QLatin1String(entree.nom))
+        if (nom == QLatin1String(entree.nom)) {
             return entree.operation;
+        }
     }
     return nullptr;
 }

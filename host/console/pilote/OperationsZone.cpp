@@ -87,8 +87,9 @@ constexpr Entree kTable[] = {
 
 OperationZone TrouveOperationZone(QString const& nom) {
     for (Entree const& entree : kTable) {
-        if (nom == QLatin1String(entree.nom))
+        if (nom == QLatin1String(entree.nom)) {
             return entree.operation;
+        }
     }
     return nullptr;
 }

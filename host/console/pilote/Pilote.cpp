@@ -8,15 +8,18 @@
 namespace hote {
 
 std::string Pilote::Reponds(LecteurDeLignes::Ligne const& ligne) {
-    if (ligne.tropLongue)
+    if (ligne.tropLongue) {
         return DonneErreur({}, Tr("Ligne de plus de {1} octets.", kLigneMax));
+    }
     QJsonParseError erreur;
     QJsonDocument const json = QJsonDocument::fromJson(ligne.octets, &erreur);
-    if (erreur.error != QJsonParseError::NoError)
+    if (erreur.error != QJsonParseError::NoError) {
         return DonneErreur({}, Tr("La ligne n’est pas du JSON : {1} (octet {2})",
                                   erreur.errorString(), erreur.offset));
-    if (!json.isObject())
+    }
+    if (!json.isObject()) {
         return DonneErreur({}, Tr("La requête n’est pas un objet."));
+    }
     QJsonObject const requete = json.object();
     return Execute(requete.value(QLatin1String("op")), Arguments(requete));
 }
@@ -43,10 +46,11 @@ std::string Pilote::DonneErreur(QJsonValue const& op, std::string const& message
     EcritureJson reponse;
     reponse.Objet();
     reponse.Cle("op");
-    if (op.isString())
+    if (op.isString()) {
         reponse.Texte(op.toString());
-    else
+    } else {
         reponse.Nul();
+    }
     reponse.Cle("erreur").Texte(QString::fromStdString(message));
     if (!alertes_.EstVide()) {
         reponse.Cle("alertes");

@@ -16,11 +16,13 @@ class UnloadingWithCallsUnderWay : public testing::TestWithParam<bool> {
     int Fais(std::string const& mots) {
         std::vector<std::string> commande{CHEMIN_DECHARGEUR, CHEMIN_GREFFON, bureau.Identifiant(),
                                           std::to_string(bureau.DonneProcessus().Pid())};
-        if (GetParam())
+        if (GetParam()) {
             commande.emplace_back("application");
+        }
         std::istringstream flux(mots);
-        for (std::string mot; flux >> mot;)
+        for (std::string mot; flux >> mot;) {
             commande.push_back(mot);
+        }
         Processus hote(commande,
                        {{"HOME", maison.Chemin().string()}, {"QT_QPA_PLATFORM", "offscreen"}});
         return hote.Attends();

@@ -35,27 +35,35 @@ class Hote {
         , compagnon_(compagnon) {}
 
     bool Fais(std::string const& mot) {
-        if (mot == "charge")
+        if (mot == "charge") {
             return (bibliotheque_ = dlopen(greffon_.c_str(), RTLD_NOW | RTLD_LOCAL)) != nullptr;
-        if (mot == "decharge")
+        }
+        if (mot == "decharge") {
             return dlclose(bibliotheque_) == 0 &&
                    dlopen(greffon_.c_str(), RTLD_NOW | RTLD_NOLOAD) == nullptr;
-        if (mot == "agent")
+        }
+        if (mot == "agent") {
             return CreeAgent();
+        }
         if (mot == "detruis") {
             agent_.reset();
             return true;
         }
-        if (mot == "fige")
+        if (mot == "fige") {
             return ::kill(compagnon_, SIGSTOP) == 0;
-        if (mot == "degele")
+        }
+        if (mot == "degele") {
             return ::kill(compagnon_, SIGCONT) == 0;
-        if (mot == "tue")
+        }
+        if (mot == "tue") {
             return ::kill(compagnon_, SIGKILL) == 0;
-        if (mot == "appels")
+        }
+        if (mot == "appels") {
             return Appelle();
-        if (mot == "reponses")
+        }
+        if (mot == "reponses") {
             return AttendsReponses();
+        }
         return mot == "erreurs" && AttendsErreurs();
     }
 
@@ -105,10 +113,12 @@ class Hote {
                             QString::fromStdString(identifiant_.substr(0, identifiant_.find('~'))));
         for (;;) {
             auto const reponse = QDBusConnection::sessionBus().call(question);
-            if (reponse.type() != QDBusMessage::ReplyMessage)
+            if (reponse.type() != QDBusMessage::ReplyMessage) {
                 return false;
-            if (!reponse.arguments().value(0).toBool())
+            }
+            if (!reponse.arguments().value(0).toBool()) {
                 return true;
+            }
         }
     }
 
@@ -122,17 +132,19 @@ class Hote {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc < 4)
+    if (argc < 4) {
         return 2;
+    }
     std::unique_ptr<QCoreApplication> application;
     // Not destroyed: the process may end with its agent, as a host's does.
     auto* const hote = new Hote(argv[1], argv[2], static_cast<pid_t>(std::atoi(argv[3])));
     for (int i = 4; i < argc; ++i) {
         std::string const mot = argv[i];
-        if (mot == "application")
+        if (mot == "application") {
             application = std::make_unique<QCoreApplication>(argc, argv);
-        else if (!hote->Fais(mot))
+        } else if (!hote->Fais(mot)) {
             std::exit(100 + i); // which word it was
+        }
     }
     std::exit(0);
 }

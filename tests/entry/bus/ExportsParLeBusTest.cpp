@@ -24,8 +24,9 @@ class Greffon {
   public:
     Greffon()
         : bibliotheque_(dlopen(CHEMIN_GREFFON, RTLD_NOW | RTLD_LOCAL)) {
-        if (bibliotheque_ == nullptr)
+        if (bibliotheque_ == nullptr) {
             throw std::runtime_error(dlerror());
+        }
     }
     ~Greffon() { dlclose(bibliotheque_); }
     Greffon(Greffon const&) = delete;

@@ -51,8 +51,9 @@ void Charge(char const* chemin) {
 }
 
 void Decharge() {
-    if (dlclose(leGreffon) != 0)
+    if (dlclose(leGreffon) != 0) {
         std::exit(4);
+    }
 }
 
 /// Resident memory, in KiB.
@@ -60,8 +61,9 @@ long Memoire() {
     std::ifstream etat("/proc/self/status");
     for (std::string mot; etat >> mot;) {
         long valeur = 0;
-        if (mot == "VmRSS:" && etat >> valeur)
+        if (mot == "VmRSS:" && etat >> valeur) {
             return valeur;
+        }
     }
     return 0;
 }
@@ -71,8 +73,9 @@ void Cent(char const* chemin) {
     for (int i = 0; i < 100; ++i) {
         Charge(chemin);
         Decharge();
-        if (i == 19)
+        if (i == 19) {
             apresVingt = Memoire();
+        }
     }
     // What leaks an application object or a library each time would show; what the allocator keeps
     // does not count, and a sanitizer's keeps much.
@@ -114,31 +117,32 @@ int main(int argc, char** argv) {
     std::unique_ptr<QCoreApplication> application;
     for (int i = 2; i < argc; ++i) {
         std::string const mot = argv[i];
-        if (mot == "application")
+        if (mot == "application") {
             application = std::make_unique<QApplication>(argc, argv);
-        else if (mot == "console")
+        } else if (mot == "console") {
             application = std::make_unique<QCoreApplication>(argc, argv);
-        else if (mot == "charge")
+        } else if (mot == "charge") {
             Charge(argv[1]);
-        else if (mot == "charge-leve")
+        } else if (mot == "charge-leve") {
             ChargeCeQuiLeve(argv[1]);
-        else if (mot == "decharge")
+        } else if (mot == "decharge") {
             Decharge();
-        else if (mot == "cent")
+        } else if (mot == "cent") {
             Cent(argv[1]);
-        else if (mot == "langue1" || mot == "langue2")
+        } else if (mot == "langue1" || mot == "langue2") {
             InitialisationGenerale::InitLePlusTotPossible(mot == "langue1" ? kLangueFrancais
                                                                            : kLangueAnglais);
-        else if (mot == "ressources") {
+        } else if (mot == "ressources") {
             DisRessource(":/fichiers/TexteurEn.mo");
             DisRessource(":/fichiers/TexteurFr.mo");
-        } else if (mot == "noms")
+        } else if (mot == "noms") {
             std::printf("application %s of %s\n", qPrintable(QCoreApplication::applicationName()),
                         qPrintable(QCoreApplication::organizationName()));
-        else if (mot == "sors")
+        } else if (mot == "sors") {
             std::exit(0);
-        else
+        } else {
             return 2;
+        }
         std::printf("-- %s: application %s\n", mot.c_str(),
                     QCoreApplication::instance() == nullptr ? "none"
                     : application && application.get() == QCoreApplication::instance()

@@ -89,9 +89,10 @@ __attribute__((visibility("default"))) eLangue
 eLangueSelonELangueAffichage(eLangueAffichage affichage) {
     auto const langue = Suivante<eLangue (*)(eLangueAffichage)>(
         "_Z28eLangueSelonELangueAffichage16eLangueAffichage")(affichage);
-    if (VientDuGreffon(__builtin_return_address(0))) // the support library calls it too
+    if (VientDuGreffon(__builtin_return_address(0))) { // the support library calls it too
         Dis("eLangueSelonELangueAffichage",
             QString::fromLatin1("(%1) = %2").arg(int(affichage)).arg(int(langue)));
+    }
     return langue;
 }
 
@@ -103,8 +104,9 @@ void InitialisationGenerale::InitLePlusTotPossible(eLangue langue) {
 
 void InitialisationGenerale::InitApresQApp() {
     Dis("InitApresQApp");
-    if (qEnvironmentVariableIsSet("VOCALYNE_LEVE_AU_CHARGEMENT"))
+    if (qEnvironmentVariableIsSet("VOCALYNE_LEVE_AU_CHARGEMENT")) {
         throw std::runtime_error("set-up");
+    }
     Suivante<void (*)()>("_ZN22InitialisationGenerale13InitApresQAppEv")();
 }
 
@@ -112,8 +114,9 @@ __attribute__((visibility("default"))) void InitQApplication() {
     bool const ilYEnAvait = QCoreApplication::instance() != nullptr;
     Dis("InitQApplication");
     Suivante<void (*)()>("_Z16InitQApplicationv")();
-    if (!ilYEnAvait && QCoreApplication::instance() != nullptr)
+    if (!ilYEnAvait && QCoreApplication::instance() != nullptr) {
         qAddPostRoutine([] { Dis("~QApplication"); });
+    }
 }
 
 void StockageReponse::Initialise(DDialogue::eTypStockeur type, UniChaine const& chemin,
@@ -169,8 +172,9 @@ TRACE_PUBLIC bool traceEnregistre(int version, unsigned char const* arbre,
                                   unsigned char const* donnees) __asm__(NOM_ENREGISTRE);
 bool traceEnregistre(int version, unsigned char const* arbre, unsigned char const* noms,
                      unsigned char const* donnees) {
-    if (version == 1) // Qt's own resources are of later layouts
+    if (version == 1) { // Qt's own resources are of later layouts
         Dis("qRegisterResourceData", Entre(QString::number(version)));
+    }
     return Suivante<Registre>(NOM_ENREGISTRE)(version, arbre, noms, donnees);
 }
 
@@ -179,8 +183,9 @@ TRACE_PUBLIC bool traceRetire(int version, unsigned char const* arbre, unsigned 
                               unsigned char const* donnees) __asm__(NOM_RETIRE);
 bool traceRetire(int version, unsigned char const* arbre, unsigned char const* noms,
                  unsigned char const* donnees) {
-    if (version == 1)
+    if (version == 1) {
         Dis("qUnregisterResourceData", Entre(QString::number(version)));
+    }
     return Suivante<Registre>(NOM_RETIRE)(version, arbre, noms, donnees);
 }
 

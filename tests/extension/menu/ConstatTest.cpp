@@ -52,8 +52,9 @@ TEST_P(Diagnostic, EachThingMissingHasASentenceOfItsOwnInTheReportToo) {
                                      HasSubstr(Selon("ne sait pas lire", "cannot read")),
                                      AllOf(HasSubstr("vocalyne-hote"), HasSubstr("/a, /b.")),
                                      HasSubstr("xterm")));
-    for (std::string const& manque : manques)
+    for (std::string const& manque : manques) {
         EXPECT_THAT(Rapport(constat), HasSubstr("• " + manque));
+    }
 }
 
 TEST_P(Diagnostic, WhatTheEnvironmentNamesWronglyIsQuoted) {

@@ -8,8 +8,9 @@
 int LLVMFuzzerTestOneInput(std::uint8_t const* octets, std::size_t taille) {
     // Two bytes a unit: every unit there is, halves of pairs and U+0000 too.
     std::vector<char16_t> unites(taille / 2);
-    if (!unites.empty())
+    if (!unites.empty()) {
         std::memcpy(unites.data(), octets, unites.size() * 2);
+    }
     UniChaine const texte(unites.data(), static_cast<int>(unites.size()));
     IdentificateurDocument const identificateur(texte);
 

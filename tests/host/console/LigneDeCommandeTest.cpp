@@ -59,10 +59,12 @@ TEST(LigneDeCommande, TheLastOfSeveralWins) {
 }
 
 TEST(LigneDeCommande, HelpAndVersionStandAnywhere) {
-    for (char const* ligne : {"--help", "-h", "corrige --help", "documents -h"})
+    for (char const* ligne : {"--help", "-h", "corrige --help", "documents -h"}) {
         EXPECT_EQ(Lis(ligne).commande, OptionsHote::Commande::Aide) << ligne;
-    for (char const* ligne : {"--version", "pilote --version"})
+    }
+    for (char const* ligne : {"--version", "pilote --version"}) {
         EXPECT_EQ(Lis(ligne).commande, OptionsHote::Commande::Version) << ligne;
+    }
 }
 
 TEST(LigneDeCommande, AFilesNameKeepsItsLetters) {

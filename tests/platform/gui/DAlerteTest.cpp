@@ -124,8 +124,9 @@ TEST_F(Alert, AnInformationThatIsClosedWasRead) {
 
 TEST_F(Alert, NoTextIsTakenForMarkup) {
     SurFenetreModale const action([](QMessageBox& boite) {
-        for (auto const* etiquette : boite.findChildren<QLabel*>())
+        for (auto const* etiquette : boite.findChildren<QLabel*>()) {
             EXPECT_EQ(Qt::PlainText, etiquette->textFormat()) << qPrintable(etiquette->text());
+        }
         EXPECT_EQ(QStringLiteral("<i>c</i>"), boite.findChild<QTextEdit*>()->toPlainText());
         Clique(boite, QMessageBox::Ok);
     });

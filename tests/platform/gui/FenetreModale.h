@@ -17,8 +17,9 @@ class SurFenetreModale {
         : action_(std::move(action)) {
         QObject::connect(&minuterie_, &QTimer::timeout, [this] {
             auto* const boite = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (boite == nullptr || !boite->isVisible())
+            if (boite == nullptr || !boite->isVisible()) {
                 return;
+            }
             minuterie_.stop();
             vue_ = true;
             action_(*boite);

@@ -74,8 +74,9 @@ TEST(Base64, EveryLengthGoesThereAndBack) {
     std::mt19937 hasard(7);
     for (std::size_t taille = 0; taille < 300; ++taille) {
         std::string octets(taille, '\0');
-        for (auto& octet : octets)
+        for (auto& octet : octets) {
             octet = static_cast<char>(hasard());
+        }
         EXPECT_EQ(octets, Decode(Encode(octets)));
     }
 }
@@ -83,8 +84,9 @@ TEST(Base64, EveryLengthGoesThereAndBack) {
 TEST(Base64, TextsLongerThanAPieceGoThereAndBack) {
     std::mt19937 hasard(8);
     std::string octets((std::size_t{6} << 20) + 1, '\0');
-    for (auto& octet : octets)
+    for (auto& octet : octets) {
         octet = static_cast<char>(hasard());
+    }
     auto const code = Encode(octets);
     EXPECT_EQ(QByteArray::fromStdString(octets).toBase64().toStdString(), code);
     EXPECT_EQ(octets, Decode(code));
@@ -97,8 +99,9 @@ TEST(Base64, DamagedTextDecodesAsQtDecodesIt) {
     std::uniform_int_distribution<std::size_t> longueur(0, 5000);
     for (int essai = 0; essai < 300; ++essai) {
         std::string texte(longueur(hasard), '\0');
-        for (auto& caractere : texte)
+        for (auto& caractere : texte) {
             caractere = kCaracteres[rang(hasard)];
+        }
         EXPECT_EQ(QByteArray::fromBase64(QByteArray::fromStdString(texte)).toStdString(),
                   Decode(texte));
     }

@@ -26,8 +26,9 @@ struct Case {
 class Modele {
   public:
     explicit Modele(QString const& texte) {
-        for (auto const c : texte)
+        for (auto const c : texte) {
             cases_.push_back({c.unicode(), 0, 0});
+        }
     }
 
     int Longueur() const { return static_cast<int>(cases_.size()); }
@@ -35,17 +36,20 @@ class Modele {
     void MetsAttribut(qint64 debut, qint64 longueur, std::uint16_t attribut) {
         int const plage = attribut != 0 ? NouvellePlage() : 0;
         for (qint64 i = std::max<qint64>(debut, 0);
-             i < std::min<qint64>(debut + longueur, Longueur()); ++i)
+             i < std::min<qint64>(debut + longueur, Longueur()); ++i) {
             cases_[static_cast<std::size_t>(i)] = {cases_[static_cast<std::size_t>(i)].unite,
                                                    attribut, plage};
+        }
     }
 
     bool Remplace(int debut, int longueur, Modele const& autre) {
-        if (debut < 0 || debut > Longueur() || longueur < 0)
+        if (debut < 0 || debut > Longueur() || longueur < 0) {
             return false;
+        }
         longueur = std::min(longueur, Longueur() - debut);
-        if (longueur == 0 && autre.cases_.empty())
+        if (longueur == 0 && autre.cases_.empty()) {
             return true;
+        }
         auto const place = cases_.begin() + debut;
         std::vector<Case> suite(place + longueur, cases_.end());
         cases_.erase(place, cases_.end());
@@ -61,13 +65,15 @@ class Modele {
         Plages plages;
         for (int i = 0; i < Longueur(); ++i) {
             auto const& c = cases_[static_cast<std::size_t>(i)];
-            if (c.plage == 0)
+            if (c.plage == 0) {
                 continue;
+            }
             bool const suit = i > 0 && cases_[static_cast<std::size_t>(i - 1)].plage == c.plage;
-            if (suit)
+            if (suit) {
                 plages.back().fin = i + 1;
-            else
+            } else {
                 plages.push_back({i, i + 1, c.attribut});
+            }
         }
         return plages;
     }
@@ -80,8 +86,9 @@ class Modele {
 
     QString DonneTexte() const {
         QString texte;
-        for (auto const& c : cases_)
+        for (auto const& c : cases_) {
             texte += QChar(c.unite);
+        }
         return texte;
     }
 
@@ -125,8 +132,9 @@ class Hasard {
     }
     QString Texte(int longueurMax) {
         QString texte;
-        for (int reste = Entre(0, longueurMax); reste > 0; --reste)
+        for (int reste = Entre(0, longueurMax); reste > 0; --reste) {
             texte += QChar(static_cast<ushort>(Entre('a', 'z')));
+        }
         return texte;
     }
     std::uint16_t Attribut() { return static_cast<std::uint16_t>(Entre(0, 3)); }
@@ -162,8 +170,9 @@ TEST_P(AttributedStringAgainstAModel, AnswersAlikeAfterEveryOperation) {
         }
         ASSERT_EQ(modele.DonneTexte(), chaine.DonneTexte().VersQString());
         ASSERT_EQ(modele.DonnePlages(), chaine.DonnePlages()) << "round " << tour;
-        for (int i = -2; i < modele.Longueur() + 2; ++i)
+        for (int i = -2; i < modele.Longueur() + 2; ++i) {
             ASSERT_EQ(modele.DonneAttribut(i), chaine.DonneAttribut(i));
+        }
     }
 }
 

@@ -180,9 +180,10 @@ TEST(AttributedString, RunsInDocumentOrderCostConstantTimeEach) {
         for (int essai = 0; essai < 7; ++essai) {
             auto texte = Texte(nombre * 2);
             auto const debut = TempsProcesseur();
-            for (int rang = 0; rang < nombre; ++rang)
+            for (int rang = 0; rang < nombre; ++rang) {
                 texte.MetsAttribut(rang * 2, 1 + rang % 2,
                                    static_cast<std::uint16_t>(1 + rang % 9));
+            }
             meilleure = std::min(meilleure, TempsProcesseur() - debut);
             EXPECT_EQ(static_cast<std::size_t>(nombre), texte.DonnePlages().size());
         }

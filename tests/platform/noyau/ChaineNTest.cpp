@@ -65,13 +65,15 @@ TEST(ChaineN, ThreadsMayConvertAndReleaseAtOnce) {
                 auto const codage =
                     (tour + fil) % 2 == 0 ? UniChaine::kCodageUtf8 : UniChaine::kCodageLatin1;
                 EXPECT_EQ(N(u"abc"), ChaineN("abc", codage));
-                if (tour % 7 == fil)
+                if (tour % 7 == fil) {
                     ChaineN::LibereConvertisseurPourCodage();
+                }
             }
         });
     }
-    for (auto& fil : fils)
+    for (auto& fil : fils) {
         fil.join();
+    }
 }
 
 TEST(ChaineN, UnitsOutsideReadAsZeroAndAreNotChanged) {

@@ -36,18 +36,21 @@ std::uint32_t Mot(Octets const& octets, std::size_t position) {
 /// Takes a catalog as the translation does, and asks it for messages. True when it was taken.
 bool Utilise(Octets const& octets) {
     CatalogueMo const catalogue(octets);
-    if (!catalogue.EstSain())
+    if (!catalogue.EstSain()) {
         return false;
+    }
     try {
         auto const locale = catalogue.FaisLocale();
         using Messages = boost::locale::message_format<char>;
-        if (!std::has_facet<Messages>(locale))
+        if (!std::has_facet<Messages>(locale)) {
             return false;
+        }
         auto const& messages = std::use_facet<Messages>(locale);
         for (auto const* message : {"Ouvrir", "L’intégration à {1}", "", "absent"}) {
             for (auto const* contexte : {static_cast<char const*>(nullptr), "menu « Fichier »"}) {
-                if (auto const* const traduction = messages.get(0, contexte, message))
+                if (auto const* const traduction = messages.get(0, contexte, message)) {
                     static_cast<void>(std::strlen(traduction)); // read to its end
+                }
             }
         }
         return true;
@@ -82,9 +85,10 @@ TEST(Catalog, WhatTheCompilerOfCatalogsWritesIsSound) {
 
 TEST(Catalog, TheOtherByteOrderIsReadToo) {
     auto octets = FaisCatalogue("Content-Type: text/plain; charset=UTF-8\n");
-    for (std::size_t mot = 0; mot < 28 + 4 * 8; mot += 4)
+    for (std::size_t mot = 0; mot < 28 + 4 * 8; mot += 4) {
         std::reverse(octets.begin() + static_cast<std::ptrdiff_t>(mot),
                      octets.begin() + static_cast<std::ptrdiff_t>(mot) + 4);
+    }
     CatalogueMo const catalogue(octets);
     ASSERT_TRUE(catalogue.EstSain());
     auto const locale = catalogue.FaisLocale();
@@ -94,11 +98,12 @@ TEST(Catalog, TheOtherByteOrderIsReadToo) {
 
 TEST(Catalog, CutShortAnywhereItIsRefused) {
     auto const octets = DonneCatalogue();
-    for (std::size_t taille = 0; taille + 1 < octets.size(); ++taille)
+    for (std::size_t taille = 0; taille + 1 < octets.size(); ++taille) {
         EXPECT_FALSE(CatalogueMo(Octets(octets.begin(),
                                         octets.begin() + static_cast<std::ptrdiff_t>(taille)))
                          .EstSain())
             << taille;
+    }
 }
 
 TEST(Catalog, TablesAndTextsOutsideItAreRefused) {
@@ -123,8 +128,9 @@ TEST(Catalog, AHashTableThatLeadsAstrayIsNotFollowed) {
     auto const taille = Mot(octets, 20);
     auto const table = Mot(octets, 24);
     ASSERT_GT(taille, 0u);
-    for (std::uint32_t rang = 0; rang < taille; ++rang)
+    for (std::uint32_t rang = 0; rang < taille; ++rang) {
         MetsMot(octets, table + rang * 4, 0x7FFFFFF0u);
+    }
     EXPECT_TRUE(Utilise(octets));
     MetsMot(octets, 20, 2); // a search in it would divide by zero
     EXPECT_TRUE(Utilise(octets));
@@ -162,9 +168,10 @@ TEST(Catalog, DamagedBytesNeitherCrashNorThrow) {
     int prises = 0;
     for (int essai = 0; essai < 20000; ++essai) {
         auto octets = sain;
-        for (int coup = 0; coup <= essai % 4; ++coup)
+        for (int coup = 0; coup <= essai % 4; ++coup) {
             octets[(essai + coup) % 3 == 0 ? entete(hasard) : place(hasard)] =
                 static_cast<char>(hasard());
+        }
         prises += Utilise(octets) ? 1 : 0;
     }
     // Damage within a text harms nothing else: some of these are taken, and some are not.

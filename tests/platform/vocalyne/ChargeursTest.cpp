@@ -28,8 +28,9 @@ class Module {
   public:
     explicit Module(char const* chemin)
         : module_(dlopen(chemin, RTLD_NOW | RTLD_LOCAL)) {
-        if (module_ == nullptr)
+        if (module_ == nullptr) {
             throw std::runtime_error(dlerror());
+        }
     }
     ~Module() { dlclose(module_); }
     Module(Module const&) = delete;
@@ -43,8 +44,9 @@ class Module {
     template <class F>
     F Fonction(char const* nom) const {
         auto const fonction = reinterpret_cast<F>(dlsym(module_, nom));
-        if (fonction == nullptr)
+        if (fonction == nullptr) {
             throw std::runtime_error(nom);
+        }
         return fonction;
     }
     void* module_;

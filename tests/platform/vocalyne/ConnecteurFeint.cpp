@@ -55,8 +55,9 @@ class Connecteur {
                        : 0;
     }
     ~Connecteur() {
-        for (auto& [type, stockeur] : StockageReponse::laListeStockeurDefaut)
+        for (auto& [type, stockeur] : StockageReponse::laListeStockeurDefaut) {
             delete stockeur;
+        }
         StockageReponse::laListeStockeurDefaut.clear();
         sdd::ChaineN::LibereConvertisseurPourCodage();
         delete QCoreApplication::instance();

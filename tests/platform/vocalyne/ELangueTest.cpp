@@ -37,15 +37,17 @@ TEST(DisplayLanguage, NumbersInFrenchMakeNobodyFrench) {
 }
 
 TEST(DisplayLanguage, EveryOtherLocaleAndNoneAtAllMeanEnglish) {
-    for (auto const* locale :
-         {"C", "POSIX", "C.UTF-8", "de_DE.UTF-8", "fy_NL", "frr_DE", "f", "_fr", "\xFF\xFE", "   "})
+    for (auto const* locale : {"C", "POSIX", "C.UTF-8", "de_DE.UTF-8", "fy_NL", "frr_DE", "f",
+                               "_fr", "\xFF\xFE", "   "}) {
         EXPECT_EQ(kLangueAnglais, SelonSysteme(nullptr, nullptr, locale)) << locale;
+    }
     EXPECT_EQ(kLangueAnglais, SelonSysteme(nullptr, nullptr, nullptr));
 }
 
 TEST(DisplayLanguage, EveryFormOfAFrenchLocaleIsFrench) {
-    for (auto const* locale : {"fr", "FR", "fr_FR", "fr.UTF-8", "fr@euro", "fr_CH.ISO-8859-1@x"})
+    for (auto const* locale : {"fr", "FR", "fr_FR", "fr.UTF-8", "fr@euro", "fr_CH.ISO-8859-1@x"}) {
         EXPECT_EQ(kLangueFrancais, SelonSysteme(locale, nullptr, nullptr)) << locale;
+    }
 }
 
 TEST(DisplayLanguage, AValueOutsideTheEnumerationFollowsTheSystem) {

@@ -26,10 +26,12 @@ inline Enfant Lance(QString const& programme, QStringList const& arguments = {},
                     std::map<QString, QString> const& variables = {}) {
     auto environnement = QProcessEnvironment::systemEnvironment();
     for (auto const* nom :
-         {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_QPA_PLATFORMTHEME", "LC_ALL"})
+         {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_QPA_PLATFORMTHEME", "LC_ALL"}) {
         environnement.remove(QString::fromLatin1(nom));
-    for (auto const& [nom, valeur] : variables)
+    }
+    for (auto const& [nom, valeur] : variables) {
         environnement.insert(nom, valeur);
+    }
 
     QProcess processus;
     processus.setProcessEnvironment(environnement);

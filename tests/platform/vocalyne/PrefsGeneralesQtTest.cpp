@@ -69,8 +69,9 @@ TEST_F(Settings, AnEmptyPathHasNoKeysAndCannotBeWritten) {
 TEST_F(Settings, ADirectoryOrBytesInTheFilesPlaceReadAsHavingNoKeys) {
     EXPECT_EQ(0, Langue(Chemin("")));
     QByteArray octets;
-    for (int octet = 0; octet < 20000; ++octet)
+    for (int octet = 0; octet < 20000; ++octet) {
         octets.append(static_cast<char>(octet * 7 + octet / 256));
+    }
     dossier_.Ecris("vocalyne.conf", octets.toStdString());
     EXPECT_EQ(0, Langue(chemin_));
 }

@@ -39,13 +39,15 @@ ServeurXFeint::~ServeurXFeint() {
 void ServeurXFeint::Sers() {
     for (;;) {
         int const client = accept4(prise_, nullptr, nullptr, SOCK_CLOEXEC);
-        if (client < 0)
+        if (client < 0) {
             return;
+        }
         ++connexions_;
         std::array<char, 256> demande;
-        if (read(client, demande.data(), demande.size()) > 0 && !reponse_.isEmpty())
+        if (read(client, demande.data(), demande.size()) > 0 && !reponse_.isEmpty()) {
             static_cast<void>(
                 !write(client, reponse_.constData(), static_cast<std::size_t>(reponse_.size())));
+        }
         close(client);
     }
 }

@@ -20,8 +20,9 @@ namespace {
 
 std::string DonneEnvironnement() {
     std::string tout;
-    for (char** variable = environ; *variable != nullptr; ++variable)
+    for (char** variable = environ; *variable != nullptr; ++variable) {
         tout.append(*variable).push_back('\n');
+    }
     return tout;
 }
 
@@ -31,8 +32,9 @@ int main(int nombre, char** arguments) {
     auto const environnementAvant = DonneEnvironnement();
     bool const avecApplication = nombre > 1 && std::strcmp(arguments[1], "avec-application") == 0;
     std::unique_ptr<QCoreApplication> ancienne;
-    if (avecApplication)
+    if (avecApplication) {
         ancienne = std::make_unique<QCoreApplication>(nombre, arguments);
+    }
     std::string const localeAvant = std::setlocale(LC_ALL, nullptr);
 
     InitQApplication();
@@ -52,8 +54,9 @@ int main(int nombre, char** arguments) {
               << "\nfichier=" << QFile::encodeName(QStringLiteral("\u00E9t\u00E9")).toHex().data()
               << "\nargument=" << QCoreApplication::arguments().join(QLatin1Char(',')).toStdString()
               << std::endl;
-    if (!ancienne)
+    if (!ancienne) {
         DetruisApplication();
+    }
     for (int tour = 0; !ancienne && tour < 20; ++tour) {
         InitQApplication();
         DetruisApplication();

@@ -14,8 +14,9 @@ UniChaine U(char const* texte) {
 class RememberedAnswers : public testing::Test {
   protected:
     ~RememberedAnswers() override {
-        for (auto& [type, stockeur] : StockageReponse::laListeStockeurDefaut)
+        for (auto& [type, stockeur] : StockageReponse::laListeStockeurDefaut) {
             delete stockeur;
+        }
         StockageReponse::laListeStockeurDefaut.clear();
     }
 
@@ -74,12 +75,14 @@ TEST_F(RememberedAnswers, NamesThatASettingsKeyCannotHoldAreKeptApart) {
     auto& stockeur = Fais(DDialogue::kStockeurReglages);
     char const* const noms[] = {"", "/", "//", "a/", "/a", "a", "A", "é 😀", "a\\b", "%2F", "a\nb"};
     int reponse = 0;
-    for (auto const* nom : noms)
+    for (auto const* nom : noms) {
         EXPECT_TRUE(stockeur.Mets(U(nom), ++reponse));
+    }
     auto& relu = Fais(DDialogue::kStockeurReglages);
     reponse = 0;
-    for (auto const* nom : noms)
+    for (auto const* nom : noms) {
         EXPECT_EQ(++reponse, relu.Donne(U(nom))) << nom;
+    }
 }
 
 TEST_F(RememberedAnswers, TheSettingsFileKeepsWhatElseStandsInIt) {

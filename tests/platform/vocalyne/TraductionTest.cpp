@@ -158,12 +158,14 @@ TEST_F(Translation, ThreadsMayTranslateAtOnce) {
     std::vector<std::thread> fils(4);
     for (auto& fil : fils) {
         fil = std::thread([domaine] {
-            for (int tour = 0; tour < 2000; ++tour)
+            for (int tour = 0; tour < 2000; ++tour) {
                 EXPECT_EQ("Open a file", Tr(domaine, kOuvrir, kMenu));
+            }
         });
     }
-    for (auto& fil : fils)
+    for (auto& fil : fils) {
         fil.join();
+    }
 }
 
 } // namespace

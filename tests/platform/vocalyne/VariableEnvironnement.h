@@ -11,16 +11,18 @@ class VariableMise {
         : nom_(nom)
         , existait_(qEnvironmentVariableIsSet(nom))
         , avant_(qgetenv(nom)) {
-        if (valeur != nullptr)
+        if (valeur != nullptr) {
             qputenv(nom, valeur);
-        else
+        } else {
             qunsetenv(nom);
+        }
     }
     ~VariableMise() {
-        if (existait_)
+        if (existait_) {
             qputenv(nom_, avant_);
-        else
+        } else {
             qunsetenv(nom_);
+        }
     }
     VariableMise(VariableMise const&) = delete;
     VariableMise& operator=(VariableMise const&) = delete;

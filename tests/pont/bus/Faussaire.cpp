@@ -11,14 +11,16 @@ Faussaire::Faussaire(std::string const& adresse, std::string methode, Reponse re
     , reponse_(reponse) {
     dbus_threads_init_default();
     connexion_ = dbus_connection_open_private(adresse.c_str(), nullptr);
-    if (connexion_ == nullptr || dbus_bus_register(connexion_, nullptr) == 0)
+    if (connexion_ == nullptr || dbus_bus_register(connexion_, nullptr) == 0) {
         throw std::runtime_error("no bus to listen on");
+    }
     dbus_connection_set_exit_on_disconnect(connexion_, 0);
     auto const regle = "eavesdrop='true',type='method_call',member='" + methode_ + "'";
     DBusError erreur = DBUS_ERROR_INIT;
     dbus_bus_add_match(connexion_, regle.c_str(), &erreur); // waits until the bus agrees
-    if (dbus_error_is_set(&erreur) != 0)
+    if (dbus_error_is_set(&erreur) != 0) {
         throw std::runtime_error(erreur.message);
+    }
     fil_ = std::thread([this] { Ecoute(); });
 }
 
@@ -34,8 +36,9 @@ void Faussaire::Ecoute() {
     while (!fini_ && dbus_connection_read_write(connexion_, kTourMs) != 0) {
         while (DBusMessage* const message = dbus_connection_pop_message(connexion_)) {
             if (dbus_message_get_type(message) == DBUS_MESSAGE_TYPE_METHOD_CALL &&
-                dbus_message_get_member(message) == methode_)
+                dbus_message_get_member(message) == methode_) {
                 Reponds(message);
+            }
             dbus_message_unref(message);
         }
     }
@@ -45,10 +48,11 @@ void Faussaire::Reponds(DBusMessage* appel) {
     auto* const reponse = dbus_message_new_method_return(appel);
     char const* const texte = "forged";
     dbus_bool_t const vrai = 1;
-    if (reponse_ == Reponse::Texte)
+    if (reponse_ == Reponse::Texte) {
         dbus_message_append_args(reponse, DBUS_TYPE_STRING, &texte, DBUS_TYPE_INVALID);
-    else
+    } else {
         dbus_message_append_args(reponse, DBUS_TYPE_BOOLEAN, &vrai, DBUS_TYPE_INVALID);
+    }
     ++nombre_;
     dbus_connection_send(connexion_, reponse, nullptr);
     dbus_connection_flush(connexion_);

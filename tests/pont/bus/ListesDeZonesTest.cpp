@@ -27,8 +27,9 @@ class BridgeZoneLists : public testing::Test {
     std::vector<std::string> Textes() const {
         std::vector<std::string> textes;
         textes.reserve(static_cast<std::size_t>(zones.DonneNombre()));
-        for (int i = 0; i < zones.DonneNombre(); ++i)
+        for (int i = 0; i < zones.DonneNombre(); ++i) {
             textes.push_back(S(sdd::T(zones.DonneZone(i)->DonneTexte().DonneTexte())));
+        }
         return textes;
     }
 

@@ -27,8 +27,9 @@ TEST(BridgeNumbersOfZones, ADocumentWithoutZonesIsAnAnswerThatAddsNone) {
 TEST(BridgeNumbersOfZones, AHundredThousandZonesComeInOrderAndTheLastCanBeCorrected) {
     constexpr int kNombre = 100000;
     std::string texte;
-    for (int i = 1; i <= kNombre; ++i)
+    for (int i = 1; i <= kNombre; ++i) {
         texte += "Ligne " + std::to_string(i) + ".\n";
+    }
     BusPrive const bus;
     BureauDeTest bureau{{"livre.txt", texte}};
     AgentDeTest agent(bureau.Identifiant());
@@ -36,9 +37,10 @@ TEST(BridgeNumbersOfZones, AHundredThousandZonesComeInOrderAndTheLastCanBeCorrec
     CollectionZonesDeTexte zones;
     ASSERT_TRUE(agent.SynchronisePositions(zones));
     ASSERT_EQ(zones.DonneNombre(), kNombre);
-    for (int i = 0; i < kNombre; ++i)
+    for (int i = 0; i < kNombre; ++i) {
         ASSERT_EQ(S(sdd::T(zones.DonneZone(i)->DonneTexte().DonneTexte())),
                   "Ligne " + std::to_string(i + 1) + ".");
+    }
     auto& derniere = *zones.DonneZone(kNombre - 1);
     EXPECT_TRUE(derniere.PeutCorriger(0, 5, Uc("Ligne")));
     EXPECT_TRUE(derniere.CorrigeDansTexteur(0, 5, Uc("Fin"), false));

@@ -20,8 +20,9 @@ class BridgeRoad : public testing::Test {
         for (QJsonValue const appel : bureau.DonneCommande().DonneJournal()) {
             auto texte = appel.toObject().value(QLatin1String("methode")).toString();
             for (QJsonValue const argument :
-                 appel.toObject().value(QLatin1String("arguments")).toArray())
+                 appel.toObject().value(QLatin1String("arguments")).toArray()) {
                 texte += QLatin1Char(' ') + argument.toVariant().toString();
+            }
             appels.push_back(texte.toStdString());
         }
         return appels;
@@ -120,11 +121,13 @@ TEST_F(BridgeRoad, TheThreeSelectionMethodsExistOnTheProxyAndAreNeverCalled) {
     agent.PermetsRetourDeCharriot();
     auto const methodes = " " + bureau.DonneCommande().DonneMethodes() + " ";
     for (std::string const nom :
-         {" DonneContenuSelection ", " DonneDebutSelection ", " DonneFinSelection "})
+         {" DonneContenuSelection ", " DonneDebutSelection ", " DonneFinSelection "}) {
         EXPECT_EQ(methodes.find(nom), std::string::npos) << nom;
+    }
     for (char const* const nom :
-         {"DonneContenuSelection", "DonneDebutSelection", "DonneFinSelection"})
+         {"DonneContenuSelection", "DonneDebutSelection", "DonneFinSelection"}) {
         EXPECT_TRUE(QMetaObject::invokeMethod(agent.DonneProxy(), nom)) << nom;
+    }
     bureau.DonneCommande().AttendsAppels("DonneFinSelection", 1);
 }
 

@@ -72,7 +72,7 @@ TEST_F(TextDocument, ThroughALinkTheTargetIsReplacedAndTheLinkStays) {
     std::filesystem::create_symlink("vrai.txt", dossier / "lien.txt");
     std::string const lien = (dossier / "lien.txt").string();
     DocumentTexte& document = bureau.Ouvre(lien, LisFichier(lien));
-    EXPECT_EQ(document.Titre(), "lien.txt");
+    EXPECT_EQ(document.DonneTitre(), "lien.txt");
     Corrige("z1", {0, 2}, u"deux");
     EXPECT_EQ(document.Enregistre()->issue, IssueEcriture::Faite);
     EXPECT_TRUE(std::filesystem::is_symlink(lien));

@@ -68,8 +68,9 @@ TEST(DonneInstance, OnlyCompanionsNamesThatCanStandInAPathCount) {
     };
     EXPECT_EQ(instance("soffice_12"), "soffice_12");
     EXPECT_EQ(instance("_7"), "_7");
-    for (char const* reste : {"", "7", "a.b", "a-b", "é", "a\n"})
+    for (char const* reste : {"", "7", "a.b", "a-b", "é", "a\n"}) {
         EXPECT_EQ(instance(reste), "") << reste;
+    }
     EXPECT_EQ(DonneInstance(QStringLiteral("org.freedesktop.DBus")), QString());
     EXPECT_EQ(DonneInstance(QStringLiteral(":1.7")), QString());
 }

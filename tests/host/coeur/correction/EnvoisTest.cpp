@@ -11,8 +11,9 @@ namespace {
 
 Bilan DonneBilan(int nombre) {
     Bilan bilan;
-    for (int i = 0; i < nombre; ++i)
+    for (int i = 0; i < nombre; ++i) {
         bilan.fautes.push_back({0, {0, 0, {}}, {}, {}, {}, EtatFaute::Refusee});
+    }
     return bilan;
 }
 
@@ -87,10 +88,11 @@ TEST(Envois, OfAnyTextExactlyTheCorrectionsThatWereMadeCount) {
         std::vector<QString> const anciens{ancien};
         std::vector<QString> const nouveaux{nouveau};
         envois.Verifie(Recalage(anciens, nouveaux), anciens, nouveaux, bilan);
-        for (std::size_t i = 0; i < faites.size(); ++i)
+        for (std::size_t i = 0; i < faites.size(); ++i) {
             ASSERT_EQ(bilan.fautes[i].etat == EtatFaute::Corrigee, bool{faites[i]})
                 << i << '\n'
                 << ancien.toStdString() << '\n'
                 << nouveau.toStdString();
+        }
     }
 }

@@ -15,8 +15,9 @@ using Zones = std::vector<QString>;
 
 Zones Lis(char const* lettres) {
     Zones zones;
-    for (; *lettres != '\0'; ++lettres)
+    for (; *lettres != '\0'; ++lettres) {
         zones.emplace_back(QLatin1Char(*lettres));
+    }
     return zones;
 }
 
@@ -67,8 +68,9 @@ TEST(Recalage, EveryPlaceIsOneOfTheNewZones) {
     for (int essai = 0; essai < 20000; ++essai) {
         auto const tire = [&] {
             Zones zones(hasard() % 8);
-            for (QString& zone : zones)
+            for (QString& zone : zones) {
                 zone = QLatin1Char(static_cast<char>('a' + hasard() % 4));
+            }
             return zones;
         };
         Zones const anciens = tire();

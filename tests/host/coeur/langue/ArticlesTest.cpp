@@ -19,8 +19,9 @@ class ThesaurusFaux : public Thesaurus {
     explicit ThesaurusFaux(QStringList const& entrees)
         : entrees_(entrees) {}
     std::vector<Sens> Cherche(QString const& entree) override {
-        if (!entrees_.contains(entree))
+        if (!entrees_.contains(entree)) {
             return {};
+        }
         return {{S("Nom"), {{entree + S("-bis"), {}}}}};
     }
 
@@ -37,8 +38,9 @@ class Articles : public ::testing::Test {
         QString const entier = S(texte);
         auto const trouve = ChercheArticles(entier, debut, fin, thesaurus, lexique_);
         QStringList mots{entier.mid(trouve.mot.debut, trouve.mot.fin - trouve.mot.debut)};
-        for (Article const& article : trouve.articles)
+        for (Article const& article : trouve.articles) {
             mots.append(article.entree);
+        }
         return mots;
     }
 
@@ -48,9 +50,10 @@ class Articles : public ::testing::Test {
 } // namespace
 
 TEST_F(Articles, WithoutASelectionTheWordAtTheCaretIsLookedUp) {
-    for (int caret : {3, 5, 7})
+    for (int caret : {3, 5, 7}) {
         EXPECT_EQ(Cherche("un chat noir", caret, caret), (QStringList{S("chat"), S("chat")}))
             << caret;
+    }
     EXPECT_EQ(Cherche("un chat noir", 0, 0), QStringList{S("un")});
 }
 

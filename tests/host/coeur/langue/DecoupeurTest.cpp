@@ -20,8 +20,9 @@ QString S(char const* utf8) {
 /// The words as they stand in the text, joined by "|".
 std::string Mots(QString const& texte) {
     QStringList mots;
-    for (hote::Mot const& mot : DecoupeEnMots(texte))
+    for (hote::Mot const& mot : DecoupeEnMots(texte)) {
         mots.append(texte.mid(mot.debut, mot.fin - mot.debut));
+    }
     return mots.join(QLatin1Char('|')).toStdString();
 }
 
@@ -50,8 +51,9 @@ TEST(Decoupeur, WordsAreCutAsFrenchAndEnglishWriteThem) {
              Cas{"", ""},
              Cas{"   \t\u00a0\u202f ", ""},
              Cas{"…—!?", ""},
-         })
+         }) {
         EXPECT_EQ(Mots(cas.texte), cas.mots) << cas.texte;
+    }
 }
 
 TEST(Decoupeur, WhatNoDictionaryCanJudgeIsLeftOut) {
@@ -71,8 +73,9 @@ TEST(Decoupeur, WhatNoDictionaryCanJudgeIsLeftOut) {
              Cas{"слово 日本語 λόγος mot", "mot"},
              Cas{"étudiant·e·s", ""},
              Cas{"fin.Le début", "fin|Le|début"},
-         })
+         }) {
         EXPECT_EQ(Mots(cas.texte), cas.mots) << cas.texte;
+    }
 }
 
 TEST(Decoupeur, AWordTooLongToBeOneIsLeftOut) {
@@ -132,8 +135,9 @@ TEST(Decoupeur, WordsOfAnyTextAreWholeAndInOrder) {
     std::mt19937 hasard(5);
     for (int essai = 0; essai < 20000; ++essai) {
         QString texte;
-        for (auto i = hasard() % 30; i > 0; --i)
+        for (auto i = hasard() % 30; i > 0; --i) {
             texte += QChar(unites[hasard() % (std::size(unites) - 1)]); // pairs come apart, too
+        }
         int fin = 0;
         for (hote::Mot const& mot : DecoupeEnMots(texte)) {
             ASSERT_LE(fin, mot.debut);

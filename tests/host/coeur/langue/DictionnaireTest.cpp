@@ -110,8 +110,9 @@ TEST_F(Dictionnaires, AnUnknownEncodingIsTold) {
 
 TEST_F(Dictionnaires, TheSystemsDictionariesKnowTheirLanguages) {
     auto const francais = OuvreDictionnaire(Langue::Francais);
-    for (char const* mot : {"l'école", "aujourd'hui", "éléphant", "arc-en-ciel", "Œuvre"})
+    for (char const* mot : {"l'école", "aujourd'hui", "éléphant", "arc-en-ciel", "Œuvre"}) {
         EXPECT_TRUE(francais->Connait(S(mot))) << mot;
+    }
     EXPECT_TRUE(francais->Suggere(S("acceuil")).contains(S("accueil")));
     auto const anglais = OuvreDictionnaire(Langue::Anglais);
     EXPECT_TRUE(anglais->Connait(S("don't")));

@@ -67,8 +67,9 @@ TEST_F(Synonymes, WhatADictionaryRepeatsInOneMeaningIsToldOnce) {
     auto const sens = Ouvre()->Cherche(S("chat"));
     ASSERT_EQ(sens.size(), 1U);
     QStringList mots;
-    for (Synonyme const& synonyme : sens[0].synonymes)
+    for (Synonyme const& synonyme : sens[0].synonymes) {
         mots.append(synonyme.mot);
+    }
     EXPECT_EQ(mots, (QStringList{S("félin"), S("matou"), S("félin")}));
 }
 
@@ -88,8 +89,9 @@ TEST_F(Synonymes, AnEntryThatNoneCanBeIsNotFound) {
     auto const thesaurus = Ouvre();
     EXPECT_EQ(thesaurus->Cherche(S("chat")).size(), 1U);
     for (QString const& mot : {S(""), S("chien"), QString(100000, QLatin1Char('a')),
-                               QString(S("chat") + QChar(0) + S("x")), QString(QChar(0xd800))})
+                               QString(S("chat") + QChar(0) + S("x")), QString(QChar(0xd800))}) {
         EXPECT_TRUE(thesaurus->Cherche(mot).empty()) << mot.size();
+    }
 }
 
 TEST_F(Synonymes, TheSystemsDictionariesKnowTheirLanguages) {

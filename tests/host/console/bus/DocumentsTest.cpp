@@ -22,8 +22,9 @@ Fin Documents() {
 std::string Ids(Fin const& fin) {
     QStringList ids;
     EXPECT_TRUE(fin.Json().isArray()) << fin.sortie.toStdString();
-    for (QJsonValue const document : fin.Json().array())
+    for (QJsonValue const document : fin.Json().array()) {
         ids.append(document.toObject().value(QLatin1String("id")).toString());
+    }
     return ids.join(QLatin1Char(' ')).toStdString();
 }
 
@@ -106,9 +107,10 @@ TEST_F(HostDocuments, WrongAnswersAreLeftOutAndNamed) {
     Fin const fin = Documents();
     EXPECT_EQ(fin.code, 0);
     EXPECT_EQ(Ids(fin), "f~1");
-    for (char const* nom : {"a", "b", "c", "d", "e", "f"})
+    for (char const* nom : {"a", "b", "c", "d", "e", "f"}) {
         EXPECT_TRUE(fin.erreurs.contains(QByteArray("companion ") + nom + ' '))
             << nom << fin.erreurs.toStdString();
+    }
     EXPECT_FALSE(fin.erreurs.contains('\033'));
     EXPECT_EQ(a.DonneNombre(), 1);
 }

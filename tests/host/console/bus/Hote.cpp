@@ -20,15 +20,17 @@ void AssureApplication() {
     static int argc = 1;
     static char nom[] = "test";
     static char* argv[] = {nom, nullptr};
-    if (QCoreApplication::instance() == nullptr)
+    if (QCoreApplication::instance() == nullptr) {
         static QCoreApplication const application(argc, argv);
+    }
 }
 
 QProcessEnvironment DonneEnvironnement(DossierTemporaire const& maison) {
     auto environnement = QProcessEnvironment::systemEnvironment();
     for (char const* nom :
-         {"LC_ALL", "LC_MESSAGES", "VOCALYNE_GREFFON", "DISPLAY", "WAYLAND_DISPLAY"})
+         {"LC_ALL", "LC_MESSAGES", "VOCALYNE_GREFFON", "DISPLAY", "WAYLAND_DISPLAY"}) {
         environnement.remove(QLatin1String(nom));
+    }
     environnement.insert(QStringLiteral("HOME"), Q(maison.Chemin().string()));
     environnement.insert(QStringLiteral("LANG"), QStringLiteral("C.UTF-8"));
     return environnement;
@@ -66,14 +68,16 @@ Fin LanceHote(QStringList const& arguments, QByteArray const& entree) {
 
 std::vector<QJsonObject> Dialogue(std::vector<QJsonObject> const& requetes) {
     QByteArray entree;
-    for (QJsonObject const& requete : requetes)
+    for (QJsonObject const& requete : requetes) {
         entree += QJsonDocument(requete).toJson(QJsonDocument::Compact) + '\n';
+    }
     Fin const fin = LanceHote({QStringLiteral("pilote")}, entree);
     EXPECT_EQ(fin.code, 0) << fin.erreurs.toStdString();
     std::vector<QJsonObject> reponses;
     for (QByteArray const& ligne : fin.sortie.split('\n')) {
-        if (!ligne.isEmpty())
+        if (!ligne.isEmpty()) {
             reponses.push_back(QJsonDocument::fromJson(ligne).object());
+        }
     }
     EXPECT_EQ(reponses.size(), requetes.size());
     reponses.resize(requetes.size());

@@ -120,13 +120,15 @@ TEST_F(PilotedPlugin, TheAgentsFixedAnswersComeThroughForAnOpenOfficeWindowToo) 
         {"Suspends", QJsonValue::Null},
     };
     std::vector<QJsonObject> requetes{creation};
-    for (Reponse const& attendue : attendues)
+    for (Reponse const& attendue : attendues) {
         requetes.push_back(Op(attendue.op));
+    }
     auto const reponses = Dialogue(requetes);
     EXPECT_EQ(Resultat(reponses[0]), QJsonValue(true));
     std::size_t rang = 1;
-    for (Reponse const& attendue : attendues)
+    for (Reponse const& attendue : attendues) {
         EXPECT_EQ(Resultat(reponses.at(rang++)), attendue.resultat) << attendue.op;
+    }
 }
 
 TEST_F(PilotedPlugin, TheExtensionsAlertStandsBesideTheNullAgent) {

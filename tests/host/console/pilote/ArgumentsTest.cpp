@@ -17,14 +17,16 @@ Arguments Lis(char const* json) {
 } // namespace
 
 TEST(Arguments, AnIntegerHasNoFractionAndFitsIn32Bits) {
-    for (char const* json : {R"({"n":7})", R"({"n":7.0})", R"({"n":70e-1})"})
+    for (char const* json : {R"({"n":7})", R"({"n":7.0})", R"({"n":70e-1})"}) {
         EXPECT_EQ(Lis(json).DonneEntier("n"), 7) << json;
+    }
     EXPECT_EQ(Lis(R"({"n":-2147483648})").DonneEntier("n"), -2147483648);
     EXPECT_EQ(Lis(R"({"n":2147483647})").DonneEntier("n"), 2147483647);
     for (char const* json :
          {R"({"n":2147483648})", R"({"n":-2147483649})", R"({"n":0.5})", R"({"n":1e300})",
-          R"({"n":9223372036854775808})", R"({"n":"7"})", R"({"n":true})", R"({"n":null})", "{}"})
+          R"({"n":9223372036854775808})", R"({"n":"7"})", R"({"n":true})", R"({"n":null})", "{}"}) {
         EXPECT_THROW(Lis(json).DonneEntier("n"), ErreurRequete) << json;
+    }
 }
 
 TEST(Arguments, ADefaultStandsForAMissingArgumentOnlyNotForAWrongOne) {

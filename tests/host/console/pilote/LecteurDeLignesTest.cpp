@@ -19,8 +19,9 @@ std::vector<std::string> Lis(std::string const& flux, std::size_t taille) {
     LecteurDeLignes lecteur(kLimite);
     std::vector<std::string> lignes;
     auto const vide = [&] {
-        while (auto const ligne = lecteur.Suivante())
+        while (auto const ligne = lecteur.Suivante()) {
             lignes.push_back(ligne->tropLongue ? "!" : ligne->octets.toStdString());
+        }
     };
     for (std::size_t i = 0; i < flux.size(); i += taille) {
         std::string const morceau = flux.substr(i, taille);

@@ -76,8 +76,9 @@ UniChaine AgentFaux::DonneCheminDocument() {
     return Texte("DonneCheminDocument", QStringLiteral("/un/chemin.txt"));
 }
 void AgentFaux::DonneImageApplication(ImageCommune& image) {
-    if (Scenario::Donne().Joue("DonneImageApplication").value(QLatin1String("ignore")).toBool())
+    if (Scenario::Donne().Joue("DonneImageApplication").value(QLatin1String("ignore")).toBool()) {
         return;
+    }
     QPixmap carre(3, 2);
     carre.fill(Qt::black);
     image.Prends(carre);
@@ -89,10 +90,12 @@ bool AgentFaux::SynchronisePositions(CollectionZonesDeTexte& zones) {
     Scenario& scenario = Scenario::Donne();
     QJsonObject const evenement = scenario.Joue("SynchronisePositions");
     int rang = 0;
-    for (Scenario::Zone const& zone : scenario.zones)
+    for (Scenario::Zone const& zone : scenario.zones) {
         zones.AjoutePossedee(std::make_unique<ZoneFausse>(rang++, zone.texte, zone.styles));
-    if (evenement.contains(QLatin1String("leveApres")))
+    }
+    if (evenement.contains(QLatin1String("leveApres"))) {
         throw std::runtime_error("leveApres");
+    }
     return evenement.value(QLatin1String("reponse")).toBool(true);
 }
 bool AgentFaux::DonneZones(CollectionZonesDeTexte& zones) {

@@ -45,8 +45,9 @@ EXPORT int DonneIdentificateurDocumentCourant(InfosApplication const* infos,
                            .Joue("DonneIdentificateurDocumentCourant")
                            .value(QLatin1String("reponse"))
                            .toBool(infos->Classe == UniChaine(QStringLiteral("Fenetre")));
-    if (servi)
+    if (servi) {
         *idDocument = infos->Id;
+    }
     return servi ? 2 : 0;
 }
 #endif

@@ -16,8 +16,9 @@ Scenario& Scenario::Donne() {
 
 Scenario::Scenario() {
     QFile fichier(QString::fromLocal8Bit(qgetenv("VOCALYNE_GREFFON_FAUX")));
-    if (!fichier.open(QIODevice::ReadOnly))
+    if (!fichier.open(QIODevice::ReadOnly)) {
         return;
+    }
     QJsonObject const script = QJsonDocument::fromJson(fichier.readAll()).object();
     titre = script.value(QLatin1String("titre")).toString();
     evenements_ = script.value(QLatin1String("evenements")).toArray();
@@ -27,9 +28,10 @@ Scenario::Scenario() {
 
 void Scenario::MetsZones(QJsonArray const& liste) {
     zones.clear();
-    for (QJsonValue const zone : liste)
+    for (QJsonValue const zone : liste) {
         zones.push_back({zone.toObject().value(QLatin1String("texte")).toString(),
                          zone.toObject().value(QLatin1String("styles")).toArray()});
+    }
 }
 
 QJsonObject Scenario::Joue(char const* operation) {
@@ -40,19 +42,24 @@ QJsonObject Scenario::Joue(char const* operation) {
         QJsonObject e = valeur.toObject();
         bool const lieu = e.value(QLatin1String("op")).toString() == nom &&
                           e.value(QLatin1String("appel")).toInt(appel) == appel;
-        if (!lieu)
+        if (!lieu) {
             continue;
-        if (e.contains(QLatin1String("zones")))
+        }
+        if (e.contains(QLatin1String("zones"))) {
             MetsZones(e.value(QLatin1String("zones")).toArray());
+        }
         mort = mort || e.value(QLatin1String("mort")).toBool();
-        if (e.contains(QLatin1String("avertis")))
+        if (e.contains(QLatin1String("avertis"))) {
             DAlerte(nullptr, DAlerteInfo(DAlerteInfo::kQuestion,
                                          UniChaine(e.value(QLatin1String("avertis")).toString()),
                                          UniChaine(), UniChaine()));
-        if (e.contains(QLatin1String("leve")))
+        }
+        if (e.contains(QLatin1String("leve"))) {
             throw std::runtime_error(e.value(QLatin1String("leve")).toString().toStdString());
-        if (e.contains(QLatin1String("leveEntier")))
+        }
+        if (e.contains(QLatin1String("leveEntier"))) {
             throw e.value(QLatin1String("leveEntier")).toInt();
+        }
         if (e.contains(QLatin1String("imprime"))) {
             std::puts(e.value(QLatin1String("imprime")).toString().toUtf8().constData());
             std::fflush(stdout);
@@ -64,11 +71,13 @@ QJsonObject Scenario::Joue(char const* operation) {
 
 void Scenario::EcrisJournal() const {
     QFile fichier(journal_);
-    if (journal_.isEmpty() || !fichier.open(QIODevice::WriteOnly))
+    if (journal_.isEmpty() || !fichier.open(QIODevice::WriteOnly)) {
         return;
+    }
     QJsonArray textes;
-    for (Zone const& zone : zones)
+    for (Zone const& zone : zones) {
         textes.append(zone.texte);
+    }
     QJsonObject const journal{{QStringLiteral("zones"), textes},
                               {QStringLiteral("appels"), QJsonArray::fromStringList(appels_)}};
     fichier.write(QJsonDocument(journal).toJson());

@@ -28,8 +28,9 @@ bool ZoneFausse::CorrigeDansTexteur(int debut, int fin, UniChaine const& texte, 
     QJsonObject const evenement = scenario.Joue("CorrigeDansTexteur");
     bool const la = rang_ < static_cast<int>(scenario.zones.size());
     if (!evenement.value(QLatin1String("ignore")).toBool() && la &&
-        scenario.zones[rang_].texte == texte_)
+        scenario.zones[rang_].texte == texte_) {
         scenario.zones[rang_].texte.replace(debut, fin - debut, texte.VersQString());
+    }
     texte_.replace(debut, fin - debut, texte.VersQString());
     return Booleen(evenement, drapeau);
 }
@@ -72,8 +73,9 @@ bool ZoneFausse::PeutCorriger(int debut, int fin, UniChaine const& texte) {
 
 void ZoneFausse::AjusteIntervalle(int debut, int fin, int* debutAjuste, int* finAjustee,
                                   bool drapeau) {
-    if (Scenario::Donne().Joue("AjusteIntervalle").value(QLatin1String("ignore")).toBool())
+    if (Scenario::Donne().Joue("AjusteIntervalle").value(QLatin1String("ignore")).toBool()) {
         return;
+    }
     *debutAjuste = debut - 1;
     *finAjustee = drapeau ? fin + 1 : fin;
 }
