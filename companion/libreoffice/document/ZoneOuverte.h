@@ -32,8 +32,9 @@ class ZoneOuverte {
     /// The `idZone` of the wire; opaque.
     std::string const& DonneCle() const noexcept { return cle_; }
 
-    /// The paragraph as it stands now. The plan's portions are those that `Applique` and
-    /// `Selectionne` refer to until the next call.
+    /// The paragraph as it stands now. `Applique` and `Selectionne` refer to this plan's portions:
+    /// they are called before anything else happens in the document. Nothing of the office's that
+    /// belongs to a portion is kept: they find it anew.
     virtual compagnon::PlanDePortions Lis() = 0;
 
     /// Is it protected from typing (section, cell, frame)? Says nothing of the whole document.

@@ -66,6 +66,28 @@ ParagrapheLu LecteurPortions::Lis(uno::Reference<container::XEnumerationAccess> 
     return lu;
 }
 
+void LecteurPortions::LisInterieur(uno::Reference<container::XEnumerationAccess> const& interieur,
+                                   uno::Reference<text::XTextRange> const& etendue,
+                                   int& suppressions, ParagrapheLu& lu) const {
+    auto const borne = [&lu](uno::Reference<text::XTextRange> const& ou) {
+        lu.plan.Ajoute(GenrePortion::Limite, {}, 0);
+        lu.etendues.push_back(ou);
+    };
+    std::size_t const premiere = lu.etendues.size();
+    borne(etendue);
+    if (interieur.is()) {
+        LisSuite(interieur, suppressions, lu);
+    }
+    if (lu.etendues.size() == premiere + 1) {
+        borne(etendue);
+        return;
+    }
+    // The enclosing portion's own range will not do for its borders: a control's stands whole
+    // behind what it encloses, and places are looked up in order.
+    lu.etendues[premiere] = lu.etendues[premiere + 1]->getStart();
+    borne(lu.etendues.back()->getEnd());
+}
+
 void LecteurPortions::LisSuite(uno::Reference<container::XEnumerationAccess> const& portions,
                                int& suppressions, ParagrapheLu& lu) const {
     uno::Reference<container::XEnumeration> const suite = portions->createEnumeration();
@@ -154,11 +176,7 @@ void LecteurPortions::LisSuite(uno::Reference<container::XEnumerationAccess> con
         } else if (genre == "InContentMetadata") {
             uno::Reference<container::XEnumerationAccess> interieur;
             Valeur(portion, "InContentMetadata") >>= interieur;
-            ajoute(GenrePortion::Limite, etendue);
-            if (interieur.is()) {
-                LisSuite(interieur, suppressions, lu);
-            }
-            ajoute(GenrePortion::Limite, etendue);
+            LisInterieur(interieur, etendue, suppressions, lu);
         } else if (genre == "ContentControl") {
             uno::Reference<container::XEnumerationAccess> interieur;
             Valeur(portion, "ContentControl") >>= interieur;
@@ -166,9 +184,7 @@ void LecteurPortions::LisSuite(uno::Reference<container::XEnumerationAccess> con
             if (!interieur.is() || EstControleFerme(controle)) {
                 ajoute(GenrePortion::Substitut, etendue);
             } else {
-                ajoute(GenrePortion::Limite, etendue);
-                LisSuite(interieur, suppressions, lu);
-                ajoute(GenrePortion::Limite, etendue);
+                LisInterieur(interieur, etendue, suppressions, lu);
             }
         } else {
             // A field, and whatever a later office may add: one thing, not letters.

@@ -39,6 +39,11 @@ class LecteurPortions {
     void LisSuite(css::uno::Reference<css::container::XEnumerationAccess> const& portions,
                   int& suppressions, ParagrapheLu& lu) const;
 
+    /// What a control or a metadata field encloses, between two borders.
+    void LisInterieur(css::uno::Reference<css::container::XEnumerationAccess> const& interieur,
+                      css::uno::Reference<css::text::XTextRange> const& etendue, int& suppressions,
+                      ParagrapheLu& lu) const;
+
     css::uno::Sequence<rtl::OUString> proprietes_;
 };
 

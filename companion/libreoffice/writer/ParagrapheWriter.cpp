@@ -20,6 +20,23 @@ using compagnon::PlanDePortions;
 
 namespace extension {
 
+namespace {
+
+/// A place of the plan, in the document.
+uno::Reference<text::XTextRange>
+Position(uno::Reference<text::XText> const& texte, PlanDePortions const& plan,
+         std::vector<uno::Reference<text::XTextRange>> const& etendues, PlaceDansPortion place) {
+    compagnon::Portion const& portion = plan.DonnePortions()[place.portion];
+    uno::Reference<text::XTextRange> const& etendue = etendues.at(place.portion);
+    if (portion.genre != compagnon::GenrePortion::Texte) {
+        return place.unite == 0 ? etendue->getStart() : etendue->getEnd();
+    }
+    std::u16string_view const avant = std::u16string_view(portion.source).substr(0, place.unite);
+    return PlaceCurseur(texte, etendue, CompteLesPas(avant, Pas::PointsDeCode)).get();
+}
+
+} // namespace
+
 ParagrapheWriter::ParagrapheWriter(std::string cle,
                                    uno::Reference<text::XTextContent> const& paragraphe,
                                    std::shared_ptr<Contenant const> contenant,
@@ -40,11 +57,18 @@ PlanDePortions ParagrapheWriter::Lis() {
     } catch (lang::IllegalArgumentException const&) {
         throw ZoneInconnue();
     }
+    return LisPortions().plan;
+}
+
+ParagrapheLu ParagrapheWriter::LisPortions() const {
+    uno::Reference<text::XTextRange> const etendue(paragraphe_, uno::UNO_QUERY_THROW);
     int ouvertes = fond_->suppressions.OuvertesAuDebut(etendue, contenant_->texte);
     uno::Reference<container::XEnumerationAccess> const portions(paragraphe_, uno::UNO_QUERY_THROW);
-    ParagrapheLu lu = fond_->lecteur.Lis(portions, ouvertes);
-    etendues_ = std::move(lu.etendues);
-    return std::move(lu.plan);
+    return fond_->lecteur.Lis(portions, ouvertes);
+}
+
+std::vector<uno::Reference<text::XTextRange>> ParagrapheWriter::DonneEtendues() const {
+    return LisPortions().etendues;
 }
 
 bool ParagrapheWriter::EstProtegee() {
@@ -53,11 +77,12 @@ bool ParagrapheWriter::EstProtegee() {
 }
 
 void ParagrapheWriter::Applique(CorrectionPrete const& correction) {
+    std::vector<uno::Reference<text::XTextRange>> const etendues = DonneEtendues();
     for (compagnon::EtapeEdition const& etape : correction.etapes) {
         std::u16string_view const source = etape.source;
         std::size_t const avant = CompteLesPas(source.substr(0, etape.debut), Pas::PointsDeCode);
         uno::Reference<text::XTextCursor> const curseur =
-            PlaceCurseur(contenant_->texte, etendues_.at(etape.portion), avant);
+            PlaceCurseur(contenant_->texte, etendues.at(etape.portion), avant);
         if (etape.EstInsertion()) {
             contenant_->texte->insertString(curseur.get(), EnUno(etape.ajout), false);
             continue;
@@ -69,24 +94,17 @@ void ParagrapheWriter::Applique(CorrectionPrete const& correction) {
     }
 }
 
-uno::Reference<text::XTextRange> ParagrapheWriter::Position(PlanDePortions const& plan,
-                                                            PlaceDansPortion place) const {
-    compagnon::Portion const& portion = plan.DonnePortions()[place.portion];
-    uno::Reference<text::XTextRange> const& etendue = etendues_.at(place.portion);
-    if (portion.genre != compagnon::GenrePortion::Texte) {
-        return place.unite == 0 ? etendue->getStart() : etendue->getEnd();
-    }
-    std::u16string_view const avant = std::u16string_view(portion.source).substr(0, place.unite);
-    return PlaceCurseur(contenant_->texte, etendue, CompteLesPas(avant, Pas::PointsDeCode)).get();
-}
-
 void ParagrapheWriter::Selectionne(PlanDePortions const& plan, std::size_t debut, std::size_t fin) {
     auto const premier = plan.DonnePlace(debut, debut < fin);
     auto const dernier = plan.DonnePlace(fin, false);
     uno::Reference<text::XTextCursor> curseur;
     if (premier && dernier) {
-        curseur = contenant_->texte->createTextCursorByRange(Position(plan, *premier));
-        curseur->gotoRange(Position(plan, *dernier), true);
+        std::vector<uno::Reference<text::XTextRange>> const etendues = DonneEtendues();
+        auto const position = [&](PlaceDansPortion place) {
+            return Position(contenant_->texte, plan, etendues, place);
+        };
+        curseur = contenant_->texte->createTextCursorByRange(position(*premier));
+        curseur->gotoRange(position(*dernier), true);
     } else {
         uno::Reference<text::XTextRange> const etendue(paragraphe_, uno::UNO_QUERY_THROW);
         curseur = contenant_->texte->createTextCursorByRange(etendue->getStart());
@@ -117,7 +135,7 @@ bool ParagrapheWriter::EstDans(std::set<uno::XInterface*> const& textes) const {
 }
 
 PlaceDansPortion ParagrapheWriter::PlaceDe(uno::Reference<text::XTextRange> const& position) const {
-    return PlaceParmi(etendues_, contenant_->texte, position);
+    return PlaceParmi(DonneEtendues(), contenant_->texte, position);
 }
 
 } // namespace extension

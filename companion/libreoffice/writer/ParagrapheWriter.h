@@ -44,19 +44,21 @@ class ParagrapheWriter : public ZoneOuverte {
     /// Does it stand in one of these texts, or in what is nested in one?
     bool EstDans(std::set<css::uno::XInterface*> const& textes) const;
 
-    /// The place, in the last plan read, of a range of the document; what lies outside counts as
-    /// the nearest end.
+    /// The place, in the paragraph as it stands, of a range of the document; what lies outside
+    /// counts as the nearest end.
     compagnon::PlaceDansPortion
     PlaceDe(css::uno::Reference<css::text::XTextRange> const& position) const;
 
   private:
-    css::uno::Reference<css::text::XTextRange> Position(compagnon::PlanDePortions const& plan,
-                                                        compagnon::PlaceDansPortion place) const;
+    ParagrapheLu LisPortions() const;
+    /// The document's ranges of the portions, for the time of one call. None may live on: an object
+    /// of a portion inside a content control or a metadata field, kept, makes the document's next
+    /// save fail and its undo throw.
+    std::vector<css::uno::Reference<css::text::XTextRange>> DonneEtendues() const;
 
     css::uno::Reference<css::text::XTextContent> paragraphe_;
     std::shared_ptr<Contenant const> contenant_;
     std::shared_ptr<FondWriter const> fond_;
-    std::vector<css::uno::Reference<css::text::XTextRange>> etendues_;
 };
 
 } // namespace extension

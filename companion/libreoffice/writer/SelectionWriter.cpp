@@ -61,9 +61,6 @@ class ChoixDePlage : public SelectionVue {
         if (!commencee_ || !(debute || finit || paragraphe->EstVoisineDe(objetDebut_))) {
             return std::nullopt;
         }
-        if (debute || finit) {
-            paragraphe->Lis(); // the ranges that a place is looked up in
-        }
         std::size_t const bout = plan.DonneTexte().size();
         return Intervalle{
             static_cast<std::int32_t>(debute ? plan.DonneDecalage(paragraphe->PlaceDe(debut_)) : 0),
