@@ -25,12 +25,10 @@ namespace reponseProxy {
 /// default of 25 s where it has none. True when a normal reply came from the owner of the name.
 bool Attends(QDBusAbstractInterface& proxy, QDBusPendingCall const& appel);
 
-/// Waits as `Attends` does and reads argument 0 as a `Valeur` (QString, int or bool).
+/// Argument 0 of a call that `Attends` found true, as a `Valeur` (QString, int or bool). Does not
+/// wait.
 template <class Valeur>
-Valeur Lis(QDBusAbstractInterface& proxy, QDBusPendingCall const& appel) {
-    if (!Attends(proxy, appel)) {
-        return Valeur();
-    }
+Valeur DonneArgument(QDBusPendingCall const& appel) {
     auto const argument = appel.reply().arguments().value(0);
     if (argument.userType() == qMetaTypeId<QDBusArgument>()) {
         auto const enveloppe = argument.value<QDBusArgument>();
@@ -41,6 +39,12 @@ Valeur Lis(QDBusAbstractInterface& proxy, QDBusPendingCall const& appel) {
         return contenu.userType() == qMetaTypeId<Valeur>() ? contenu.value<Valeur>() : Valeur();
     }
     return argument.userType() == qMetaTypeId<Valeur>() ? argument.value<Valeur>() : Valeur();
+}
+
+/// Waits as `Attends` does and reads argument 0.
+template <class Valeur>
+Valeur Lis(QDBusAbstractInterface& proxy, QDBusPendingCall const& appel) {
+    return Attends(proxy, appel) ? DonneArgument<Valeur>(appel) : Valeur();
 }
 
 /// Did the call leave? False when the bus library refused it at once: no bus, or names that no bus

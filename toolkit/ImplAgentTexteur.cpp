@@ -2,7 +2,6 @@
 #include "ImplAgentTexteur.h"
 
 #include "ImageCommune.h"
-#include "ImplZoneDeTexteTEMP.h"
 #include "Positions.h"
 #include "RoutinesGeneralesQt.h"
 #include "UniChemin.h"
@@ -18,12 +17,6 @@ UniChemin CheminApplication() {
 }
 
 } // namespace
-
-struct ImplAgentTexteur::Bornes {
-    int longueur = 0;
-    int debutSelection = 0;
-    int finSelection = 0;
-};
 
 // The virtual base is constructed by the most derived class; abstract classes only name it.
 ImplAgentTexteur::ImplAgentTexteur()
@@ -47,7 +40,7 @@ UniChaine ImplAgentTexteur::DonneNomApplication() {
     return CheminApplication().DonneChemin();
 }
 
-bool ImplAgentTexteur::LisBornes(Bornes& bornes) {
+bool ImplAgentTexteur::LisBornes(BornesDuTexte& bornes) {
     try {
         PrepareLecture();
         bornes.longueur = std::max(0, DonneLongueurTexte());
@@ -61,33 +54,14 @@ bool ImplAgentTexteur::LisBornes(Bornes& bornes) {
     }
 }
 
-int ImplAgentTexteur::DonneFinZoneBornee(int position, int longueur) {
-    try {
-        int const fin = DonneFinZone(position);
-        return fin > position ? std::min(fin, longueur) : longueur;
-    } catch (...) {
-        return longueur;
-    }
-}
-
 bool ImplAgentTexteur::SynchronisePositions(CollectionZonesDeTexte& zones) {
     zones.RetireEmpruntees(this);
-    zones_.clear();
-    Bornes bornes;
+    zones_.Vide();
+    BornesDuTexte bornes;
     if (!LisBornes(bornes)) {
         return false;
     }
-    for (int pos = 0; pos < bornes.longueur;) {
-        int const fin = DonneFinZoneBornee(pos, bornes.longueur);
-        auto& zone = *zones_.emplace_back(std::make_unique<ImplZoneDeTexteTEMP>(this, pos, fin));
-        zones.AjouteEmpruntee(zone, this);
-        if (pos <= bornes.debutSelection && bornes.debutSelection < fin &&
-            pos <= bornes.finSelection && bornes.finSelection <= fin) {
-            zone.MetsSelection(bornes.debutSelection - pos, bornes.finSelection - pos);
-        }
-        zone.Remplis();
-        pos = fin;
-    }
+    zones_.Construis(*this, bornes, zones);
     return true;
 }
 
@@ -112,7 +86,7 @@ int ImplAgentTexteur::AjusteSelectionPourOutils(int debut, int fin) {
 UniChaine ImplAgentTexteur::DonneContexte(int* debut, int* fin) {
     debutContexte_ = 0;
     finContexte_ = 0;
-    Bornes bornes;
+    BornesDuTexte bornes;
     if (LisBornes(bornes)) {
         debutContexte_ = bornes.debutSelection;
         finContexte_ = bornes.finSelection;
@@ -131,9 +105,7 @@ void ImplAgentTexteur::RemplaceDansZones(int debut, int fin, int finZone, UniCha
                                          bool drapeau) {
     RemplaceDansTexteur(debut, fin, finZone, texte, drapeau);
     int const delta = positions::Difference(texte.Longueur(), positions::Difference(fin, debut));
-    for (auto& zone : zones_) {
-        zone->Decale(fin, finZone, delta);
-    }
+    zones_.Decale(fin, finZone, delta);
 }
 
 void ImplAgentTexteur::NormaliseTexteLu(TexteAvecAttributs& texte) {

@@ -2,12 +2,10 @@
 #pragma once
 
 #include "InterfaceAgentTexteur.h"
+#include "ZonesDeLAgent.h"
 
 #include <cstdint>
 #include <list>
-#include <memory>
-
-class ImplZoneDeTexteTEMP;
 
 /// The generic agent on which a connector builds.
 ///
@@ -111,13 +109,12 @@ class ImplAgentTexteur : public virtual InterfaceAgentTexteur {
     std::list<std::int32_t> bornes_; // NOLINT(misc-non-private-member-variables-in-classes)
 
   private:
-    struct Bornes;
-    bool LisBornes(Bornes& bornes);
-    int DonneFinZoneBornee(int position, int longueur);
+    /// False, and no guess, when the connector cannot be asked.
+    bool LisBornes(BornesDuTexte& bornes);
 
     std::int32_t debutContexte_ = 0;
     std::int32_t finContexte_ = 0;
-    std::list<std::unique_ptr<ImplZoneDeTexteTEMP>> zones_;
+    ZonesDeLAgent zones_;
 
   protected:
     std::int32_t dernierEntier_ = 0; // NOLINT(misc-non-private-member-variables-in-classes)

@@ -44,7 +44,7 @@ bool ModuleProxyOOo::SynchronisePositions(CollectionZonesDeTexte& zones) {
         if (!reponseProxy::Attends(*proxy_, appel)) {
             return false;
         }
-        octets = LisTexte(*proxy_, appel).VersUtf8();
+        octets = UniChaine(reponseProxy::DonneArgument<QString>(appel)).VersUtf8();
     }
     AjouteZones(octets, proxy_.get(), this, zones);
     return true;
