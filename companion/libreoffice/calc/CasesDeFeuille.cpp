@@ -16,11 +16,13 @@
 #include <com/sun/star/sheet/XDataPilotTablesSupplier.hpp>
 #include <com/sun/star/sheet/XSheetCellCursor.hpp>
 #include <com/sun/star/sheet/XUniqueCellFormatRangesSupplier.hpp>
+#include <com/sun/star/table/XColumnRowRange.hpp>
 #include <com/sun/star/util/CellProtection.hpp>
 #include <com/sun/star/util/XMergeable.hpp>
 #include <com/sun/star/util/XProtectable.hpp>
 
 #include <algorithm>
+#include <map>
 #include <set>
 #include <tuple>
 #include <utility>
@@ -35,9 +37,9 @@ namespace {
 
 /// The ranges, those of the same columns that stand close together in one block: each block is read
 /// at once, as an office object for each range would take far longer than a few cells in between.
-std::vector<std::vector<table::CellRangeAddress>> Blocs(Adresses const& plages) {
+std::vector<std::vector<table::CellRangeAddress>>
+Blocs(std::vector<table::CellRangeAddress> triees) {
     constexpr sal_Int32 kEcart = 8; // rows in between, so that no more than that is read in vain
-    std::vector<table::CellRangeAddress> triees(plages.begin(), plages.end());
     std::sort(triees.begin(), triees.end(), [](auto const& a, auto const& b) {
         return std::tie(a.StartColumn, a.EndColumn, a.StartRow) <
                std::tie(b.StartColumn, b.EndColumn, b.StartRow);
@@ -101,14 +103,42 @@ class Recolte {
         std::uint16_t style = 0;
     };
 
-    Adresses Visibles(sal_Int32 genre) const {
-        uno::Reference<sheet::XSheetCellRanges> const toutes =
-            requete_->queryContentCells(static_cast<sal_Int16>(genre));
-        if (toutes->getRangeAddresses().getLength() == 0) {
-            return {};
+    /// The visible cells of a kind. In this order, as among the cells of a kind the office does not
+    /// tell all that are visible; and less the hidden columns, which it then takes for visible at
+    /// times.
+    std::vector<table::CellRangeAddress> Visibles(sal_Int32 genre) {
+        uno::Reference<sheet::XCellRangesQuery> const visibles(requete_->queryVisibleCells(),
+                                                               uno::UNO_QUERY_THROW);
+        std::vector<table::CellRangeAddress> plages;
+        for (table::CellRangeAddress plage :
+             visibles->queryContentCells(static_cast<sal_Int16>(genre))->getRangeAddresses()) {
+            sal_Int32 const fin = plage.EndColumn;
+            for (sal_Int32 colonne = plage.StartColumn; colonne <= fin; ++colonne) {
+                if (!EstVisible(colonne)) {
+                    continue;
+                }
+                plage.StartColumn = colonne;
+                while (colonne < fin && EstVisible(colonne + 1)) {
+                    ++colonne;
+                }
+                plage.EndColumn = colonne;
+                plages.push_back(plage);
+            }
         }
-        uno::Reference<sheet::XCellRangesQuery> const parmi(toutes, uno::UNO_QUERY_THROW);
-        return parmi->queryVisibleCells()->getRangeAddresses();
+        return plages;
+    }
+
+    bool EstVisible(sal_Int32 colonne) {
+        auto const connue = colonnesVisibles_.find(colonne);
+        if (connue != colonnesVisibles_.end()) {
+            return connue->second;
+        }
+        uno::Reference<table::XColumnRowRange> const feuille(feuille_, uno::UNO_QUERY_THROW);
+        uno::Reference<beans::XPropertySet> const proprietes(
+            feuille->getColumns()->getByIndex(colonne), uno::UNO_QUERY_THROW);
+        bool visible = true;
+        proprietes->getPropertyValue("IsVisible") >>= visible;
+        return colonnesVisibles_[colonne] = visible;
     }
 
     void LisPivots() {
@@ -230,6 +260,7 @@ class Recolte {
     bool protegee_;
     bool fusionnee_;
     uno::Sequence<OUString> noms_ = NomsDesProprietesDeLettres();
+    std::map<sal_Int32, bool> colonnesVisibles_; // those asked for
     std::vector<table::CellRangeAddress> pivots_;
     std::set<std::pair<sal_Int32, sal_Int32>> formatees_; // of several formats or lines
     std::vector<CaseDeFeuille> cases_;

@@ -8,6 +8,7 @@
 
 #include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/beans/XPropertySet.hpp>
+#include <com/sun/star/beans/XPropertyState.hpp>
 #include <com/sun/star/sheet/CellFlags.hpp>
 #include <com/sun/star/sheet/XCellAddressable.hpp>
 #include <com/sun/star/sheet/XCellRangeData.hpp>
@@ -127,6 +128,9 @@ bool Cellule::Remplace(std::size_t rang, std::size_t debut, std::u16string const
     }
     uno::Reference<beans::XPropertySet> const proprietes(DonneObjet(), uno::UNO_QUERY_THROW);
     uno::Any const format = proprietes->getPropertyValue("NumberFormat");
+    uno::Reference<beans::XPropertyState> const etats(DonneObjet(), uno::UNO_QUERY_THROW);
+    bool const herite =
+        etats->getPropertyState("NumberFormat") == beans::PropertyState_DEFAULT_VALUE;
     // For what looks like a number the office turns the cell's number format into the one of text,
     // and its undo step forgets that: it must find nothing to turn.
     if (std::any_of(lettres.begin(), lettres.end(),
@@ -140,7 +144,12 @@ bool Cellule::Remplace(std::size_t rang, std::size_t debut, std::u16string const
             Execute(lus[rang], etape);
         }
     }
-    if (proprietes->getPropertyValue("NumberFormat") != format) {
+    // The cell ends as it was but for its text: a format of the style's is no format of its own.
+    if (herite) {
+        if (etats->getPropertyState("NumberFormat") != beans::PropertyState_DEFAULT_VALUE) {
+            etats->setPropertyToDefault("NumberFormat");
+        }
+    } else if (proprietes->getPropertyValue("NumberFormat") != format) {
         proprietes->setPropertyValue("NumberFormat", format);
     }
     return true;

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MPL-2.0
 """What a corrector reads and changes in a spreadsheet."""
 
+import random
 import time
 import unittest
 
@@ -14,6 +15,8 @@ from ecrivain import parties_grasses, plage
 
 ITALIQUE = uno.Enum("com.sun.star.awt.FontSlant", "ITALIC")
 TEXTE = uno.Enum("com.sun.star.table.CellContentType", "TEXT")
+PAR_DEFAUT = uno.Enum("com.sun.star.beans.PropertyState", "DEFAULT_VALUE")
+DIRECT = uno.Enum("com.sun.star.beans.PropertyState", "DIRECT_VALUE")
 
 # A format inside a cell that is the same for all its letters: only a file brings one.
 ENTIER = """<?xml version="1.0" encoding="UTF-8"?>
@@ -131,6 +134,29 @@ class Lecture(Cas):
         self.feuille.Columns.getByIndex(1).IsVisible = False
         self.feuille.Rows.getByIndex(1).IsVisible = False
         self.assertEqual(self.client.textes(), ["vu", "vu aussi"])
+
+    def test_visible_cells_between_hidden_rows_are_all_read(self):
+        self.remplis(A3="trois", B4="cachee", A5="cinq", C6="cachee aussi")
+        for ligne in (3, 5):
+            self.feuille.Rows.getByIndex(ligne).IsVisible = False
+        self.assertEqual(self.client.textes(), ["trois", "cinq"])
+
+    def test_what_is_read_is_what_is_visible_however_rows_and_columns_are_hidden(self):
+        hasard = random.Random(20)
+        for essai in range(40):
+            self.ouvre()
+            places = {(hasard.randrange(7), hasard.randrange(4)) for _ in range(8)}
+            for ligne, colonne in places:
+                self.feuille.getCellByPosition(colonne, ligne).setString(f"{ligne}x{colonne}")
+            for _ in range(hasard.randrange(4)):
+                self.feuille.Rows.getByIndex(hasard.randrange(7)).IsVisible = False
+            for _ in range(hasard.randrange(3)):
+                self.feuille.Columns.getByIndex(hasard.randrange(4)).IsVisible = False
+            vus = [f"{ligne}x{colonne}" for ligne, colonne in sorted(places)
+                   if self.feuille.Rows.getByIndex(ligne).IsVisible
+                   and self.feuille.Columns.getByIndex(colonne).IsVisible]
+            with self.subTest(essai=essai):
+                self.assertEqual(self.client.textes(), vus)
 
     def test_filtered_rows_are_not_read(self):
         self.remplis(A1="titre", A2="garde", A3="filtre", A4="garde aussi")
@@ -281,6 +307,41 @@ class Correction(Cas):
                 self.assertEqual(cellule.NumberFormat, format_)
                 self.doc.UndoManager.undo()
                 self.assertEqual((self.client.textes(), cellule.NumberFormat), ([avant], format_))
+
+    def test_a_number_format_that_is_the_styles_stays_the_styles(self):
+        cellule = self.cellule("A1", "l2")
+        self.assertEqual(cellule.getPropertyState("NumberFormat"), PAR_DEFAUT)
+        self.corrige("l2", "12")
+        self.assertEqual(cellule.getPropertyState("NumberFormat"), PAR_DEFAUT)
+        self.doc.UndoManager.undo()
+        self.assertEqual((cellule.String, cellule.getPropertyState("NumberFormat")),
+                         ("l2", PAR_DEFAUT))
+
+    def test_a_number_format_of_its_own_stays_its_own(self):
+        cellule = self.cellule("A1", "l2")
+        format_ = self.doc.NumberFormats.addNew('"no "@', self.doc.CharLocale)
+        cellule.NumberFormat = format_
+        self.corrige("l2", "12")
+        self.assertEqual((cellule.NumberFormat, cellule.getPropertyState("NumberFormat")),
+                         (format_, DIRECT))
+        self.doc.UndoManager.undo()
+        self.assertEqual((cellule.NumberFormat, self.client.textes()), (format_, ["l2"]))
+
+    def test_a_conditional_format_stays_on_the_cell(self):
+        cellule = self.cellule("A1", "l2")
+        formats = self.feuille.getCellRangeByName("A1:A3").ConditionalFormat
+        formats.addNew((banc.pv("Operator", uno.Enum("com.sun.star.sheet.ConditionOperator", "EQUAL")),
+                        banc.pv("Formula1", '"12"'), banc.pv("StyleName", "Heading")))
+        self.feuille.getCellRangeByName("A1:A3").ConditionalFormat = formats
+        plages = [f.Range.RangeAddressesAsString for f in
+                  self.feuille.ConditionalFormats.ConditionalFormats]
+        self.corrige("l2", "12")
+        self.assertEqual([f.Range.RangeAddressesAsString for f in
+                          self.feuille.ConditionalFormats.ConditionalFormats], plages)
+        self.assertEqual(cellule.ConditionalFormat.Count, 1)
+        self.doc.UndoManager.undo()
+        self.assertEqual([f.Range.RangeAddressesAsString for f in
+                          self.feuille.ConditionalFormats.ConditionalFormats], plages)
 
     def test_text_with_formats_stays_text_too(self):
         cellule = self.cellule("A1", "1O5")
