@@ -13,6 +13,7 @@ namespace compagnon {
 namespace {
 
 QString const kConnexion = QStringLiteral("vocalyne-bureau-texte");
+QString const kCommande = QStringLiteral("/com/ombrel/vocalyne/commande");
 
 // A message may have 128 MiB. Left at its default of half as much, libdbus stops reading for good
 // after a single larger one; several may be on their way at once.
@@ -26,6 +27,13 @@ Publication::Publication(std::string const& instance)
     , objet_(QStringLiteral("/com/ombrel/vocalyne/texteurs/OpenOffice/") + VersQString(instance)) {}
 
 Publication::~Publication() {
+    // QtDBus's own thread takes the connection down later and still calls each object that it finds
+    // registered or connected there, by then perhaps destroyed.
+    connexion_.unregisterObject(kCommande);
+    connexion_.unregisterObject(objet_);
+    connexion_.disconnect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
+                          QStringLiteral("org.freedesktop.DBus.Local"),
+                          QStringLiteral("Disconnected"), this, SIGNAL(BusPerdu()));
     connexion_ = QDBusConnection(QString());
     QDBusConnection::disconnectFromBus(kConnexion);
 }
@@ -50,8 +58,8 @@ std::string Publication::Connecte() {
 std::string Publication::Publie(QObject* bureau, QObject* commande) {
     bool const publies =
         connexion_.registerObject(objet_, bureau, QDBusConnection::ExportAdaptors) &&
-        (!commande || connexion_.registerObject(QStringLiteral("/com/ombrel/vocalyne/commande"),
-                                                commande, QDBusConnection::ExportAdaptors));
+        (!commande ||
+         connexion_.registerObject(kCommande, commande, QDBusConnection::ExportAdaptors));
     if (!publies || !connexion_.isConnected()) {
         return Dis({"Publication impossible ({1})", "Cannot publish ({1})"},
                    {VersUtf8(connexion_.lastError().message())});
