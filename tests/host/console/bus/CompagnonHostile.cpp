@@ -5,19 +5,32 @@
 
 #include <gtest/gtest.h>
 
+namespace {
+
+QString DonneObjet() {
+    return QStringLiteral("/com/ombrel/vocalyne/texteurs/OpenOffice");
+}
+
+} // namespace
+
 CompagnonHostile::CompagnonHostile(QString const& instance, Reponse reponse)
     : nom_(QStringLiteral("hostile-") + instance)
     , connexion_(
           QDBusConnection::connectToBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"), nom_))
     , reponse_(std::move(reponse)) {
-    EXPECT_TRUE(
-        connexion_.registerVirtualObject(QStringLiteral("/com/ombrel/vocalyne/texteurs/OpenOffice"),
-                                         this, QDBusConnection::SubPath));
+    EXPECT_TRUE(connexion_.registerVirtualObject(DonneObjet(), this, QDBusConnection::SubPath));
     EXPECT_TRUE(connexion_.registerService(
         QStringLiteral("com.ombrel.vocalyne.texteurs.OpenOffice.") + instance));
 }
 
 CompagnonHostile::~CompagnonHostile() {
+    Pars();
+}
+
+void CompagnonHostile::Pars() {
+    // QtDBus's own thread takes the connection down, and calls what is registered there to the end.
+    connexion_.unregisterObject(DonneObjet(), QDBusConnection::UnregisterTree);
+    connexion_ = QDBusConnection(QString());
     QDBusConnection::disconnectFromBus(nom_);
 }
 

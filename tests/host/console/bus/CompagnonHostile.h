@@ -22,6 +22,9 @@ class CompagnonHostile : public QDBusVirtualObject {
     QString introspect(QString const& chemin) const override;
     bool handleMessage(QDBusMessage const& message, QDBusConnection const& connexion) override;
 
+    /// Leaves the bus, also from within an answer. Comes back before the bus knows.
+    void Pars();
+
     /// How many calls came.
     int DonneNombre() const noexcept { return nombre_; }
 

@@ -119,13 +119,15 @@ TEST_F(HostDocuments, ACompanionThatLeavesInsteadOfAnsweringIsNamed) {
     BureauDeTest bureau({{"a.txt", "a\n"}});
     std::unique_ptr<CompagnonHostile> fuyard;
     fuyard = std::make_unique<CompagnonHostile>(
-        QStringLiteral("fuyard"), [](QDBusMessage const& /*message*/, QDBusConnection const& c) {
-            QDBusConnection::disconnectFromBus(c.name());
+        QStringLiteral("fuyard"),
+        [&](QDBusMessage const& /*message*/, QDBusConnection const& /*connexion*/) {
+            fuyard->Pars();
             return true;
         });
     Fin const fin = Documents();
     EXPECT_EQ(Ids(fin), bureau.Identifiant());
-    EXPECT_TRUE(fin.erreurs.contains("companion fuyard "));
+    EXPECT_TRUE(fin.erreurs.contains("companion fuyard does not give its documents"))
+        << fin.erreurs.toStdString();
 }
 
 TEST_F(HostDocuments, AnAnswerOfManyMegabytesHarmsNobodyElse) {
