@@ -25,7 +25,8 @@ struct ParagrapheLu {
     std::vector<Rencontre> rencontres;
 };
 
-/// Turns a paragraph's portions, of Writer or of the drawing engine's texts, into a plan.
+/// Turns a paragraph's portions, of Writer or of the drawing engine's texts, into a plan. Main
+/// thread; operations may throw UNO exceptions.
 class LecteurPortions {
   public:
     LecteurPortions();
@@ -36,14 +37,6 @@ class LecteurPortions {
                      int& suppressions) const;
 
   private:
-    void LisSuite(css::uno::Reference<css::container::XEnumerationAccess> const& portions,
-                  int& suppressions, ParagrapheLu& lu) const;
-
-    /// What a control or a metadata field encloses, between two borders.
-    void LisInterieur(css::uno::Reference<css::container::XEnumerationAccess> const& interieur,
-                      css::uno::Reference<css::text::XTextRange> const& etendue, int& suppressions,
-                      ParagrapheLu& lu) const;
-
     css::uno::Sequence<rtl::OUString> proprietes_;
 };
 
