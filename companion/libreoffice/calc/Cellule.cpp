@@ -4,6 +4,7 @@
 #include "commun/ChainesUno.h"
 #include "commun/ErreurDuService.h"
 #include "dessin/EditionEnCours.h"
+#include "document/SelectionDuBureau.h"
 #include "lecture/StyleDeLettres.h"
 
 #include <com/sun/star/beans/XMultiPropertySet.hpp>
@@ -20,7 +21,6 @@
 #include <com/sun/star/util/XNumberFormatTypes.hpp>
 #include <com/sun/star/util/XNumberFormatsSupplier.hpp>
 #include <com/sun/star/util/XProtectable.hpp>
-#include <com/sun/star/view/XSelectionSupplier.hpp>
 
 #include <algorithm>
 
@@ -163,9 +163,7 @@ uno::Any Cellule::DonneFormatDeTexte() const {
 }
 
 void Cellule::Selectionne() {
-    uno::Reference<view::XSelectionSupplier> const vue(DonneModele()->getCurrentController(),
-                                                       uno::UNO_QUERY_THROW);
-    vue->select(uno::Any(DonneObjet()));
+    SelectionneDans(DonneModele(), uno::Any(DonneObjet()));
 }
 
 } // namespace extension

@@ -5,12 +5,12 @@
 
 namespace extension {
 
-void DocumentCalc::ParcoursZones(Recueil const& recueil) {
+void DocumentCalc::ParcoursZones(RecueilDeZones const& recueil) {
     cellules_ = ParcoursCalc(DonneModele(), Carnet(), cellules_, recueil).Parcours();
 }
 
-std::unique_ptr<SelectionVue> DocumentCalc::LisChoixDuBureau() {
-    return LisChoixCalc(DonneModele(), cellules_);
+std::unique_ptr<SelectionVue> DocumentCalc::LisSelectionDuBureau() {
+    return LisSelectionCalc(DonneModele(), cellules_);
 }
 
 } // namespace extension

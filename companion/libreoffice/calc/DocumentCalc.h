@@ -12,8 +12,8 @@ class DocumentCalc : public DocumentOuvert {
     using DocumentOuvert::DocumentOuvert;
 
   protected:
-    void ParcoursZones(Recueil const& recueil) override;
-    std::unique_ptr<SelectionVue> LisChoixDuBureau() override;
+    void ParcoursZones(RecueilDeZones const& recueil) override;
+    std::unique_ptr<SelectionVue> LisSelectionDuBureau() override;
 
   private:
     Cellules cellules_; // met in the last walk

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "ParcoursCalc.h"
 
+#include "commun/Proprietes.h"
 #include "dessin/ParcoursFormes.h"
 #include "dessin/TexteDeForme.h"
 
@@ -26,7 +27,7 @@ std::uint64_t Place(std::int16_t feuille, std::int32_t ligne, std::int32_t colon
 } // namespace
 
 ParcoursCalc::ParcoursCalc(uno::Reference<frame::XModel> const& modele, CarnetDeZones& carnet,
-                           Cellules const& connues, TexteDessine::Recueil const& recueil)
+                           Cellules const& connues, RecueilDeZones const& recueil)
     : modele_(modele)
     , carnet_(carnet)
     , recueil_(recueil) {
@@ -45,9 +46,7 @@ Cellules ParcoursCalc::Parcours() {
         uno::Reference<sheet::XSpreadsheet> const feuille(feuilles->getByIndex(i),
                                                           uno::UNO_QUERY_THROW);
         uno::Reference<beans::XPropertySet> const proprietes(feuille, uno::UNO_QUERY_THROW);
-        bool visible = true;
-        proprietes->getPropertyValue("IsVisible") >>= visible;
-        if (visible) {
+        if (Vaut(proprietes, "IsVisible", true)) {
             ParcoursFeuille(feuille, static_cast<std::int16_t>(i));
         }
     }
@@ -78,9 +77,9 @@ void ParcoursCalc::LisCellule(Feuille const& feuille, std::int16_t numero,
         uno::Reference<uno::XInterface> const objet(
             feuille->getCellByPosition(endroit.colonne, endroit.ligne), uno::UNO_QUERY_THROW);
         cellule = std::make_shared<Cellule>(objet, modele_);
-        carnet_.InscrisTexte(objet, cellule);
+        carnet_.Inscris(objet, cellule);
     }
-    carnet_.RetrouveTexte(cellule->DonneObjet()); // it is still there
+    carnet_.Retrouve<Cellule>(cellule->DonneObjet()); // it is still there
     vues_.push_back(cellule);
     std::vector<ParagrapheLu> lus;
     if (endroit.estUniforme) {
@@ -89,7 +88,7 @@ void ParcoursCalc::LisCellule(Feuille const& feuille, std::int16_t numero,
     } else {
         lus = cellule->Relis(carnet_);
     }
-    DonneZones(*cellule, std::move(lus), recueil_);
+    RecueilleZones(*cellule, std::move(lus), recueil_);
 }
 
 void ParcoursCalc::LisCommentaire(Feuille const& feuille, CaseDeFeuille const& endroit,

@@ -21,7 +21,7 @@ class ParcoursCalc {
   public:
     /// `connues`: the cells of the walk before, which keep their zones wherever they stand now.
     ParcoursCalc(css::uno::Reference<css::frame::XModel> const& modele, CarnetDeZones& carnet,
-                 Cellules const& connues, TexteDessine::Recueil const& recueil);
+                 Cellules const& connues, RecueilDeZones const& recueil);
 
     /// The cells met.
     Cellules Parcours();
@@ -36,7 +36,7 @@ class ParcoursCalc {
 
     css::uno::Reference<css::frame::XModel> modele_;
     CarnetDeZones& carnet_;
-    TexteDessine::Recueil const& recueil_;
+    RecueilDeZones const& recueil_;
     std::unordered_map<std::uint64_t, std::shared_ptr<Cellule>> connues_;
     Cellules vues_;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "SelectionCalc.h"
 
+#include "dessin/ParagrapheDessine.h"
 #include "dessin/SelectionDessinee.h"
 
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
@@ -16,9 +17,10 @@ namespace extension {
 
 namespace {
 
-class ChoixDeCellules : public SelectionVue {
+class SelectionDeCellules : public SelectionVue {
   public:
-    ChoixDeCellules(uno::Sequence<table::CellRangeAddress> const& plages, Cellules const& cellules)
+    SelectionDeCellules(uno::Sequence<table::CellRangeAddress> const& plages,
+                        Cellules const& cellules)
         : plages_(plages)
         , cellules_(cellules) {}
 
@@ -28,7 +30,7 @@ class ChoixDeCellules : public SelectionVue {
         if (!cellule || !Contient(*cellule)) {
             return std::nullopt;
         }
-        return Intervalle{0, static_cast<std::int32_t>(plan.DonneTexte().size())};
+        return Tout(plan);
     }
 
     std::shared_ptr<ZoneOuverte> Premiere(CarnetDeZones& /*carnet*/) override {
@@ -52,9 +54,7 @@ class ChoixDeCellules : public SelectionVue {
 
   private:
     static std::shared_ptr<Cellule> CelluleDe(ZoneOuverte& zone) {
-        auto* const paragraphe = dynamic_cast<ParagrapheDessine*>(&zone);
-        return paragraphe == nullptr ? nullptr
-                                     : std::dynamic_pointer_cast<Cellule>(paragraphe->DonneTexte());
+        return std::dynamic_pointer_cast<Cellule>(TexteDe(zone));
     }
 
     bool EstSeule() const {
@@ -78,8 +78,8 @@ class ChoixDeCellules : public SelectionVue {
 
 } // namespace
 
-std::unique_ptr<SelectionVue> LisChoixCalc(uno::Reference<frame::XModel> const& modele,
-                                           Cellules const& cellules) {
+std::unique_ptr<SelectionVue> LisSelectionCalc(uno::Reference<frame::XModel> const& modele,
+                                               Cellules const& cellules) {
     uno::Reference<uno::XInterface> const selection = modele->getCurrentSelection();
     uno::Reference<table::XCell> const cellule(selection, uno::UNO_QUERY);
     if (cellule.is() && cellule->getType() != table::CellContentType_TEXT) {
@@ -88,14 +88,14 @@ std::unique_ptr<SelectionVue> LisChoixCalc(uno::Reference<frame::XModel> const& 
     uno::Reference<sheet::XCellRangeAddressable> const plage(selection, uno::UNO_QUERY);
     if (plage.is()) {
         table::CellRangeAddress const adresse = plage->getRangeAddress();
-        return std::make_unique<ChoixDeCellules>(
+        return std::make_unique<SelectionDeCellules>(
             uno::Sequence<table::CellRangeAddress>(&adresse, 1), cellules);
     }
     uno::Reference<sheet::XSheetCellRanges> const plages(selection, uno::UNO_QUERY);
     if (plages.is()) {
-        return std::make_unique<ChoixDeCellules>(plages->getRangeAddresses(), cellules);
+        return std::make_unique<SelectionDeCellules>(plages->getRangeAddresses(), cellules);
     }
-    return ChoixDeFormes(selection);
+    return SelectionDeFormes(selection);
 }
 
 } // namespace extension

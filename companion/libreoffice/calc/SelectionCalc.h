@@ -8,7 +8,7 @@ namespace extension {
 
 /// What is selected in a spreadsheet document (null for nothing with a text): cells, which count as
 /// selected whole, or shapes. `cellules`: those met in the last walk; must outlive the result.
-std::unique_ptr<SelectionVue> LisChoixCalc(css::uno::Reference<css::frame::XModel> const& modele,
-                                           Cellules const& cellules);
+std::unique_ptr<SelectionVue>
+LisSelectionCalc(css::uno::Reference<css::frame::XModel> const& modele, Cellules const& cellules);
 
 } // namespace extension

@@ -37,7 +37,7 @@ void ParcoursCommentaires(uno::Reference<drawing::XDrawPage> const& page,
 
 } // namespace
 
-void DocumentImpress::ParcoursZones(Recueil const& recueil) {
+void DocumentImpress::ParcoursZones(RecueilDeZones const& recueil) {
     FondDeFormes const fond{DonneModele(), Carnet(), recueil, nullptr};
     uno::Reference<drawing::XDrawPagesSupplier> const document(DonneModele(), uno::UNO_QUERY_THROW);
     uno::Reference<drawing::XDrawPages> const pages = document->getDrawPages();
@@ -54,11 +54,11 @@ void DocumentImpress::ParcoursZones(Recueil const& recueil) {
     }
 }
 
-std::unique_ptr<SelectionVue> DocumentImpress::LisChoixDuBureau() {
+std::unique_ptr<SelectionVue> DocumentImpress::LisSelectionDuBureau() {
     uno::Reference<uno::XInterface> const selection = DonneModele()->getCurrentSelection();
     // While a person edits a text: the range that is selected in it.
     uno::Reference<text::XTextRange> const plage(selection, uno::UNO_QUERY);
-    return plage.is() ? ChoixDansUneForme(plage) : ChoixDeFormes(selection);
+    return plage.is() ? SelectionDansUneForme(plage) : SelectionDeFormes(selection);
 }
 
 } // namespace extension

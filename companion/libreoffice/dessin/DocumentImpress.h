@@ -11,8 +11,8 @@ class DocumentImpress : public DocumentOuvert {
     using DocumentOuvert::DocumentOuvert;
 
   protected:
-    void ParcoursZones(Recueil const& recueil) override;
-    std::unique_ptr<SelectionVue> LisChoixDuBureau() override;
+    void ParcoursZones(RecueilDeZones const& recueil) override;
+    std::unique_ptr<SelectionVue> LisSelectionDuBureau() override;
 };
 
 } // namespace extension

@@ -2,6 +2,7 @@
 #include "ParcoursFormes.h"
 
 #include "TexteDeForme.h"
+#include "commun/Proprietes.h"
 
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/lang/XServiceInfo.hpp>
@@ -11,20 +12,10 @@
 #include <com/sun/star/table/XTable.hpp>
 
 using namespace com::sun::star;
-using rtl::OUString;
 
 namespace extension {
 
 namespace {
-
-bool Vaut(uno::Reference<beans::XPropertySet> const& objet, char const* nom, bool defaut) {
-    OUString const propriete = OUString::createFromAscii(nom);
-    bool vrai = defaut;
-    if (objet.is() && objet->getPropertySetInfo()->hasPropertyByName(propriete)) {
-        objet->getPropertyValue(propriete) >>= vrai;
-    }
-    return vrai;
-}
 
 /// `objet`: whose text it is; known again by itself, which its text alone would not be.
 void LisTexte(uno::Reference<uno::XInterface> const& objet,

@@ -13,7 +13,7 @@ namespace extension {
 struct FondDeFormes {
     css::uno::Reference<css::frame::XModel> modele;
     CarnetDeZones& carnet;
-    TexteDessine::Recueil const& recueil;
+    RecueilDeZones const& recueil;
     /// What protects the shapes; may be empty.
     std::shared_ptr<Contenant const> contenant;
 };

@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "SelectionDessinee.h"
 
-#include "TexteDessine.h"
-#include "commun/ErreurDuService.h"
+#include "ParagrapheDessine.h"
+#include "commun/Objets.h"
 
 #include <com/sun/star/drawing/XShapes.hpp>
-
-#include <map>
-#include <vector>
 
 using namespace com::sun::star;
 using compagnon::Intervalle;
@@ -15,16 +12,6 @@ using compagnon::Intervalle;
 namespace extension {
 
 namespace {
-
-uno::Reference<uno::XInterface> Identite(uno::Reference<uno::XInterface> const& objet) {
-    return uno::Reference<uno::XInterface>(objet, uno::UNO_QUERY);
-}
-
-/// The text that the zone is a paragraph of; null for another kind of zone.
-std::shared_ptr<TexteDessine> TexteDe(ZoneOuverte& zone) {
-    auto* const paragraphe = dynamic_cast<ParagrapheDessine*>(&zone);
-    return paragraphe == nullptr ? nullptr : paragraphe->DonneTexte();
-}
 
 class Formes : public SelectionVue {
   public:
@@ -35,13 +22,13 @@ class Formes : public SelectionVue {
         if (!Contient(zone)) {
             return std::nullopt;
         }
-        return Intervalle{0, static_cast<std::int32_t>(plan.DonneTexte().size())};
+        return Tout(plan);
     }
 
     std::shared_ptr<ZoneOuverte> Premiere(CarnetDeZones& carnet) override {
         // Of several shapes, or of a table's cells, only a walk knows which comes first.
         std::shared_ptr<TexteDessine> const texte =
-            formes_.size() == 1 ? carnet.RetrouveTexte(formes_.begin()->second) : nullptr;
+            formes_.Nombre() == 1 ? carnet.Retrouve<TexteDessine>(formes_.Seul()) : nullptr;
         if (!texte || texte->DonneZones().empty()) {
             return nullptr;
         }
@@ -51,28 +38,27 @@ class Formes : public SelectionVue {
 
     bool Deborde() override { return deborde_; }
 
-    bool EstEntier(ZoneOuverte& zone) override { return formes_.size() == 1 && Contient(zone); }
+    bool EstEntier(ZoneOuverte& zone) override { return formes_.Nombre() == 1 && Contient(zone); }
 
   private:
     void Ajoute(uno::Reference<drawing::XShapes> const& formes) {
         for (sal_Int32 i = 0; i < formes->getCount(); ++i) {
-            auto const forme =
-                Identite(uno::Reference<uno::XInterface>(formes->getByIndex(i), uno::UNO_QUERY));
+            uno::Reference<uno::XInterface> const forme(formes->getByIndex(i), uno::UNO_QUERY);
             uno::Reference<drawing::XShapes> const groupe(forme, uno::UNO_QUERY);
             if (groupe.is()) {
                 Ajoute(groupe);
             } else {
-                formes_.emplace(forme.get(), forme);
+                formes_.Ajoute(forme);
             }
         }
     }
 
     bool Contient(ZoneOuverte& zone) const {
         std::shared_ptr<TexteDessine> const texte = TexteDe(zone);
-        return texte && formes_.count(Identite(texte->DonnePorteur()).get()) > 0;
+        return texte && formes_.Contient(texte->DonnePorteur());
     }
 
-    std::map<uno::XInterface*, uno::Reference<uno::XInterface>> formes_;
+    Objets formes_;
     bool deborde_ = false;
 };
 
@@ -98,7 +84,7 @@ class PlageDansUneForme : public SelectionVue {
     }
 
     std::shared_ptr<ZoneOuverte> Premiere(CarnetDeZones& carnet) override {
-        std::shared_ptr<TexteDessine> const texte = carnet.RetrouveTexte(objet_);
+        std::shared_ptr<TexteDessine> const texte = carnet.Retrouve<TexteDessine>(objet_);
         if (!texte) {
             return nullptr;
         }
@@ -124,12 +110,12 @@ class PlageDansUneForme : public SelectionVue {
 
 } // namespace
 
-std::unique_ptr<SelectionVue> ChoixDeFormes(uno::Reference<uno::XInterface> const& selection) {
+std::unique_ptr<SelectionVue> SelectionDeFormes(uno::Reference<uno::XInterface> const& selection) {
     uno::Reference<drawing::XShapes> const formes(selection, uno::UNO_QUERY);
     return formes.is() ? std::make_unique<Formes>(formes) : nullptr;
 }
 
-std::unique_ptr<SelectionVue> ChoixDansUneForme(uno::Reference<text::XTextRange> const& plage) {
+std::unique_ptr<SelectionVue> SelectionDansUneForme(uno::Reference<text::XTextRange> const& plage) {
     return std::make_unique<PlageDansUneForme>(plage);
 }
 

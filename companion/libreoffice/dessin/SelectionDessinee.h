@@ -10,10 +10,10 @@ namespace extension {
 /// Texts of the drawing engine are selected: those of the selected shapes (groups and tables stand
 /// for what is in them); `selection` is the office's collection of shapes. Null for anything else.
 std::unique_ptr<SelectionVue>
-ChoixDeFormes(css::uno::Reference<css::uno::XInterface> const& selection);
+SelectionDeFormes(css::uno::Reference<css::uno::XInterface> const& selection);
 
 /// A range inside one such text, which a person is editing.
 std::unique_ptr<SelectionVue>
-ChoixDansUneForme(css::uno::Reference<css::text::XTextRange> const& plage);
+SelectionDansUneForme(css::uno::Reference<css::text::XTextRange> const& plage);
 
 } // namespace extension

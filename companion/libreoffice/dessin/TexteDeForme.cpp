@@ -3,6 +3,7 @@
 
 #include "EditionEnCours.h"
 #include "commun/ErreurDuService.h"
+#include "document/SelectionDuBureau.h"
 
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/container/XChild.hpp>
@@ -12,7 +13,6 @@
 #include <com/sun/star/drawing/XShapes.hpp>
 #include <com/sun/star/office/XAnnotationAccess.hpp>
 #include <com/sun/star/table/XTable.hpp>
-#include <com/sun/star/view/XSelectionSupplier.hpp>
 
 #include <utility>
 
@@ -48,15 +48,13 @@ class Forme : public TexteDessine {
     }
 
     void Selectionne() override {
-        uno::Reference<frame::XController> const vue(DonneModele()->getCurrentController(),
-                                                     uno::UNO_SET_THROW);
         uno::Reference<drawing::XDrawPage> const page(porteur_, uno::UNO_QUERY);
         if (page.is()) {
-            uno::Reference<drawing::XDrawView> const pages(vue, uno::UNO_QUERY_THROW);
+            uno::Reference<drawing::XDrawView> const pages(DonneModele()->getCurrentController(),
+                                                           uno::UNO_QUERY_THROW);
             pages->setCurrentPage(page);
         } else {
-            uno::Reference<view::XSelectionSupplier> const choix(vue, uno::UNO_QUERY_THROW);
-            choix->select(uno::Any(porteur_));
+            SelectionneDans(DonneModele(), uno::Any(porteur_));
         }
     }
 

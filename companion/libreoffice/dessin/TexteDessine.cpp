@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "TexteDessine.h"
 
-#include "AnnulationDessin.h"
+#include "ParagrapheDessine.h"
 #include "commun/ChainesUno.h"
-#include "commun/ErreurDuService.h"
+#include "commun/Objets.h"
 #include "lecture/Curseur.h"
 #include "lecture/PlaceParmi.h"
 #include "modele/ParagraphesRetrouves.h"
@@ -94,7 +94,7 @@ void TexteDessine::Accueille(std::vector<ParagrapheLu> const& lus, CarnetDeZones
             carnet.InscrisCle(zones[i]);
         }
     }
-    Vide(carnet);
+    Quitte(carnet);
     zones_ = std::move(zones);
     textes_ = std::move(textes);
 }
@@ -121,7 +121,7 @@ TexteDessine::Partage(uno::Reference<text::XTextRange> const& plage) const {
     return parts;
 }
 
-void TexteDessine::Vide(CarnetDeZones& carnet) {
+void TexteDessine::Quitte(CarnetDeZones& carnet) {
     for (std::shared_ptr<ParagrapheDessine> const& zone : zones_) {
         if (zone) {
             carnet.OublieCle(zone->DonneCle());
@@ -175,53 +175,8 @@ void TexteDessine::Execute(ParagrapheLu const& lu, compagnon::EtapeEdition const
     }
 }
 
-ParagrapheDessine::ParagrapheDessine(std::string cle, std::weak_ptr<TexteDessine> texte,
-                                     CarnetDeZones& carnet)
-    : ZoneOuverte(std::move(cle))
-    , texte_(std::move(texte))
-    , carnet_(carnet) {}
-
-std::shared_ptr<TexteDessine> ParagrapheDessine::DonneTexte() const {
-    std::shared_ptr<TexteDessine> texte = texte_.lock();
-    if (!texte) {
-        throw ZoneInconnue();
-    }
-    return texte;
-}
-
-PlanDePortions ParagrapheDessine::Lis() {
-    std::shared_ptr<TexteDessine> const texte = DonneTexte();
-    std::vector<ParagrapheLu> lus = texte->Relis(carnet_);
-    for (std::size_t i = 0; i < lus.size(); ++i) {
-        if (texte->DonneZones()[i].get() == this) {
-            rang_ = i;
-            return std::move(lus[i].plan);
-        }
-    }
-    throw ZoneInconnue();
-}
-
-bool ParagrapheDessine::EstProtegee() {
-    return DonneTexte()->EstProtege();
-}
-
-void ParagrapheDessine::Applique(CorrectionPrete const& correction) {
-    std::shared_ptr<TexteDessine> const texte = DonneTexte();
-    if (!texte->Remplace(rang_, correction.debut, correction.avant, correction.apres)) {
-        throw Refuse("the range cannot be changed without harm to its format");
-    }
-    if (!texte->SAnnuleSeul()) {
-        AjouteAnnulation(texte, rang_, correction);
-    }
-}
-
-void ParagrapheDessine::Selectionne(PlanDePortions const& /*plan*/, std::size_t /*debut*/,
-                                    std::size_t /*fin*/) {
-    DonneTexte()->Selectionne();
-}
-
-void DonneZones(TexteDessine const& texte, std::vector<ParagrapheLu>&& lus,
-                TexteDessine::Recueil const& recueil) {
+void RecueilleZones(TexteDessine const& texte, std::vector<ParagrapheLu>&& lus,
+                    RecueilDeZones const& recueil) {
     // A copy: whoever gets a zone may read its text anew.
     auto const debut = texte.DonneZones().begin();
     std::vector<std::shared_ptr<ParagrapheDessine>> const zones(debut, texte.DonneZones().end());
@@ -232,14 +187,14 @@ void DonneZones(TexteDessine const& texte, std::vector<ParagrapheLu>&& lus,
 
 void ParcoursTexteDessine(uno::Reference<uno::XInterface> const& objet,
                           std::function<std::shared_ptr<TexteDessine>()> const& fabrique,
-                          CarnetDeZones& carnet, TexteDessine::Recueil const& recueil) {
-    uno::Reference<uno::XInterface> const identite(objet, uno::UNO_QUERY);
-    std::shared_ptr<TexteDessine> texte = carnet.RetrouveTexte(identite);
+                          CarnetDeZones& carnet, RecueilDeZones const& recueil) {
+    uno::Reference<uno::XInterface> const identite = Identite(objet);
+    auto texte = carnet.Retrouve<TexteDessine>(identite);
     if (!texte) {
         texte = fabrique();
-        carnet.InscrisTexte(identite, texte);
+        carnet.Inscris(identite, texte);
     }
-    DonneZones(*texte, texte->Relis(carnet), recueil);
+    RecueilleZones(*texte, texte->Relis(carnet), recueil);
 }
 
 } // namespace extension

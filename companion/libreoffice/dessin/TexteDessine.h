@@ -22,17 +22,12 @@ class ParagrapheDessine;
 
 /// A text of the office's drawing engine: in a shape, a comment, a spreadsheet cell. Its paragraphs
 /// have no objects that last: they are known again by their words. Main thread only.
-class TexteDessine : public std::enable_shared_from_this<TexteDessine> {
+class TexteDessine : public Inscrit, public std::enable_shared_from_this<TexteDessine> {
   public:
-    using Recueil =
-        std::function<void(std::shared_ptr<ZoneOuverte> const&, compagnon::PlanDePortions&&)>;
-
     TexteDessine(css::uno::Reference<css::uno::XInterface> const& objet,
                  css::uno::Reference<css::frame::XModel> const& modele,
                  std::shared_ptr<Contenant const> contenant);
-    TexteDessine(TexteDessine const&) = delete;
-    TexteDessine& operator=(TexteDessine const&) = delete;
-    virtual ~TexteDessine();
+    ~TexteDessine() override;
 
     /// Reads all paragraphs and settles which zone each is; new ones get keys from the book.
     std::vector<ParagrapheLu> Relis(CarnetDeZones& carnet);
@@ -41,8 +36,7 @@ class TexteDessine : public std::enable_shared_from_this<TexteDessine> {
     std::vector<std::shared_ptr<ParagrapheDessine>> const& DonneZones() const noexcept {
         return zones_;
     }
-    /// Takes all zones out of the book.
-    void Vide(CarnetDeZones& carnet);
+    void Quitte(CarnetDeZones& carnet) override;
 
     /// Puts one text in place of another, letter for letter as `PlanDePortions::Prepare` says;
     /// false when what stands there is another text, or it cannot be done safely.
@@ -83,38 +77,14 @@ class TexteDessine : public std::enable_shared_from_this<TexteDessine> {
     std::vector<std::u16string> textes_;
 };
 
-/// One paragraph of such a text.
-class ParagrapheDessine : public ZoneOuverte {
-  public:
-    ParagrapheDessine(std::string cle, std::weak_ptr<TexteDessine> texte, CarnetDeZones& carnet);
-
-    compagnon::PlanDePortions Lis() override;
-    bool EstProtegee() override;
-    bool EstEnFrappe() override { return DonneTexte()->EstEnFrappe(); }
-    bool PermetsRetour() const override { return false; }
-    void Applique(CorrectionPrete const& correction) override;
-    void Selectionne(compagnon::PlanDePortions const& plan, std::size_t debut,
-                     std::size_t fin) override;
-
-    /// The text that it is a paragraph of; throws `ErreurDuService` when that has left the
-    /// document.
-    std::shared_ptr<TexteDessine> DonneTexte() const;
-    std::size_t DonneRang() const noexcept { return rang_; }
-
-  private:
-    std::weak_ptr<TexteDessine> texte_; // which owns this zone
-    CarnetDeZones& carnet_;
-    std::size_t rang_ = 0; // since the last reading
-};
-
 /// Hands out the zones of a text whose paragraphs were just read.
-void DonneZones(TexteDessine const& texte, std::vector<ParagrapheLu>&& lus,
-                TexteDessine::Recueil const& recueil);
+void RecueilleZones(TexteDessine const& texte, std::vector<ParagrapheLu>&& lus,
+                    RecueilDeZones const& recueil);
 
 /// Reads and hands out the zones of such a text; `fabrique` makes it when it is met for the first
 /// time.
 void ParcoursTexteDessine(css::uno::Reference<css::uno::XInterface> const& objet,
                           std::function<std::shared_ptr<TexteDessine>()> const& fabrique,
-                          CarnetDeZones& carnet, TexteDessine::Recueil const& recueil);
+                          CarnetDeZones& carnet, RecueilDeZones const& recueil);
 
 } // namespace extension

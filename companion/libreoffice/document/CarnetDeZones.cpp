@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "CarnetDeZones.h"
 
-#include "dessin/TexteDessine.h"
-
 using namespace com::sun::star;
 
 namespace extension {
@@ -11,38 +9,20 @@ std::string CarnetDeZones::NouvelleCle() {
     return prefixe_ + ":" + std::to_string(++derniere_);
 }
 
-std::shared_ptr<ZoneOuverte> CarnetDeZones::Retrouve(uno::Reference<uno::XInterface> const& objet) {
+std::shared_ptr<Inscrit> CarnetDeZones::Revois(uno::Reference<uno::XInterface> const& objet) {
     auto const trouve = parObjet_.find(objet.get());
     if (trouve == parObjet_.end()) {
         return nullptr;
     }
     Rencontre(trouve->second);
-    return trouve->second.zone;
+    return trouve->second.inscrit;
 }
 
 void CarnetDeZones::Inscris(uno::Reference<uno::XInterface> const& objet,
-                            std::shared_ptr<ZoneOuverte> const& zone) {
+                            std::shared_ptr<Inscrit> const& inscrit) {
     Entree& entree = parObjet_[objet.get()];
     Rencontre(entree);
-    entree = {objet, zone, nullptr, passage_};
-    InscrisCle(zone);
-}
-
-std::shared_ptr<TexteDessine>
-CarnetDeZones::RetrouveTexte(uno::Reference<uno::XInterface> const& objet) {
-    auto const trouve = parObjet_.find(objet.get());
-    if (trouve == parObjet_.end()) {
-        return nullptr;
-    }
-    Rencontre(trouve->second);
-    return trouve->second.texte;
-}
-
-void CarnetDeZones::InscrisTexte(uno::Reference<uno::XInterface> const& objet,
-                                 std::shared_ptr<TexteDessine> const& texte) {
-    Entree& entree = parObjet_[objet.get()];
-    Rencontre(entree);
-    entree = {objet, nullptr, texte, passage_};
+    entree = {objet, inscrit, passage_};
 }
 
 void CarnetDeZones::InscrisCle(std::shared_ptr<ZoneOuverte> const& zone) {
@@ -74,12 +54,7 @@ void CarnetDeZones::Termine() {
             ++it;
             continue;
         }
-        if (it->second.zone) {
-            OublieCle(it->second.zone->DonneCle());
-        }
-        if (it->second.texte) {
-            it->second.texte->Vide(*this);
-        }
+        it->second.inscrit->Quitte(*this);
         it = parObjet_.erase(it);
     }
 }

@@ -13,8 +13,6 @@
 
 namespace extension {
 
-class TexteDessine;
-
 /// The keys of a document's zones: the same paragraph keeps the same key for as long as the office
 /// keeps the same object for it, which it does while this book holds that object. Main thread only.
 class CarnetDeZones {
@@ -25,17 +23,17 @@ class CarnetDeZones {
     /// A key never given before.
     std::string NouvelleCle();
 
-    /// The zone of an object of the office, or null; marks it as still there.
-    std::shared_ptr<ZoneOuverte> Retrouve(css::uno::Reference<css::uno::XInterface> const& objet);
+    /// What was entered for an object of the office, or null when that is not, or not of that kind;
+    /// marks it as still there.
+    template <typename Genre>
+    std::shared_ptr<Genre> Retrouve(css::uno::Reference<css::uno::XInterface> const& objet) {
+        return std::dynamic_pointer_cast<Genre>(Revois(objet));
+    }
+    /// Enters a zone, or a text whose zones come and go on their own, for its object.
     void Inscris(css::uno::Reference<css::uno::XInterface> const& objet,
-                 std::shared_ptr<ZoneOuverte> const& zone);
+                 std::shared_ptr<Inscrit> const& inscrit);
 
-    /// The same for an object that holds several zones.
-    std::shared_ptr<TexteDessine>
-    RetrouveTexte(css::uno::Reference<css::uno::XInterface> const& objet);
-    void InscrisTexte(css::uno::Reference<css::uno::XInterface> const& objet,
-                      std::shared_ptr<TexteDessine> const& texte);
-    /// Such an object's zones come and go on their own.
+    /// From now on the zone is found by its key.
     void InscrisCle(std::shared_ptr<ZoneOuverte> const& zone);
     void OublieCle(std::string const& cle);
 
@@ -51,11 +49,11 @@ class CarnetDeZones {
   private:
     struct Entree {
         css::uno::Reference<css::uno::XInterface> objet;
-        std::shared_ptr<ZoneOuverte> zone;
-        std::shared_ptr<TexteDessine> texte;
+        std::shared_ptr<Inscrit> inscrit;
         std::uint64_t passage = 0;
     };
 
+    std::shared_ptr<Inscrit> Revois(css::uno::Reference<css::uno::XInterface> const& objet);
     void Rencontre(Entree& entree);
 
     std::string prefixe_;

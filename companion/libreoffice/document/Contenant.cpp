@@ -1,20 +1,15 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Contenant.h"
 
+#include "commun/Proprietes.h"
+
 #include <com/sun/star/text/XTextSection.hpp>
 
 using namespace com::sun::star;
-using rtl::OUString;
 
 namespace extension {
 
 namespace {
-
-bool Vaut(uno::Reference<beans::XPropertySet> const& objet, char const* nom, bool defaut) {
-    bool vrai = defaut;
-    objet->getPropertyValue(OUString::createFromAscii(nom)) >>= vrai;
-    return vrai;
-}
 
 /// Does any section around the paragraph meet the condition?
 template <typename Condition>

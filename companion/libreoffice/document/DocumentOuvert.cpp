@@ -19,6 +19,30 @@ using compagnon::Intervalle;
 
 namespace extension {
 
+namespace {
+
+/// A range that a caller selected in something that the office has selected as a whole, for as long
+/// as that stays so.
+class SelectionRetenue : public SelectionVue {
+  public:
+    SelectionRetenue(std::shared_ptr<ZoneOuverte> zone, compagnon::Intervalle plage)
+        : zone_(std::move(zone))
+        , plage_(plage) {}
+
+    std::optional<compagnon::Intervalle> Dans(ZoneOuverte& zone,
+                                              compagnon::PlanDePortions const& /*plan*/) override {
+        return &zone == zone_.get() ? std::make_optional(plage_) : std::nullopt;
+    }
+    std::shared_ptr<ZoneOuverte> Premiere(CarnetDeZones& /*carnet*/) override { return zone_; }
+    bool Deborde() override { return false; }
+
+  private:
+    std::shared_ptr<ZoneOuverte> zone_;
+    compagnon::Intervalle plage_;
+};
+
+} // namespace
+
 DocumentOuvert::DocumentOuvert(uno::Reference<frame::XModel> const& modele, std::string cle)
     : modele_(modele)
     , cle_(std::move(cle))
@@ -66,56 +90,56 @@ void DocumentOuvert::Active() const {
     }
 }
 
-std::unique_ptr<SelectionVue> DocumentOuvert::LisChoix() {
-    std::unique_ptr<SelectionVue> choix = LisChoixDuBureau();
+std::unique_ptr<SelectionVue> DocumentOuvert::LisSelection() {
+    std::unique_ptr<SelectionVue> selection = LisSelectionDuBureau();
     if (retenue_) {
-        if (choix && EstEncore(*retenue_, *choix)) {
+        if (selection && EstEncore(*retenue_, *selection)) {
             return std::make_unique<SelectionRetenue>(carnet_.TrouveParCle(retenue_->cle),
                                                       retenue_->plage);
         }
         retenue_.reset();
     }
-    return choix;
+    return selection;
 }
 
-bool DocumentOuvert::EstEncore(Retenue const& retenue, SelectionVue& choix) const {
+bool DocumentOuvert::EstEncore(Retenue const& retenue, SelectionVue& selection) const {
     std::shared_ptr<ZoneOuverte> const zone = carnet_.TrouveParCle(retenue.cle);
     try {
-        return zone && choix.EstEntier(*zone) && zone->Lis().DonneTexte() == retenue.texte;
+        return zone && selection.EstEntier(*zone) && zone->Lis().DonneTexte() == retenue.texte;
     } catch (ErreurDuService const&) {
         return false; // it left the document
     }
 }
 
 void DocumentOuvert::Parcours(Visiteur const& visiteur) {
-    std::unique_ptr<SelectionVue> const choix = LisChoix();
+    std::unique_ptr<SelectionVue> const selection = LisSelection();
     carnet_.Commence();
     ParcoursZones([&](std::shared_ptr<ZoneOuverte> const& zone, compagnon::PlanDePortions&& plan) {
-        auto const choisi = choix ? choix->Dans(*zone, plan) : std::nullopt;
+        auto const choisi = selection ? selection->Dans(*zone, plan) : std::nullopt;
         visiteur({zone, std::move(plan), choisi, false});
     });
     carnet_.Termine();
 }
 
 std::optional<ZoneLue> DocumentOuvert::DonneSelection() {
-    std::unique_ptr<SelectionVue> choix = LisChoix();
-    if (!choix) {
+    std::unique_ptr<SelectionVue> selection = LisSelection();
+    if (!selection) {
         return std::nullopt;
     }
-    std::shared_ptr<ZoneOuverte> zone = choix->Premiere(carnet_);
-    bool deborde = zone && choix->Deborde();
+    std::shared_ptr<ZoneOuverte> zone = selection->Premiere(carnet_);
+    bool deborde = zone && selection->Deborde();
     if (!zone) {
         Parcours([&](ZoneLue const& lue) {
             deborde = deborde || (zone && lue.selection);
             zone = zone || !lue.selection ? zone : lue.zone;
         });
-        choix = LisChoix();
+        selection = LisSelection();
     }
-    if (!zone || !choix) {
+    if (!zone || !selection) {
         return std::nullopt;
     }
     compagnon::PlanDePortions plan = zone->Lis();
-    auto const choisi = choix->Dans(*zone, plan);
+    auto const choisi = selection->Dans(*zone, plan);
     return ZoneLue{zone, std::move(plan), choisi.value_or(Intervalle()), deborde};
 }
 

@@ -59,12 +59,9 @@ class DocumentOuvert {
                      compagnon::Intervalle plage);
 
   protected:
-    using Recueil =
-        std::function<void(std::shared_ptr<ZoneOuverte> const&, compagnon::PlanDePortions&&)>;
-
-    virtual void ParcoursZones(Recueil const& recueil) = 0;
+    virtual void ParcoursZones(RecueilDeZones const& recueil) = 0;
     /// What is selected now; null for nothing with a text.
-    virtual std::unique_ptr<SelectionVue> LisChoixDuBureau() = 0;
+    virtual std::unique_ptr<SelectionVue> LisSelectionDuBureau() = 0;
 
     CarnetDeZones& Carnet() noexcept { return carnet_; }
 
@@ -76,8 +73,8 @@ class DocumentOuvert {
         compagnon::Intervalle plage;
     };
 
-    std::unique_ptr<SelectionVue> LisChoix();
-    bool EstEncore(Retenue const& retenue, SelectionVue& choix) const;
+    std::unique_ptr<SelectionVue> LisSelection();
+    bool EstEncore(Retenue const& retenue, SelectionVue& selection) const;
 
     css::uno::Reference<css::frame::XModel> modele_;
     std::string cle_;

@@ -4,9 +4,9 @@
 #include "CarnetDeZones.h"
 #include "modele/Intervalle.h"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
-#include <utility>
 
 namespace extension {
 
@@ -32,25 +32,12 @@ class SelectionVue {
     /// Is all that the office knows that one thing is selected (a cell, a shape), which holds the
     /// zone? A part of its text cannot be selected from outside then, only remembered.
     virtual bool EstEntier(ZoneOuverte& /*zone*/) { return false; }
-};
 
-/// A range that a caller selected in such a thing, as long as that one stays selected.
-class SelectionRetenue : public SelectionVue {
-  public:
-    SelectionRetenue(std::shared_ptr<ZoneOuverte> zone, compagnon::Intervalle plage)
-        : zone_(std::move(zone))
-        , plage_(plage) {}
-
-    std::optional<compagnon::Intervalle> Dans(ZoneOuverte& zone,
-                                              compagnon::PlanDePortions const& /*plan*/) override {
-        return &zone == zone_.get() ? std::make_optional(plage_) : std::nullopt;
+  protected:
+    /// The part in a zone that is selected whole.
+    static compagnon::Intervalle Tout(compagnon::PlanDePortions const& plan) {
+        return {0, static_cast<std::int32_t>(plan.DonneTexte().size())};
     }
-    std::shared_ptr<ZoneOuverte> Premiere(CarnetDeZones& /*carnet*/) override { return zone_; }
-    bool Deborde() override { return false; }
-
-  private:
-    std::shared_ptr<ZoneOuverte> zone_;
-    compagnon::Intervalle plage_;
 };
 
 } // namespace extension

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
+#include "Inscrit.h"
 #include "modele/PlanDePortions.h"
 
 #include <cstddef>
+#include <functional>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -21,13 +24,12 @@ struct CorrectionPrete {
 
 /// One paragraph of an open document, as long as it lives there. Main thread only. Every operation
 /// may throw a UNO exception, or `ErreurDuService` when the paragraph has left the document.
-class ZoneOuverte {
+class ZoneOuverte : public Inscrit {
   public:
     explicit ZoneOuverte(std::string cle)
         : cle_(std::move(cle)) {}
-    ZoneOuverte(ZoneOuverte const&) = delete;
-    ZoneOuverte& operator=(ZoneOuverte const&) = delete;
-    virtual ~ZoneOuverte() = default;
+
+    void Quitte(CarnetDeZones& carnet) override;
 
     /// The `idZone` of the wire; opaque.
     std::string const& DonneCle() const noexcept { return cle_; }
@@ -57,5 +59,9 @@ class ZoneOuverte {
   private:
     std::string cle_;
 };
+
+/// Gets the zones of a document one after the other, each with what it holds now.
+using RecueilDeZones =
+    std::function<void(std::shared_ptr<ZoneOuverte> const&, compagnon::PlanDePortions&&)>;
 
 } // namespace extension

@@ -9,10 +9,7 @@ using namespace com::sun::star;
 
 namespace extension {
 
-std::size_t CompteLesPas(std::u16string_view lettres, Pas pas) noexcept {
-    if (pas == Pas::Unites) {
-        return lettres.size();
-    }
+std::size_t CompteLesPas(std::u16string_view lettres) noexcept {
     std::size_t nombre = 0;
     for (std::size_t i = 0; i < lettres.size(); ++i) {
         nombre += i > 0 && compagnon::CoupePaire(lettres, i) ? 0 : 1;

@@ -9,13 +9,11 @@
 
 namespace extension {
 
-/// How a cursor of the office counts its steps inside letters.
-enum class Pas { PointsDeCode, Unites };
+/// Steps that a cursor of Writer takes over these letters: one a code point. Any thread.
+std::size_t CompteLesPas(std::u16string_view lettres) noexcept;
 
-/// Steps that a cursor takes over these letters.
-std::size_t CompteLesPas(std::u16string_view lettres, Pas pas) noexcept;
-
-/// Moves by any number of steps (the office's own call takes no more than 32,767).
+/// Moves by any number of steps (the office's own call takes no more than 32,767); throws what the
+/// office throws. Main thread, as the next one.
 void Avance(css::uno::Reference<css::text::XTextCursor> const& curseur, std::size_t nombre,
             bool etend);
 

@@ -2,10 +2,10 @@
 #include "CommentaireWriter.h"
 
 #include "commun/ChainesUno.h"
+#include "document/SelectionDuBureau.h"
 
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/text/XTextContent.hpp>
-#include <com/sun/star/view/XSelectionSupplier.hpp>
 
 #include <utility>
 
@@ -49,9 +49,7 @@ class Commentaire : public TexteDessine {
 
     void Selectionne() override {
         uno::Reference<text::XTextContent> const contenu(DonneObjet(), uno::UNO_QUERY_THROW);
-        uno::Reference<view::XSelectionSupplier> const vue(DonneModele()->getCurrentController(),
-                                                           uno::UNO_QUERY_THROW);
-        vue->select(uno::Any(contenu->getAnchor()));
+        SelectionneDans(DonneModele(), uno::Any(contenu->getAnchor()));
     }
 
   protected:

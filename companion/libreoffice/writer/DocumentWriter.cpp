@@ -14,12 +14,12 @@ DocumentWriter::DocumentWriter(uno::Reference<frame::XModel> const& modele, std:
     : DocumentOuvert(modele, std::move(cle))
     , fond_(std::make_shared<FondWriter>(FondWriter{modele, {}, Suppressions(modele)})) {}
 
-void DocumentWriter::ParcoursZones(Recueil const& recueil) {
+void DocumentWriter::ParcoursZones(RecueilDeZones const& recueil) {
     ParcoursWriter(fond_, Carnet(), recueil).Parcours();
 }
 
-std::unique_ptr<SelectionVue> DocumentWriter::LisChoixDuBureau() {
-    return LisChoixWriter(DonneModele());
+std::unique_ptr<SelectionVue> DocumentWriter::LisSelectionDuBureau() {
+    return LisSelectionWriter(DonneModele());
 }
 
 } // namespace extension

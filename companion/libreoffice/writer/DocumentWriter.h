@@ -12,8 +12,8 @@ class DocumentWriter : public DocumentOuvert {
     DocumentWriter(css::uno::Reference<css::frame::XModel> const& modele, std::string cle);
 
   protected:
-    void ParcoursZones(Recueil const& recueil) override;
-    std::unique_ptr<SelectionVue> LisChoixDuBureau() override;
+    void ParcoursZones(RecueilDeZones const& recueil) override;
+    std::unique_ptr<SelectionVue> LisSelectionDuBureau() override;
 
   private:
     std::shared_ptr<FondWriter const> fond_;

@@ -3,14 +3,13 @@
 
 #include "commun/ChainesUno.h"
 #include "commun/ErreurDuService.h"
+#include "document/SelectionDuBureau.h"
 #include "lecture/Curseur.h"
 #include "lecture/PlaceParmi.h"
 
 #include <com/sun/star/container/XEnumerationAccess.hpp>
-#include <com/sun/star/frame/XController.hpp>
 #include <com/sun/star/lang/IllegalArgumentException.hpp>
 #include <com/sun/star/text/XTextRangeCompare.hpp>
-#include <com/sun/star/view/XSelectionSupplier.hpp>
 
 #include <utility>
 
@@ -32,7 +31,7 @@ Position(uno::Reference<text::XText> const& texte, PlanDePortions const& plan,
         return place.unite == 0 ? etendue->getStart() : etendue->getEnd();
     }
     std::u16string_view const avant = std::u16string_view(portion.source).substr(0, place.unite);
-    return PlaceCurseur(texte, etendue, CompteLesPas(avant, Pas::PointsDeCode)).get();
+    return PlaceCurseur(texte, etendue, CompteLesPas(avant)).get();
 }
 
 } // namespace
@@ -80,16 +79,14 @@ void ParagrapheWriter::Applique(CorrectionPrete const& correction) {
     std::vector<uno::Reference<text::XTextRange>> const etendues = DonneEtendues();
     for (compagnon::EtapeEdition const& etape : correction.etapes) {
         std::u16string_view const source = etape.source;
-        std::size_t const avant = CompteLesPas(source.substr(0, etape.debut), Pas::PointsDeCode);
+        std::size_t const avant = CompteLesPas(source.substr(0, etape.debut));
         uno::Reference<text::XTextCursor> const curseur =
             PlaceCurseur(contenant_->texte, etendues.at(etape.portion), avant);
         if (etape.EstInsertion()) {
             contenant_->texte->insertString(curseur.get(), EnUno(etape.ajout), false);
             continue;
         }
-        Avance(curseur,
-               CompteLesPas(source.substr(etape.debut, etape.fin - etape.debut), Pas::PointsDeCode),
-               true);
+        Avance(curseur, CompteLesPas(source.substr(etape.debut, etape.fin - etape.debut)), true);
         curseur->setString(rtl::OUString());
     }
 }
@@ -109,13 +106,12 @@ void ParagrapheWriter::Selectionne(PlanDePortions const& plan, std::size_t debut
         uno::Reference<text::XTextRange> const etendue(paragraphe_, uno::UNO_QUERY_THROW);
         curseur = contenant_->texte->createTextCursorByRange(etendue->getStart());
     }
-    uno::Reference<view::XSelectionSupplier> const vue(fond_->modele->getCurrentController(),
-                                                       uno::UNO_QUERY_THROW);
-    vue->select(uno::Any(uno::Reference<text::XTextRange>(curseur, uno::UNO_QUERY_THROW)));
+    SelectionneDans(fond_->modele,
+                    uno::Any(uno::Reference<text::XTextRange>(curseur, uno::UNO_QUERY_THROW)));
 }
 
 bool ParagrapheWriter::EstCelleDe(uno::Reference<uno::XInterface> const& objet) const {
-    return uno::Reference<uno::XInterface>(paragraphe_, uno::UNO_QUERY).get() == objet.get();
+    return Identite(paragraphe_).get() == objet.get();
 }
 
 bool ParagrapheWriter::EstVoisineDe(uno::Reference<uno::XInterface> const& objet) const {
@@ -123,11 +119,10 @@ bool ParagrapheWriter::EstVoisineDe(uno::Reference<uno::XInterface> const& objet
     return etendue.is() && etendue->getText() == contenant_->texte;
 }
 
-bool ParagrapheWriter::EstDans(std::set<uno::XInterface*> const& textes) const {
+bool ParagrapheWriter::EstDans(Objets const& textes) const {
     for (Contenant const* autour = contenant_.get(); autour != nullptr;
          autour = autour->parent.get()) {
-        uno::Reference<uno::XInterface> const identite(autour->texte, uno::UNO_QUERY);
-        if (textes.count(identite.get()) > 0) {
+        if (textes.Contient(autour->texte)) {
             return true;
         }
     }

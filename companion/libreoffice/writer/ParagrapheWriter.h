@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Suppressions.h"
+#include "commun/Objets.h"
 #include "document/Contenant.h"
 #include "document/ZoneOuverte.h"
 #include "lecture/LecteurPortions.h"
@@ -10,7 +11,6 @@
 #include <com/sun/star/text/XTextContent.hpp>
 
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -42,7 +42,7 @@ class ParagrapheWriter : public ZoneOuverte {
     /// Does it stand in the same text (body, cell, note) as that object?
     bool EstVoisineDe(css::uno::Reference<css::uno::XInterface> const& objet) const;
     /// Does it stand in one of these texts, or in what is nested in one?
-    bool EstDans(std::set<css::uno::XInterface*> const& textes) const;
+    bool EstDans(Objets const& textes) const;
 
     /// The place, in the paragraph as it stands, of a range of the document; what lies outside
     /// counts as the nearest end.

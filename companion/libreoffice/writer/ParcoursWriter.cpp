@@ -2,6 +2,7 @@
 #include "ParcoursWriter.h"
 
 #include "CommentaireWriter.h"
+#include "commun/Proprietes.h"
 #include "dessin/TexteDeForme.h"
 
 #include <com/sun/star/container/XContentEnumerationAccess.hpp>
@@ -24,10 +25,6 @@ namespace extension {
 
 namespace {
 
-uno::Reference<uno::XInterface> Identite(uno::Reference<uno::XInterface> const& objet) {
-    return uno::Reference<uno::XInterface>(objet, uno::UNO_QUERY);
-}
-
 uno::Reference<drawing::XDrawPage> PageDeDessin(uno::Reference<frame::XModel> const& modele) {
     uno::Reference<drawing::XDrawPageSupplier> const document(modele, uno::UNO_QUERY_THROW);
     // Deprecated in favour of several pages; Writer has one, and no other way to it.
@@ -43,19 +40,10 @@ std::shared_ptr<Contenant> Contient(uno::Reference<text::XText> const& texte) {
     return contenant;
 }
 
-bool Vaut(uno::Reference<beans::XPropertySet> const& objet, char const* nom, bool defaut) {
-    OUString const propriete = OUString::createFromAscii(nom);
-    bool vrai = defaut;
-    if (objet.is() && objet->getPropertySetInfo()->hasPropertyByName(propriete)) {
-        objet->getPropertyValue(propriete) >>= vrai;
-    }
-    return vrai;
-}
-
 } // namespace
 
 ParcoursWriter::ParcoursWriter(std::shared_ptr<FondWriter const> fond, CarnetDeZones& carnet,
-                               Recueil const& recueil)
+                               RecueilDeZones const& recueil)
     : fond_(std::move(fond))
     , carnet_(carnet)
     , recueil_(recueil) {}
@@ -121,11 +109,12 @@ void ParcoursWriter::ParcoursParagraphe(
     uno::Reference<container::XEnumerationAccess> const& portions,
     std::shared_ptr<Contenant const> const& contenant, int& suppressions) {
     uno::Reference<uno::XInterface> const objet = Identite(paragraphe);
-    auto zone = std::dynamic_pointer_cast<ParagrapheWriter>(carnet_.Retrouve(objet));
+    auto zone = carnet_.Retrouve<ParagrapheWriter>(objet);
     if (!zone) {
         zone =
             std::make_shared<ParagrapheWriter>(carnet_.NouvelleCle(), paragraphe, contenant, fond_);
         carnet_.Inscris(objet, zone);
+        carnet_.InscrisCle(zone);
     }
     ParagrapheLu lu = fond_->lecteur.Lis(portions, suppressions);
     std::vector<Rencontre> const rencontres = std::move(lu.rencontres);
@@ -164,7 +153,7 @@ void ParcoursWriter::ParcoursRencontre(Rencontre const& rencontre,
         auto dessine = std::make_shared<Contenant>();
         dessine->ancre = ancre;
         dessine->parent = contenant;
-        if (vus_.insert(Identite(rencontre.objet).get()).second) {
+        if (vus_.Ajoute(rencontre.objet)) {
             ParcoursTexteDessine(
                 rencontre.objet,
                 [&] { return TexteDeCommentaire(rencontre.objet, fond_->modele, dessine); },
@@ -189,7 +178,7 @@ void ParcoursWriter::ParcoursRencontre(Rencontre const& rencontre,
 void ParcoursWriter::ParcoursCadre(uno::Reference<uno::XInterface> const& objet,
                                    std::shared_ptr<Contenant const> const& parent,
                                    uno::Reference<beans::XPropertySet> const& ancre) {
-    if (!objet.is() || !vus_.insert(Identite(objet).get()).second) {
+    if (!objet.is() || !vus_.Ajoute(objet)) {
         return;
     }
     uno::Reference<beans::XPropertySet> const proprietes(objet, uno::UNO_QUERY);
@@ -231,9 +220,7 @@ void ParcoursWriter::ParcoursPages() {
         uno::Reference<uno::XInterface> const objet(page->getByIndex(i), uno::UNO_QUERY);
         text::TextContentAnchorType ancrage = text::TextContentAnchorType_AT_PARAGRAPH;
         uno::Reference<beans::XPropertySet> const proprietes(objet, uno::UNO_QUERY);
-        if (proprietes.is()) {
-            proprietes->getPropertyValue("AnchorType") >>= ancrage;
-        }
+        ValeurSiConnue(proprietes, "AnchorType") >>= ancrage;
         // What hangs on a paragraph was met with it, unless nobody is to read that one.
         if (ancrage == text::TextContentAnchorType_AT_PAGE) {
             ParcoursCadre(objet, nullptr, {});

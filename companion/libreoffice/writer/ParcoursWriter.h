@@ -2,13 +2,13 @@
 #pragma once
 
 #include "ParagrapheWriter.h"
+#include "commun/Objets.h"
 #include "document/CarnetDeZones.h"
 
 #include <com/sun/star/text/XTextTable.hpp>
 
-#include <functional>
 #include <memory>
-#include <set>
+#include <utility>
 #include <vector>
 
 namespace extension {
@@ -18,11 +18,8 @@ namespace extension {
 /// pages, the endnotes, the footers. Main thread; lives for one walk.
 class ParcoursWriter {
   public:
-    using Recueil =
-        std::function<void(std::shared_ptr<ZoneOuverte> const&, compagnon::PlanDePortions&&)>;
-
     ParcoursWriter(std::shared_ptr<FondWriter const> fond, CarnetDeZones& carnet,
-                   Recueil const& recueil);
+                   RecueilDeZones const& recueil);
 
     void Parcours();
 
@@ -44,10 +41,10 @@ class ParcoursWriter {
 
     std::shared_ptr<FondWriter const> fond_;
     CarnetDeZones& carnet_;
-    Recueil const& recueil_;
+    RecueilDeZones const& recueil_;
     bool aDesSections_ = false;
     bool aDesCadres_ = false;
-    std::set<css::uno::XInterface*> vus_; // frames, shapes and comments walked already
+    Objets vus_; // frames, shapes and comments walked already
     std::vector<std::pair<Rencontre, std::shared_ptr<Contenant const>>> notesDeFin_;
 };
 

@@ -3,6 +3,7 @@
 
 #include "ParagrapheWriter.h"
 #include "commun/ChainesUno.h"
+#include "commun/Proprietes.h"
 #include "dessin/SelectionDessinee.h"
 
 #include <com/sun/star/beans/XPropertySet.hpp>
@@ -15,9 +16,7 @@
 
 #include <algorithm>
 #include <optional>
-#include <set>
 #include <utility>
-#include <vector>
 
 using namespace com::sun::star;
 using compagnon::Intervalle;
@@ -30,17 +29,15 @@ namespace {
 uno::Reference<uno::XInterface> ParagrapheEn(uno::Reference<text::XTextRange> const& position) {
     uno::Reference<beans::XPropertySet> const proprietes(position, uno::UNO_QUERY);
     uno::Reference<uno::XInterface> paragraphe;
-    if (proprietes.is()) {
-        proprietes->getPropertyValue("TextParagraph") >>= paragraphe;
-    }
-    return uno::Reference<uno::XInterface>(paragraphe, uno::UNO_QUERY);
+    Valeur(proprietes, "TextParagraph") >>= paragraphe;
+    return Identite(paragraphe);
 }
 
 /// From a place in one paragraph to a place in the same or a later one.
-class ChoixDePlage : public SelectionVue {
+class SelectionDePlage : public SelectionVue {
   public:
-    ChoixDePlage(uno::Reference<text::XTextRange> const& debut,
-                 uno::Reference<text::XTextRange> const& fin)
+    SelectionDePlage(uno::Reference<text::XTextRange> const& debut,
+                     uno::Reference<text::XTextRange> const& fin)
         : debut_(debut)
         , fin_(fin)
         , objetDebut_(ParagrapheEn(debut))
@@ -69,7 +66,7 @@ class ChoixDePlage : public SelectionVue {
     }
 
     std::shared_ptr<ZoneOuverte> Premiere(CarnetDeZones& carnet) override {
-        return carnet.Retrouve(objetDebut_);
+        return carnet.Retrouve<ZoneOuverte>(objetDebut_);
     }
 
     bool Deborde() override { return objetDebut_ != objetFin_; }
@@ -100,9 +97,10 @@ std::optional<std::pair<int, int>> PlaceDeCellule(std::u16string_view nom) {
 }
 
 /// Whole cells of a table.
-class ChoixDansUnTableau : public SelectionVue {
+class SelectionDansUnTableau : public SelectionVue {
   public:
-    ChoixDansUnTableau(uno::Reference<text::XTextTable> const& tableau, std::u16string_view plage) {
+    SelectionDansUnTableau(uno::Reference<text::XTextTable> const& tableau,
+                           std::u16string_view plage) {
         std::size_t const milieu = std::min(plage.find(u':'), plage.size());
         auto const un = PlaceDeCellule(plage.substr(0, milieu));
         auto const autre = milieu < plage.size() ? PlaceDeCellule(plage.substr(milieu + 1)) : un;
@@ -110,8 +108,7 @@ class ChoixDansUnTableau : public SelectionVue {
             auto const ici = PlaceDeCellule(Vue(nom));
             if (un && autre && ici && EstEntre(ici->first, un->first, autre->first) &&
                 EstEntre(ici->second, un->second, autre->second)) {
-                cellules_.emplace_back(tableau->getCellByName(nom), uno::UNO_QUERY);
-                identites_.insert(cellules_.back().get());
+                cellules_.Ajoute(tableau->getCellByName(nom));
             }
         }
     }
@@ -119,10 +116,10 @@ class ChoixDansUnTableau : public SelectionVue {
     std::optional<Intervalle> Dans(ZoneOuverte& zone,
                                    compagnon::PlanDePortions const& plan) override {
         auto* const paragraphe = dynamic_cast<ParagrapheWriter*>(&zone);
-        if (paragraphe == nullptr || !paragraphe->EstDans(identites_)) {
+        if (paragraphe == nullptr || !paragraphe->EstDans(cellules_)) {
             return std::nullopt;
         }
-        return Intervalle{0, static_cast<std::int32_t>(plan.DonneTexte().size())};
+        return Tout(plan);
     }
 
     std::shared_ptr<ZoneOuverte> Premiere(CarnetDeZones& /*carnet*/) override { return nullptr; }
@@ -133,8 +130,7 @@ class ChoixDansUnTableau : public SelectionVue {
         return std::min(a, b) <= valeur && valeur <= std::max(a, b);
     }
 
-    std::vector<uno::Reference<uno::XInterface>> cellules_;
-    std::set<uno::XInterface*> identites_;
+    Objets cellules_;
 };
 
 std::unique_ptr<SelectionVue> LisTableau(uno::Reference<frame::XModel> const& modele,
@@ -148,14 +144,14 @@ std::unique_ptr<SelectionVue> LisTableau(uno::Reference<frame::XModel> const& mo
     if (!tableau.is()) {
         return nullptr;
     }
-    return std::make_unique<ChoixDansUnTableau>(tableau, Vue(cellules->getRangeName()));
+    return std::make_unique<SelectionDansUnTableau>(tableau, Vue(cellules->getRangeName()));
 }
 
 } // namespace
 
-std::unique_ptr<SelectionVue> LisChoixWriter(uno::Reference<frame::XModel> const& modele) {
+std::unique_ptr<SelectionVue> LisSelectionWriter(uno::Reference<frame::XModel> const& modele) {
     uno::Reference<uno::XInterface> const selection = modele->getCurrentSelection();
-    if (auto formes = ChoixDeFormes(selection)) {
+    if (auto formes = SelectionDeFormes(selection)) {
         return formes;
     }
     uno::Reference<text::XTextTableCursor> const cellules(selection, uno::UNO_QUERY);
@@ -180,7 +176,7 @@ std::unique_ptr<SelectionVue> LisChoixWriter(uno::Reference<frame::XModel> const
     if (ordre->compareRegionStarts(debut, fin) < 0) {
         std::swap(debut, fin);
     }
-    auto plage = std::make_unique<ChoixDePlage>(debut, fin);
+    auto plage = std::make_unique<SelectionDePlage>(debut, fin);
     return plage->EstComplet() ? std::move(plage) : nullptr;
 }
 

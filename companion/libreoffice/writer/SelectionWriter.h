@@ -10,6 +10,7 @@ namespace extension {
 
 /// What is selected in a Writer document (null for nothing with a text): a range of one of its
 /// texts, cells of a table, shapes, or a range of a shape's text.
-std::unique_ptr<SelectionVue> LisChoixWriter(css::uno::Reference<css::frame::XModel> const& modele);
+std::unique_ptr<SelectionVue>
+LisSelectionWriter(css::uno::Reference<css::frame::XModel> const& modele);
 
 } // namespace extension

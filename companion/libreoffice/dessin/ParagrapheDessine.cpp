@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "ParagrapheDessine.h"
+
+#include "AnnulationDessin.h"
+#include "commun/ErreurDuService.h"
+
+#include <utility>
+
+using compagnon::PlanDePortions;
+
+namespace extension {
+
+ParagrapheDessine::ParagrapheDessine(std::string cle, std::weak_ptr<TexteDessine> texte,
+                                     CarnetDeZones& carnet)
+    : ZoneOuverte(std::move(cle))
+    , texte_(std::move(texte))
+    , carnet_(carnet) {}
+
+std::shared_ptr<TexteDessine> ParagrapheDessine::DonneTexte() const {
+    std::shared_ptr<TexteDessine> texte = texte_.lock();
+    if (!texte) {
+        throw ZoneInconnue();
+    }
+    return texte;
+}
+
+PlanDePortions ParagrapheDessine::Lis() {
+    std::shared_ptr<TexteDessine> const texte = DonneTexte();
+    std::vector<ParagrapheLu> lus = texte->Relis(carnet_);
+    for (std::size_t i = 0; i < lus.size(); ++i) {
+        if (texte->DonneZones()[i].get() == this) {
+            rang_ = i;
+            return std::move(lus[i].plan);
+        }
+    }
+    throw ZoneInconnue();
+}
+
+bool ParagrapheDessine::EstProtegee() {
+    return DonneTexte()->EstProtege();
+}
+
+void ParagrapheDessine::Applique(CorrectionPrete const& correction) {
+    std::shared_ptr<TexteDessine> const texte = DonneTexte();
+    if (!texte->Remplace(rang_, correction.debut, correction.avant, correction.apres)) {
+        throw Refuse("the range cannot be changed without harm to its format");
+    }
+    if (!texte->SAnnuleSeul()) {
+        AjouteAnnulation(texte, rang_, correction);
+    }
+}
+
+void ParagrapheDessine::Selectionne(PlanDePortions const& /*plan*/, std::size_t /*debut*/,
+                                    std::size_t /*fin*/) {
+    DonneTexte()->Selectionne();
+}
+
+std::shared_ptr<TexteDessine> TexteDe(ZoneOuverte& zone) {
+    auto* const paragraphe = dynamic_cast<ParagrapheDessine*>(&zone);
+    return paragraphe == nullptr ? nullptr : paragraphe->DonneTexte();
+}
+
+} // namespace extension
