@@ -194,6 +194,15 @@ def bus_et_bureau():
     return bus, bureau
 
 
+def document_et_client(essai, bus, bureau, url="private:factory/swriter", *proprietes):
+    """A document of the test's own, closed at its end, and a client that has named it."""
+    document = bureau.ouvre(url, *proprietes)
+    essai.addCleanup(lambda: document.close(True))
+    client = Client(bus)
+    client.prends(document)
+    return document, client
+
+
 class Appel(Exception):
     """An error reply."""
 

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MPL-2.0
-"""A screen without a monitor, for an office with a window."""
+"""A screen without a monitor, and an office with a window on it."""
 
 import os
 import pathlib
@@ -13,6 +13,7 @@ class Ecran:
     """A screen of the test's own."""
 
     def __init__(self, largeur=1000):
+        self.largeur = largeur
         lecture, ecriture = os.pipe()
         self.processus = subprocess.Popen(
             ["Xvfb", "-displayfd", str(ecriture), "-screen", "0", f"{largeur}x800x24", "-nolisten",
@@ -59,3 +60,28 @@ class Ecran:
         devant = ["search", "--onlyvisible", "--name", fenetre, "windowactivate", "%@"]
         for commande in ([devant] if fenetre else []) + [["key", "--clearmodifiers", *touches]]:
             subprocess.run(["xdotool", *commande], check=False, capture_output=True, env=ecran)
+
+
+class Fenetres:
+    """What the classes of tests in an office with a window share: its screen, its bus, the office."""
+
+    @classmethod
+    def demarre(cls, interface, largeur=1000, profil="profil", environnement=None):
+        """Starts all three, which end with the class; `interface` draws the windows."""
+        cls.ecran = Ecran(largeur)
+        cls.addClassCleanup(cls.ecran.ferme)
+        cls.bus = banc.Bus()
+        cls.addClassCleanup(cls.bus.ferme)
+        cls.bureau = banc.Bureau(cls.bus.adresse, profil=profil, options=(), environnement=dict(
+            environnement or {}, DISPLAY=cls.ecran.nom, SAL_USE_VCLPLUGIN=interface,
+            GDK_BACKEND="x11", NO_AT_BRIDGE="1"))
+        cls.addClassCleanup(cls.bureau.ferme)
+
+    def ouvre_en_vue(self, genre="swriter"):
+        """A new document over the whole screen, closed at the test's end. On the main thread, as a
+        person's click would: with GTK, windows opened from another one now and then wait for the
+        clipboard forever."""
+        doc = self.bureau.ouvre(f"private:factory/{genre}", banc.pv("OnMainThread", True))
+        self.addCleanup(lambda: doc.close(True))
+        doc.CurrentController.Frame.ContainerWindow.setPosSize(0, 0, self.ecran.largeur, 800, 15)
+        return doc

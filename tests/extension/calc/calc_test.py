@@ -45,11 +45,8 @@ class Cas(unittest.TestCase):
         self.ouvre()
 
     def ouvre(self, url="private:factory/scalc", *proprietes):
-        self.doc = doc = BUREAU.ouvre(url, *proprietes)
-        self.addCleanup(lambda: doc.close(True))
-        self.client = banc.Client(BUS)
-        self.client.prends(doc)
-        self.feuille = doc.Sheets.getByIndex(0)
+        self.doc, self.client = banc.document_et_client(self, BUS, BUREAU, url, *proprietes)
+        self.feuille = self.doc.Sheets.getByIndex(0)
 
     def cellule(self, nom, texte=None):
         cellule = self.feuille.getCellRangeByName(nom).getCellByPosition(0, 0)

@@ -8,23 +8,14 @@ import ecran
 from com.sun.star.awt import Size
 
 
-class Selection(unittest.TestCase):
+class Selection(ecran.Fenetres, unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        cls.ecran = ecran.Ecran()
-        cls.addClassCleanup(cls.ecran.ferme)
-        cls.bus = banc.Bus()
-        cls.addClassCleanup(cls.bus.ferme)
-        cls.bureau = banc.Bureau(cls.bus.adresse, options=(), environnement={
-            "DISPLAY": cls.ecran.nom, "SAL_USE_VCLPLUGIN": "gen", "NO_AT_BRIDGE": "1"})
-        cls.addClassCleanup(cls.bureau.ferme)
+        cls.demarre("gen")
 
     def ouvre(self, genre, texte):
         """A document with a shape."""
-        self.doc = doc = self.bureau.ouvre(f"private:factory/{genre}",
-                                           banc.pv("OnMainThread", True))
-        self.addCleanup(lambda: doc.close(True))
-        doc.CurrentController.Frame.ContainerWindow.setPosSize(0, 0, 1000, 800, 15)
+        self.doc = doc = self.ouvre_en_vue(genre)
         forme = doc.createInstance("com.sun.star.drawing.RectangleShape")
         forme.setSize(Size(8000, 3000))
         doc.DrawPages.getByIndex(0).add(forme)

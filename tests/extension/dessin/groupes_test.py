@@ -54,10 +54,7 @@ class Groupes(unittest.TestCase):
         return fichier
 
     def verifie(self, genre, ancrage=None):
-        doc = BUREAU.ouvre(self.ecris(genre, ancrage))
-        self.addCleanup(lambda: doc.close(True))
-        client = banc.Client(BUS)
-        client.prends(doc)
+        _, client = banc.document_et_client(self, BUS, BUREAU, self.ecris(genre, ancrage))
         attendus = [f"groupe {g} texte {t}" for g in range(GROUPES) for t in range(TEXTES)]
         for fois in range(3):
             with self.subTest(fois=fois):

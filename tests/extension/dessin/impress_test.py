@@ -26,11 +26,9 @@ class Cas(unittest.TestCase):
     genre = "simpress"
 
     def setUp(self):
-        self.doc = doc = BUREAU.ouvre(f"private:factory/{self.genre}")
-        self.addCleanup(lambda: doc.close(True))
-        self.client = banc.Client(BUS)
-        self.client.prends(doc)
-        self.page = doc.DrawPages.getByIndex(0)
+        self.doc, self.client = banc.document_et_client(self, BUS, BUREAU,
+                                                        f"private:factory/{self.genre}")
+        self.page = self.doc.DrawPages.getByIndex(0)
 
     def diapo(self, titre=None, corps=None):
         """A new slide with a title and an outline."""

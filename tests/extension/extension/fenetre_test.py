@@ -7,28 +7,17 @@ import banc
 import ecran
 
 
-class Fenetre:
+class Fenetre(ecran.Fenetres):
     """Both classes below run these in their own office."""
 
     interface = None
 
     @classmethod
     def setUpClass(cls):
-        cls.ecran = ecran.Ecran()
-        cls.addClassCleanup(cls.ecran.ferme)
-        cls.bus = banc.Bus()
-        cls.addClassCleanup(cls.bus.ferme)
-        cls.bureau = banc.Bureau(cls.bus.adresse, options=(), environnement={
-            "DISPLAY": cls.ecran.nom, "SAL_USE_VCLPLUGIN": cls.interface, "GDK_BACKEND": "x11",
-            "NO_AT_BRIDGE": "1"})
-        cls.addClassCleanup(cls.bureau.ferme)
+        cls.demarre(cls.interface)
 
     def setUp(self):
-        # On the main thread, as a person's click would: with GTK, windows opened from another one
-        # now and then wait for the clipboard forever.
-        self.doc = self.bureau.ouvre("private:factory/swriter", banc.pv("OnMainThread", True))
-        self.addCleanup(lambda: self.doc.close(True))
-        self.doc.CurrentController.Frame.ContainerWindow.setPosSize(0, 0, 1000, 800, 15)
+        self.doc = self.ouvre_en_vue()
         self.doc.Text.setString("un chat noir")
         self.client = banc.Client(self.bus)
         self.client.prends(self.doc)

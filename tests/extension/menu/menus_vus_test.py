@@ -16,7 +16,7 @@ TITRES = {
 FENETRES = {"swriter": "Writer", "scalc": "Calc", "simpress": "Impress", "sdraw": "Draw"}
 
 
-class Vus:
+class Vus(ecran.Fenetres):
     """The classes below run these, each in an office of its own."""
 
     interface = None
@@ -24,24 +24,12 @@ class Vus:
 
     @classmethod
     def setUpClass(cls):
-        cls.ecran = ecran.Ecran(largeur=1400)
-        cls.addClassCleanup(cls.ecran.ferme)
-        cls.bus = banc.Bus()
-        cls.addClassCleanup(cls.bus.ferme)
         cls.outils = menus.Outils(cls.__name__)
         profil = "profil-" + cls.langue
         if cls.langue == "fr" and not (banc.DOSSIER / profil).exists():
             menus.met_en_francais(profil)
-        cls.bureau = banc.Bureau(cls.bus.adresse, profil=profil, options=(), environnement=dict(
-            cls.outils.environnement, DISPLAY=cls.ecran.nom, SAL_USE_VCLPLUGIN=cls.interface,
-            GDK_BACKEND="x11", NO_AT_BRIDGE="1", LC_ALL="C.UTF-8"))
-        cls.addClassCleanup(cls.bureau.ferme)
-
-    def ouvre(self, genre="swriter"):
-        doc = self.bureau.ouvre(f"private:factory/{genre}", banc.pv("OnMainThread", True))
-        self.addCleanup(lambda: doc.close(True))
-        doc.CurrentController.Frame.ContainerWindow.setPosSize(0, 0, 1400, 800, 15)
-        return doc
+        cls.demarre(cls.interface, largeur=1400, profil=profil,
+                    environnement=dict(cls.outils.environnement, LC_ALL="C.UTF-8"))
 
     def choisis(self, rang, attendu, fenetre="LibreOffice Writer", photo=None):
         """Opens the menu by the keyboard and takes the entry of that rank, until what is expected
@@ -74,13 +62,13 @@ class Vus:
     def test_every_kind_of_document_with_texts_has_the_toolbar(self):
         for genre in FENETRES:
             with self.subTest(genre=genre):
-                doc = self.ouvre(genre)
+                doc = self.ouvre_en_vue(genre)
                 disposition = doc.CurrentController.Frame.LayoutManager
                 banc.attends(lambda: disposition.isElementVisible(menus.BARRE), "the toolbar")
                 self.ecran.photographie(f"barre-{genre}-{self.interface}-{self.langue}")
 
     def test_the_entry_correct_starts_the_host(self):
-        doc = self.ouvre()
+        doc = self.ouvre_en_vue()
         doc.Text.setString("un chat noir")
         identifiant = banc.Client(self.bus).prends(doc)
         self.choisis(1, self.outils.notes_terminal.exists,
@@ -89,13 +77,13 @@ class Vus:
         self.assertEqual(hote["arguments"], ["corrige", identifiant])
 
     def test_about_opens_a_box_that_closes(self):
-        self.ouvre()
+        self.ouvre_en_vue()
         self.choisis(3, lambda: '"Vocalyne"' in self.ecran.titres())
         self.ecran.photographie(f"diagnostic-{self.interface}-{self.langue}")
         self.ferme_la_boite()
 
     def test_what_is_missing_is_told_in_a_box(self):
-        self.ouvre()
+        self.ouvre_en_vue()
         cache = self.outils.hote.with_suffix(".absent")
         self.outils.hote.rename(cache)
         self.addCleanup(cache.rename, self.outils.hote)

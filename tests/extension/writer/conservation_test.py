@@ -20,10 +20,7 @@ class Dans:
     service = None
 
     def setUp(self):
-        self.doc = BUREAU.ouvre()
-        self.addCleanup(lambda: self.doc.close(True))
-        self.client = banc.Client(BUS)
-        self.client.prends(self.doc)
+        self.doc, self.client = banc.document_et_client(self, BUS, BUREAU)
         e = Ecrivain(self.doc)
         e.ecrit("avant la VAT après")
         e.met(self.service, absorbe=e.plage(9, 12))

@@ -21,10 +21,7 @@ def setUpModule():
 
 class Cas(unittest.TestCase):
     def setUp(self):
-        self.doc = BUREAU.ouvre()
-        self.addCleanup(lambda: self.doc.close(True))
-        self.client = banc.Client(BUS)
-        self.client.prends(self.doc)
+        self.doc, self.client = banc.document_et_client(self, BUS, BUREAU)
         self.texte = self.doc.Text
         self.e = Ecrivain(self.doc)
 
