@@ -44,8 +44,8 @@ void LisTableau(uno::Reference<table::XTable> const& tableau,
 void LisForme(uno::Reference<uno::XInterface> const& forme, FondDeFormes const& fond) {
     uno::Reference<beans::XPropertySet> const proprietes(forme, uno::UNO_QUERY);
     uno::Reference<lang::XServiceInfo> const services(forme, uno::UNO_QUERY);
-    // A placeholder shows an invitation that nobody typed; a cell's comment is read with its cell. From
-    // LibreOffice 24.8 on a slide's comment has a shape too, a marker with its number.
+    // A placeholder shows an invitation that nobody typed; a cell's comment is read with its cell.
+    // From LibreOffice 24.8 on a slide's comment has a shape too, a marker with its number.
     if (!Vaut(proprietes, "Visible", true) ||
         Vaut(proprietes, "IsEmptyPresentationObject", false) ||
         (services.is() && (services->supportsService("com.sun.star.sheet.CellAnnotationShape") ||
