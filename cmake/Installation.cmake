@@ -28,4 +28,4 @@ install(EXPORT VocalyneConnecteurCibles NAMESPACE Vocalyne::
 
 # The wire contract, for authors of companions.
 install(DIRECTORY protocol/ DESTINATION "${CMAKE_INSTALL_DATADIR}/vocalyne/protocol" COMPONENT sdk
-  FILES_MATCHING PATTERN "*.xml" PATTERN "*.json" PATTERN "*.md")
+  FILES_MATCHING PATTERN "*.xml" PATTERN "*.json" PATTERN "*.md" PATTERN "*.h")

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "ConnexionSession.h"
 
+#include "Contrat.h"
 #include "UniChaine.h"
 
 #include <QDBusConnection>
@@ -9,8 +10,8 @@
 
 namespace {
 
-constexpr long kReceptionMax = 256L * 1024 * 1024; // one message at the limit, and one being read
-constexpr int kLongueurMax = 40 * 1024 * 1024;     // 120 MiB if every unit takes three bytes
+// One message at the limit, and one being read.
+constexpr long kReceptionMax = 2 * long{contrat::kLimiteMessage};
 
 } // namespace
 
@@ -35,7 +36,7 @@ void AccepteGrandesReponses(QDBusConnection const& bus) {
 
 bool PeutVoyager(UniChaine const& texte) {
     auto const& unites = texte.VersQString();
-    if (unites.size() > kLongueurMax) {
+    if (unites.size() > int{contrat::kUnitesArgumentMax}) {
         return false;
     }
     for (int i = 0; i < unites.size(); ++i) {

@@ -43,11 +43,9 @@ bool EstListe(Json::Value const& valeur) {
     return valeur.isArray() || valeur.isNull();
 }
 
-PlageStyle Plage(Json::Value const& plage) {
-    auto const debut = static_cast<std::uint32_t>(Entier(plage, "Debut"));
-    auto const fin = static_cast<std::uint32_t>(Entier(plage, "Fin"));
-    auto const style = static_cast<std::uint32_t>(Entier(plage, "Style"));
-    return {debut, fin - debut, style & 0xFFFFU};
+contrat::PlageDeStyle Plage(Json::Value const& plage) {
+    return {Entier(plage, "Debut"), Entier(plage, "Fin"),
+            static_cast<std::uint16_t>(Entier(plage, "Style"))};
 }
 
 } // namespace lectureJson

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "PlageStyle.h"
+#include "Contrat.h"
 #include "UniChaine.h"
 
 #include <json/reader.h>
@@ -55,6 +55,6 @@ int Entier(Json::Value const& objet, char const* cle);
 bool EstListe(Json::Value const& valeur);
 
 /// One style run of a zone. Throws as `Entier` does.
-PlageStyle Plage(Json::Value const& plage);
+contrat::PlageDeStyle Plage(Json::Value const& plage);
 
 } // namespace lectureJson

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "PlageStyle.h"
+#include "Contrat.h"
 #include "UniChaine.h"
 
 #include <functional>
@@ -14,7 +14,7 @@ struct ZoneRecue {
     UniChaine texte;
     int debutSel = 0;
     int finSel = 0;
-    std::vector<PlageStyle> styles;
+    std::vector<contrat::PlageDeStyle> styles;
 };
 
 /// Reads a zone-list document (UTF-8 bytes) and hands out its zones in order, each once it is

@@ -4,6 +4,7 @@
 
 #include "ClassesFenetre.h"
 #include "ConnexionSession.h"
+#include "Contrat.h"
 #include "DAlerte.h"
 #include "DelaiTemporaire.h"
 #include "IdentificateurDocument.h"
@@ -12,9 +13,6 @@
 #include "domaineTexteur.h"
 
 namespace {
-
-constexpr int kDelaiInitialisation = 240000; // ms: an office may be starting, or showing a dialogue
-constexpr int kDelaiDocEstMort = 1500;       // ms: asked often, so it must not hold up the host
 
 void AlerteExtensionRequise() {
     auto const titre = _Tr(domaineTexteur, "Extension LibreOffice", nullptr);
@@ -56,7 +54,7 @@ bool ModuleProxyOOo::InitialiseTexteur(UniChaine const& classe, UniChaine& /*mes
         return false;
     }
     IdentificateurDocument const id(DonneIdentificateur());
-    DelaiTemporaire const delai(*proxy_, kDelaiInitialisation);
+    DelaiTemporaire const delai(*proxy_, contrat::kDelaiInitialisationMs);
     return reponseProxy::Attends(*proxy_, proxy_->InitialiseTexteur(id.DonneDocument()));
 }
 
@@ -65,7 +63,7 @@ bool ModuleProxyOOo::DocEstMort() {
         return true;
     }
     IdentificateurDocument const id(DonneIdentificateur());
-    DelaiTemporaire const delai(*proxy_, kDelaiDocEstMort);
+    DelaiTemporaire const delai(*proxy_, contrat::kDelaiDocEstMortMs);
     return reponseProxy::Lis<bool>(*proxy_, proxy_->DocEstMort(id.DonneDocument()));
 }
 

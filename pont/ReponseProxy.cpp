@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "ReponseProxy.h"
 
+#include "Contrat.h"
+
 #include <QDBusAbstractInterface>
 #include <QDBusConnection>
 
@@ -14,7 +16,7 @@ using Horloge = std::chrono::steady_clock;
 using std::chrono::microseconds;
 using std::chrono::milliseconds;
 
-constexpr milliseconds kDelaiParDefaut{25000}; // libdbus' own default
+constexpr milliseconds kDelaiParDefaut{contrat::kDelaiOrdinaireMs};
 constexpr char const* kPropriete = "vocalyneProprietaire";
 
 /// Waits for the end of a call. QtDBus' own wait has no limit of its own and does not end when the

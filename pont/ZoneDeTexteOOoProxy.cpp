@@ -38,8 +38,7 @@ bool ZoneDeTexteOOoProxy::CorrigeDansTexteur(int debut, int fin, UniChaine const
 TexteAvecAttributs ZoneDeTexteOOoProxy::DonneTexte() {
     TexteAvecAttributs texte(sdd::T(texte_));
     for (auto const& plage : styles_) {
-        texte.MetsAttribut(static_cast<int>(plage.debut), static_cast<int>(plage.longueur),
-                           static_cast<std::uint16_t>(plage.style));
+        texte.MetsAttribut(plage.debut, plage.DonneLongueur(), plage.style);
     }
     if (agent_ != nullptr) {
         agent_->TraiteTexteLu(texte);

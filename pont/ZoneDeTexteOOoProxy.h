@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
+#include "Contrat.h"
 #include "InterfaceZoneDeTexte.h"
-#include "PlageStyle.h"
 
 #include <cstdint>
 #include <vector>
@@ -23,7 +23,7 @@ class ZoneDeTexteOOoProxy : public InterfaceZoneDeTexte {
     ~ZoneDeTexteOOoProxy() override;
 
     /// Appends a style run; runs stand in document order.
-    void AjouteStyle(PlageStyle const& plage) { styles_.push_back(plage); }
+    void AjouteStyle(contrat::PlageDeStyle const& plage) { styles_.push_back(plage); }
 
     /// Always true, on purpose: the companion decides when a range is corrected.
     bool AccepteIntervalles(int debut1, int fin1, int debut2, int fin2) override;
@@ -46,7 +46,7 @@ class ZoneDeTexteOOoProxy : public InterfaceZoneDeTexte {
     bool SelectionneIntervalle(int debut, int fin) override;
 
     UniChaine const& DonneNom() const noexcept { return nom_; }
-    std::vector<PlageStyle> const& DonneStyles() const noexcept { return styles_; }
+    std::vector<contrat::PlageDeStyle> const& DonneStyles() const noexcept { return styles_; }
 
   private:
     bool EstReliee() const noexcept { return proxy_ != nullptr && agent_ != nullptr; }
@@ -57,5 +57,5 @@ class ZoneDeTexteOOoProxy : public InterfaceZoneDeTexte {
     std::int32_t debutSel_;
     std::int32_t finSel_;
     UniChaine nom_;
-    std::vector<PlageStyle> styles_;
+    std::vector<contrat::PlageDeStyle> styles_;
 };

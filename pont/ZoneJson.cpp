@@ -8,11 +8,11 @@
 
 namespace {
 
-Json::Value PlageVersJson(std::uint32_t debut, std::uint32_t fin, std::uint32_t style) {
+Json::Value PlageVersJson(contrat::PlageDeStyle const& lue) {
     Json::Value plage;
-    plage["Debut"] = static_cast<Json::Int>(debut);
-    plage["Fin"] = static_cast<Json::Int>(fin);
-    plage["Style"] = static_cast<Json::Int>(style);
+    plage["Debut"] = lue.debut;
+    plage["Fin"] = lue.fin;
+    plage["Style"] = lue.style;
     return plage;
 }
 
@@ -31,13 +31,13 @@ UniChaine Ecris(Json::Value const& racine) {
 
 } // namespace
 
-UniChaine ZoneVersJson(std::vector<PlageStyle> const& styles, UniChaine const& texte,
+UniChaine ZoneVersJson(std::vector<contrat::PlageDeStyle> const& styles, UniChaine const& texte,
                        UniChaine const& nom) {
     Json::Value racine;
     racine["Nom"] = TexteVersJson(nom);
     racine["Texte"] = TexteVersJson(texte);
     for (auto const& plage : styles) {
-        racine["InfosStyle"].append(PlageVersJson(plage.debut, plage.Fin(), plage.style));
+        racine["InfosStyle"].append(PlageVersJson(plage));
     }
     return Ecris(racine);
 }
@@ -46,9 +46,7 @@ UniChaine ChaineAttribueeVersJson(TexteAvecAttributs const& texte) {
     Json::Value racine;
     racine["Texte"] = TexteVersJson(sdd::T(texte.DonneTexte()));
     for (auto const& plage : texte.DonnePlages()) {
-        racine["InfosStyle"].append(PlageVersJson(static_cast<std::uint32_t>(plage.debut),
-                                                  static_cast<std::uint32_t>(plage.fin),
-                                                  plage.attribut));
+        racine["InfosStyle"].append(PlageVersJson({plage.debut, plage.fin, plage.attribut}));
     }
     return Ecris(racine);
 }
@@ -66,8 +64,7 @@ TexteAvecAttributs JsonVersChaineAttribuee(UniChaine const& json, UniChaine& nom
     if (lectureJson::EstListe(styles)) {
         for (auto const& element : styles) {
             auto const plage = lectureJson::Plage(element);
-            texte.MetsAttribut(static_cast<int>(plage.debut), static_cast<int>(plage.longueur),
-                               static_cast<std::uint16_t>(plage.style));
+            texte.MetsAttribut(plage.debut, plage.DonneLongueur(), plage.style);
         }
     }
     return texte;

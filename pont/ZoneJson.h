@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
+#include "Contrat.h"
 #include "InterfaceZoneDeTexte.h"
-#include "PlageStyle.h"
 #include "UniChaine.h"
 
 #include <vector>
@@ -11,7 +11,7 @@
 // (where there is a name), "Texte", and "InfosStyle" (where there is a run). Written compactly,
 // keys in byte order, with one line feed at the end.
 
-UniChaine ZoneVersJson(std::vector<PlageStyle> const& styles, UniChaine const& texte,
+UniChaine ZoneVersJson(std::vector<contrat::PlageDeStyle> const& styles, UniChaine const& texte,
                        UniChaine const& nom);
 
 /// Without a name; each run as the string stores it, in its order.

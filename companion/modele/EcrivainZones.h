@@ -12,17 +12,12 @@
 
 namespace compagnon {
 
-/// Largest zone document that may leave, in bytes. The bus drops the sender of a message of
-/// 128 MiB, and readers hang on one a few dozen bytes shorter: the margin holds the message's
-/// header with room to spare.
-inline constexpr std::size_t kLimiteReponse = (std::size_t{128} << 20) - (std::size_t{64} << 10);
-
 /// Writes the reply of "SynchronisePositions" (protocol/README.md), zone by zone: plain ASCII, all
 /// texts in Base64. Linear in what is written. Texts are made transportable on the way (`Utf.h`).
 class EcrivainZones {
   public:
     /// `limite`: bytes that the finished document may have.
-    explicit EcrivainZones(std::size_t limite = kLimiteReponse);
+    explicit EcrivainZones(std::size_t limite = contrat::kLimiteReponse);
 
     /// Makes room at once for a document of about so many bytes: growing step by step copies it.
     void Prevois(std::size_t octets) { document_.reserve(octets < limite_ ? octets : limite_); }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
+#include "Contrat.h"
 #include "Intervalle.h"
 
 #include <cstddef>
@@ -9,26 +10,7 @@
 
 namespace compagnon {
 
-/// Style bits of the zone document (see protocol/README.md).
-enum StyleDeTexte : std::uint16_t {
-    kStyleGras = 1,
-    kStyleItalique = 2,
-    kStyleSouligne = 4,
-    kStyleBarre = 8,
-    kStyleExposant = 16,
-    kStyleIndice = 32,
-    kStyleSansCorrection = 64,
-};
-
-struct PlageDeStyle {
-    std::int32_t debut = 0;
-    std::int32_t fin = 0;
-    std::uint16_t style = 0;
-
-    friend bool operator==(PlageDeStyle const& a, PlageDeStyle const& b) noexcept {
-        return a.debut == b.debut && a.fin == b.fin && a.style == b.style;
-    }
-};
+using contrat::PlageDeStyle;
 
 /// A zone's style runs: in order, never empty, never overlapping, never style 0, and two that touch
 /// always differ.

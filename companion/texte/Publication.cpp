@@ -2,6 +2,7 @@
 #include "Publication.h"
 
 #include "ChainesQt.h"
+#include "Contrat.h"
 #include "coeur/MessagesTexte.h"
 
 #include <QDBusConnectionInterface>
@@ -17,14 +18,14 @@ QString const kCommande = QStringLiteral("/com/ombrel/vocalyne/commande");
 
 // A message may have 128 MiB. Left at its default of half as much, libdbus stops reading for good
 // after a single larger one; several may be on their way at once.
-constexpr long kRecusMax = 512L << 20;
+constexpr long kRecusMax = 4 * long{contrat::kLimiteMessage};
 
 } // namespace
 
 Publication::Publication(std::string const& instance)
     : connexion_(kConnexion)
-    , service_(QStringLiteral("com.ombrel.vocalyne.texteurs.OpenOffice.") + VersQString(instance))
-    , objet_(QStringLiteral("/com/ombrel/vocalyne/texteurs/OpenOffice/") + VersQString(instance)) {}
+    , service_(QLatin1String(contrat::kPrefixeService) + VersQString(instance))
+    , objet_(QLatin1String(contrat::kPrefixeChemin) + VersQString(instance)) {}
 
 Publication::~Publication() {
     // QtDBus's own thread takes the connection down later and still calls each object that it finds

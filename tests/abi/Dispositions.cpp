@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MPL-2.0
 // Sizes and places that hosts and other connectors were built against, pinned at compile time. A
 // pointer's size is the only thing that may differ between architectures.
+#include "Contrat.h"
 #include "ImplZoneDeTexteTEMP.h"
 #include "InfosApplication.h"
 #include "ModuleProxyOOo.h"
-#include "PlageStyle.h"
 #include "ZoneDeTexteOOoProxy.h"
 
 #include <cstddef>
@@ -46,7 +46,7 @@ static_assert(sizeof(InterfaceTexteur) == Arrondi(kPointeur + kChaine + 4));
 // A table pointer, and the one InterfaceTexteur behind it.
 static_assert(sizeof(InterfaceAgentTexteur) == kPointeur + sizeof(InterfaceTexteur));
 static_assert(sizeof(InterfaceZoneDeTexte) == kPointeur);
-static_assert(sizeof(PlageStyle) == 12);
+static_assert(sizeof(contrat::PlageDeStyle) == 12);
 
 // A table pointer, two strings, the boundaries, the context's bounds, the zones, the last integer;
 // then the one InterfaceTexteur, as in every agent.

@@ -79,8 +79,8 @@ TEST(ZoneWriter, AZoneFarPastTheLimitIsRefusedBeforeItIsEncoded) {
 }
 
 TEST(ZoneWriter, TheUsualLimitLeavesRoomBelowTheBusOwn) {
-    EXPECT_LT(compagnon::kLimiteReponse, 134217660U);
-    EXPECT_GT(compagnon::kLimiteReponse, 120U * 1024 * 1024);
+    EXPECT_LT(contrat::kLimiteReponse, 134217660U);
+    EXPECT_GT(contrat::kLimiteReponse, 120U * 1024 * 1024);
 }
 
 TEST(ZoneWriter, TenTimesTheZonesAreNotMuchMoreThanTenTimesTheBytes) {

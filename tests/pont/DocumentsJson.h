@@ -53,9 +53,8 @@ inline Lecture LisTout(std::string const& document) {
     return lecture;
 }
 
-inline bool operator==(PlageStyle const& a, PlageStyle const& b) {
-    return a.debut == b.debut && a.longueur == b.longueur && a.style == b.style;
+namespace contrat {
+inline void PrintTo(PlageDeStyle const& plage, std::ostream* sortie) {
+    *sortie << plage.debut << '-' << plage.fin << ' ' << plage.style;
 }
-inline void PrintTo(PlageStyle const& plage, std::ostream* sortie) {
-    *sortie << plage.debut << '+' << plage.longueur << ' ' << plage.style;
-}
+} // namespace contrat

@@ -26,12 +26,12 @@ std::vector<Place> const& Places() {
          [](auto const& v) {
              return Zone("n", "t", R"("InfosStyle":[{"Debut":1},{)" + Membre("Debut", v) + "}]");
          },
-         [](ZoneRecue const& z) -> long long { return static_cast<int>(z.styles.at(1).debut); }},
+         [](ZoneRecue const& z) -> long long { return z.styles.at(1).debut; }},
         {"Fin",
          [](auto const& v) {
              return Zone("n", "t", R"("InfosStyle":[{"Debut":1},{)" + Membre("Fin", v) + "}]");
          },
-         [](ZoneRecue const& z) -> long long { return static_cast<int>(z.styles.at(1).Fin()); }},
+         [](ZoneRecue const& z) -> long long { return z.styles.at(1).fin; }},
         {"Style",
          [](auto const& v) {
              return Zone("n", "t", R"("InfosStyle":[{"Debut":1},{)" + Membre("Style", v) + "}]");

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <stdexcept>
 #include <string>
 
@@ -58,7 +59,7 @@ TEST(ZoneReader, ReadsEveryMemberWhateverTheirOrder) {
     EXPECT_EQ(U(u"t"), zones[0].texte);
     EXPECT_EQ(3, zones[0].debutSel);
     EXPECT_EQ(4, zones[0].finSel);
-    EXPECT_EQ((std::vector<PlageStyle>{{4, 5, 2}, {11, 1, 1}}), zones[0].styles);
+    EXPECT_EQ((std::vector<contrat::PlageDeStyle>{{4, 9, 2}, {11, 12, 1}}), zones[0].styles);
 }
 
 TEST(ZoneReader, ZonesComeInTheDocumentsOrder) {
@@ -78,8 +79,9 @@ TEST(ZoneReader, OnlyTheLowSixteenBitsOfAStyleCount) {
                                           R"({"Debut":0,"Fin":1,"Style":2147483647}])")))
                            .zones;
     ASSERT_EQ(1U, zones.size());
-    EXPECT_EQ((std::vector<PlageStyle>{{3, 4, 1}, {0, 1, 65535}, {0, 1, 0}, {0, 1, 65535}}),
-              zones[0].styles);
+    EXPECT_EQ(
+        (std::vector<contrat::PlageDeStyle>{{3, 7, 1}, {0, 1, 65535}, {0, 1, 0}, {0, 1, 65535}}),
+        zones[0].styles);
 }
 
 TEST(ZoneReader, ARunThatEndsBeforeItStartsHasALengthThatWrapped) {
@@ -89,10 +91,9 @@ TEST(ZoneReader, ARunThatEndsBeforeItStartsHasALengthThatWrapped) {
                            .zones;
     ASSERT_EQ(1U, zones.size());
     auto const& styles = zones[0].styles;
-    EXPECT_EQ((std::vector<PlageStyle>{{7, 4294967292U, 1}, {2147483648U, 4294967295U, 1}}),
-              styles);
-    EXPECT_EQ(3U, styles[0].Fin());
-    EXPECT_EQ(2147483647U, styles[1].Fin());
+    EXPECT_EQ((std::vector<contrat::PlageDeStyle>{{7, 3, 1}, {INT_MIN, INT_MAX, 1}}), styles);
+    EXPECT_EQ(-4, styles[0].DonneLongueur());
+    EXPECT_EQ(-1, styles[1].DonneLongueur());
 }
 
 TEST(ZoneReader, PositionsAreTakenAsTheyCome) {
@@ -104,7 +105,7 @@ TEST(ZoneReader, PositionsAreTakenAsTheyCome) {
     ASSERT_EQ(1U, zones.size());
     EXPECT_EQ(90, zones[0].debutSel);
     EXPECT_EQ(-3, zones[0].finSel);
-    EXPECT_EQ((std::vector<PlageStyle>{{50, 10, 0}, {55, 3, 2}}), zones[0].styles);
+    EXPECT_EQ((std::vector<contrat::PlageDeStyle>{{50, 60, 0}, {55, 58, 2}}), zones[0].styles);
 }
 
 TEST(ZoneReader, StylesThatAreNoListGiveAZoneWithoutRuns) {
@@ -129,7 +130,7 @@ TEST(ZoneReader, ElementsAndRunsThatAreNoObjectsReadAsEmptyOnes) {
     }
     auto const plages = LisTout(Liste(R"({"InfosStyle":[null,3,"abc",[1,2],{}]})")).zones;
     ASSERT_EQ(1U, plages.size());
-    EXPECT_EQ(std::vector<PlageStyle>(5, {0, 0, 0}), plages[0].styles);
+    EXPECT_EQ(std::vector<contrat::PlageDeStyle>(5, {0, 0, 0}), plages[0].styles);
 }
 
 TEST(ZoneReader, TextMembersOfAnotherTypeNeverFail) {

@@ -65,11 +65,10 @@ TEST(ZoneRoundTrip, ZonesComeBackWithNameTextAndRuns) {
     for (int essai = 0; essai < kEssais; ++essai) {
         auto const texte = hasard.TexteAvecStyles(40);
         auto const nom = hasard.Texte(8);
-        std::vector<PlageStyle> styles;
+        std::vector<contrat::PlageDeStyle> styles;
         styles.reserve(texte.DonnePlages().size());
         for (auto const& plage : texte.DonnePlages()) {
-            styles.push_back({static_cast<std::uint32_t>(plage.debut),
-                              static_cast<std::uint32_t>(plage.Longueur()), plage.attribut});
+            styles.push_back({plage.debut, plage.fin, plage.attribut});
         }
         UniChaine nomRelu;
         auto const json = ZoneVersJson(styles, TexteDe(texte), nom);
@@ -88,10 +87,10 @@ TEST(ZoneRoundTrip, RunsOfAnyNumbersComeBackAsTheyWere) {
     Hasard hasard(3);
     std::mt19937 moteur(4);
     for (int essai = 0; essai < kEssais; ++essai) {
-        std::vector<PlageStyle> styles(static_cast<std::size_t>(hasard.Entre(0, 6)));
+        std::vector<contrat::PlageDeStyle> styles(static_cast<std::size_t>(hasard.Entre(0, 6)));
         for (auto& plage : styles) {
-            plage = {static_cast<std::uint32_t>(moteur()), static_cast<std::uint32_t>(moteur()),
-                     static_cast<std::uint32_t>(moteur()) & 0xFFFFU};
+            plage = {static_cast<std::int32_t>(moteur()), static_cast<std::int32_t>(moteur()),
+                     static_cast<std::uint16_t>(moteur())};
         }
         auto const zones = LisTout(Liste(ZoneVersJson(styles, {}, {}).VersUtf8())).zones;
         ASSERT_EQ(1U, zones.size()) << essai;

@@ -71,25 +71,24 @@ TEST(LibreOfficeZone, WithoutProxyOrAgentRefusesAndStaysAsItIs) {
 }
 
 struct CasStyles {
-    std::vector<PlageStyle> styles;
+    std::vector<contrat::PlageDeStyle> styles;
     Plages plages;
 };
 
 TEST(LibreOfficeZone, AppliesItsRunsInListOrder) {
     CasStyles const cas[] = {
         {{}, {}},
-        {{{1, 2, 5}, {4, 2, 6}}, {{1, 3, 5}, {4, 6, 6}}},
-        {{{0, 6, 1}, {2, 2, 2}}, {{0, 2, 1}, {2, 4, 2}, {4, 6, 1}}}, // the later one lies on top
-        {{{2, 2, 2}, {0, 6, 1}}, {{0, 6, 1}}},
-        {{{0, 6, 1}, {2, 2, 0}}, {{0, 2, 1}, {4, 6, 1}}}, // style 0 clears
-        {{{4, 100, 3}}, {{4, 6, 3}}},
-        {{{6, 1, 3}, {100, 5, 3}}, {}},
-        {{{3, 0, 3}}, {}},
-        {{{4, static_cast<std::uint32_t>(-2), 3}}, {}}, // ends before it starts
-        {{{4294967295U, 3, 3}}, {{0, 2, 3}}},           // starts at -1
-        {{{4294967295U, 4294967295U, 3}}, {}},
-        {{{0, 2147483647U, 65535}}, {{0, 6, 65535}}},
-        {{{0, 1, 65536 + 7}}, {{0, 1, 7}}},
+        {{{1, 3, 5}, {4, 6, 6}}, {{1, 3, 5}, {4, 6, 6}}},
+        {{{0, 6, 1}, {2, 4, 2}}, {{0, 2, 1}, {2, 4, 2}, {4, 6, 1}}}, // the later one lies on top
+        {{{2, 4, 2}, {0, 6, 1}}, {{0, 6, 1}}},
+        {{{0, 6, 1}, {2, 4, 0}}, {{0, 2, 1}, {4, 6, 1}}}, // style 0 clears
+        {{{4, 104, 3}}, {{4, 6, 3}}},
+        {{{6, 7, 3}, {100, 105, 3}}, {}},
+        {{{3, 3, 3}}, {}},
+        {{{4, 2, 3}}, {}}, // ends before it starts
+        {{{-1, 2, 3}}, {{0, 2, 3}}},
+        {{{-1, -2, 3}}, {}},
+        {{{0, INT_MAX, 65535}}, {{0, 6, 65535}}},
     };
     for (auto const& c : cas) {
         auto zone = ZoneSeule(u"abcdef");
@@ -125,7 +124,7 @@ TEST(LibreOfficeZone, ManyRunsInOrderAreAppliedInLinearTime) {
     ZoneDeTexteOOoProxy zone(nullptr, nullptr, sdd::T(sdd::ChaineN(3 * kNombre, u'x')), U(u"n"), 0,
                              0);
     for (int i = 0; i < kNombre; ++i) {
-        zone.AjouteStyle({static_cast<std::uint32_t>(3 * i), 2, 1});
+        zone.AjouteStyle({3 * i, 3 * i + 2, 1});
     }
     EXPECT_EQ(static_cast<std::size_t>(kNombre), zone.DonneTexte().DonnePlages().size());
 }

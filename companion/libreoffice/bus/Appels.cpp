@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Appels.h"
 
+#include "Contrat.h"
 #include "commun/ChainesUno.h"
 #include "commun/ErreurDuService.h"
 
@@ -14,15 +15,9 @@ using namespace com::sun::star;
 
 namespace extension {
 
-namespace {
-
-constexpr char kPrefixeErreur[] = "com.ombrel.vocalyne.texteurs.Erreur.";
-
-} // namespace
-
 void RepondsErreur(GDBusMethodInvocation* invocation, char const* nom, char const* message) {
     g_dbus_method_invocation_return_dbus_error(
-        invocation, (std::string(kPrefixeErreur) + nom).c_str(), message);
+        invocation, (std::string(contrat::kPrefixeErreur) + nom).c_str(), message);
 }
 
 /// One call on its way. The reply is sent by whoever wins: the work, or its time limit.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "FilDuBus.h"
 
+#include "Contrat.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -10,8 +12,6 @@ namespace extension {
 
 namespace {
 
-constexpr char kService[] = "com.ombrel.vocalyne.texteurs.OpenOffice.";
-constexpr char kChemin[] = "/com/ombrel/vocalyne/texteurs/OpenOffice/";
 constexpr unsigned kPremierePause = 200;
 constexpr unsigned kPauseMax = 5'000;
 
@@ -66,8 +66,8 @@ Tenu<GVariant> DemandeAuBus(GDBusConnection* connexion, char const* methode, GVa
 
 FilDuBus::FilDuBus(std::string const& instance, std::shared_ptr<Appels> appels,
                    std::shared_ptr<ClesVivantes const> vivantes, Delais delais)
-    : nom_(kService + instance)
-    , chemin_(kChemin + instance)
+    : nom_(contrat::kPrefixeService + instance)
+    , chemin_(contrat::kPrefixeChemin + instance)
     , appels_(std::move(appels))
     , vivantes_(std::move(vivantes))
     , delais_(delais)

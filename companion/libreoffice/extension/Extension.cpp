@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Extension.h"
 
+#include "Contrat.h"
 #include "commun/Hasard.h"
 #include "commun/MessagesExtension.h"
 #include "lecture/Ecritures.h"
@@ -38,21 +39,11 @@ class Fin : public cppu::WeakImplHelper1<frame::XTerminateListener> {
     void SAL_CALL disposing(lang::EventObject const& /*e*/) override { Extension::Arrete(); }
 };
 
-bool EstInstanceValide(std::string const& instance) {
-    auto const permise = [](char c) {
-        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
-               c == '_';
-    };
-    constexpr std::size_t kMax = 200; // a bus name has 255 characters at most
-    return !instance.empty() && instance.size() <= kMax &&
-           !(instance[0] >= '0' && instance[0] <= '9') &&
-           std::all_of(instance.begin(), instance.end(), permise);
-}
-
 /// A launcher may choose the instance, so as to know it beforehand.
 std::string ChoisisInstance() {
     char const* const voulue = std::getenv("VOCALYNE_BUREAU_INSTANCE");
-    return voulue != nullptr && EstInstanceValide(voulue) ? voulue : "lo" + HasardHexadecimal();
+    return voulue != nullptr && contrat::EstInstanceValide(voulue) ? voulue
+                                                                   : "lo" + HasardHexadecimal();
 }
 
 Delais ChoisisDelais() {

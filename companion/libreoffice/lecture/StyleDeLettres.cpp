@@ -35,28 +35,28 @@ std::uint16_t StyleDeLettres(uno::Any const* valeurs) {
     std::uint16_t style = 0;
     float graisse = 0;
     if ((valeurs[kGraisse] >>= graisse) && graisse >= awt::FontWeight::SEMIBOLD) {
-        style |= compagnon::kStyleGras;
+        style |= contrat::kStyleGras;
     }
     awt::FontSlant inclinaison = awt::FontSlant_NONE;
     if ((valeurs[kInclinaison] >>= inclinaison) && inclinaison != awt::FontSlant_NONE &&
         inclinaison != awt::FontSlant_DONTKNOW) {
-        style |= compagnon::kStyleItalique;
+        style |= contrat::kStyleItalique;
     }
     sal_Int16 nombre = 0;
     if ((valeurs[kSoulignement] >>= nombre) && nombre != awt::FontUnderline::NONE &&
         nombre != awt::FontUnderline::DONTKNOW) {
-        style |= compagnon::kStyleSouligne;
+        style |= contrat::kStyleSouligne;
     }
     if ((valeurs[kBarre] >>= nombre) && nombre != awt::FontStrikeout::NONE &&
         nombre != awt::FontStrikeout::DONTKNOW) {
-        style |= compagnon::kStyleBarre;
+        style |= contrat::kStyleBarre;
     }
     if ((valeurs[kExposant] >>= nombre) && nombre != 0) {
-        style |= nombre > 0 ? compagnon::kStyleExposant : compagnon::kStyleIndice;
+        style |= nombre > 0 ? contrat::kStyleExposant : contrat::kStyleIndice;
     }
     lang::Locale langue;
     if ((valeurs[kLangue] >>= langue) && langue.Language == "zxx") {
-        style |= compagnon::kStyleSansCorrection;
+        style |= contrat::kStyleSansCorrection;
     }
     return style;
 }

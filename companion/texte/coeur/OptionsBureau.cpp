@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "OptionsBureau.h"
 
+#include "Contrat.h"
 #include "MessagesTexte.h"
 
 #include <algorithm>
@@ -9,9 +10,6 @@
 namespace compagnon {
 
 namespace {
-
-// A bus name has at most 255 bytes, the fixed part included.
-constexpr std::size_t kInstanceMax = 200;
 
 OptionsBureau Mauvaise(std::string erreur) {
     OptionsBureau options;
@@ -27,16 +25,6 @@ std::string OptionFautive(char* const argv[]) {
 }
 
 } // namespace
-
-bool EstInstanceValable(std::string const& instance) noexcept {
-    auto const estLettre = [](char c) {
-        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
-    };
-    auto const estChiffre = [](char c) { return c >= '0' && c <= '9'; };
-    return !instance.empty() && instance.size() <= kInstanceMax && !estChiffre(instance[0]) &&
-           std::all_of(instance.begin(), instance.end(),
-                       [&](char c) { return estLettre(c) || estChiffre(c); });
-}
 
 OptionsBureau LisOptions(int argc, char* argv[]) {
     enum : int { Instance = 256, SansEnregistrer, FinAvecHote, Commande };
@@ -65,7 +53,7 @@ OptionsBureau LisOptions(int argc, char* argv[]) {
             return options;
         case Instance:
             options.instance = optarg;
-            if (!EstInstanceValable(options.instance)) {
+            if (!contrat::EstInstanceValide(options.instance)) {
                 return Mauvaise(Dis({"Instance « {1} » : lettres, chiffres et « _ » seulement, "
                                      "sans chiffre au début",
                                      "Instance \"{1}\": letters, digits and \"_\" only, no digit "

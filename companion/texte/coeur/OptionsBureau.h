@@ -22,9 +22,6 @@ struct OptionsBureau {
 /// Permutes `argv`. Not for two threads.
 OptionsBureau LisOptions(int argc, char* argv[]);
 
-/// Can it stand in a bus name and in an object path?
-bool EstInstanceValable(std::string const& instance) noexcept;
-
 /// The usage, in the person's language.
 std::string DonneAide();
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "DocumentsDuBus.h"
 
+#include "Contrat.h"
 #include "ProxyDocuments.h"
 #include "commun/ErreurHote.h"
 #include "commun/MessagesHote.h"
@@ -10,7 +11,6 @@
 #include <QDBusPendingReply>
 #include <QElapsedTimer>
 #include <QEventLoop>
-#include <QRegularExpression>
 #include <QTimer>
 
 #include <algorithm>
@@ -21,7 +21,7 @@ namespace hote {
 namespace {
 
 QString DonnePrefixe() {
-    return QStringLiteral("com.ombrel.vocalyne.texteurs.OpenOffice.");
+    return QLatin1String(contrat::kPrefixeService);
 }
 
 /// A connection of its own: whatever companions send here cannot harm the one that the plug-in
@@ -105,12 +105,11 @@ void Recueille(QString const& instance, QDBusPendingReply<QString> const& repons
 } // namespace
 
 QString DonneInstance(QString const& service) {
-    static QRegularExpression const forme(QStringLiteral("\\A[A-Za-z_][A-Za-z0-9_]*\\z"));
     if (!service.startsWith(DonnePrefixe())) {
         return {};
     }
     QString const instance = service.mid(DonnePrefixe().size());
-    return forme.match(instance).hasMatch() ? instance : QString();
+    return contrat::EstInstanceValide(instance.toStdString()) ? instance : QString();
 }
 
 ListeDocuments EnumereDocuments(int delaiMs) {
@@ -132,7 +131,7 @@ ListeDocuments EnumereDocuments(int delaiMs) {
             continue;
         }
         proxys.push_back(std::make_unique<ProxyDocuments>(
-            service, QStringLiteral("/com/ombrel/vocalyne/texteurs/OpenOffice/") + instance, bus));
+            service, QLatin1String(contrat::kPrefixeChemin) + instance, bus));
         instances.append(instance);
         appels.push_back(proxys.back()->DonneDocuments());
     }

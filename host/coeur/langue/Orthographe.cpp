@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Orthographe.h"
 
+#include "Contrat.h"
 #include "Decoupeur.h"
 
 #include <QSet>
@@ -11,7 +12,6 @@ namespace hote {
 
 namespace {
 
-constexpr std::uint16_t kStyleNonCorrige = 64; ///< the style bit of text not to be proofed
 constexpr ushort kApostropheCourbe = 0x2019;
 
 /// Does the word touch a run that is not to be proofed? `plage` moves forward with the
@@ -21,7 +21,7 @@ bool EstExclu(Mot const& mot, Orthographe::Plages const& plages, std::size_t& pl
         ++plage;
     }
     for (std::size_t i = plage; i < plages.size() && plages[i].debut < mot.fin; ++i) {
-        if ((plages[i].attribut & kStyleNonCorrige) != 0) {
+        if ((plages[i].attribut & contrat::kStyleSansCorrection) != 0) {
             return true;
         }
     }

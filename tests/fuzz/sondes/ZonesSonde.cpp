@@ -26,13 +26,8 @@ Lecture Lis(std::string const& document) {
 }
 
 bool SontEgales(ZoneRecue const& a, ZoneRecue const& b) {
-    auto const memePlage = [](PlageStyle const& p, PlageStyle const& q) {
-        return p.debut == q.debut && p.longueur == q.longueur && p.style == q.style;
-    };
     return a.nom == b.nom && a.texte == b.texte && a.debutSel == b.debutSel &&
-           a.finSel == b.finSel &&
-           std::equal(a.styles.begin(), a.styles.end(), b.styles.begin(), b.styles.end(),
-                      memePlage);
+           a.finSel == b.finSel && a.styles == b.styles;
 }
 
 } // namespace

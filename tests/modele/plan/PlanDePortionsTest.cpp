@@ -31,7 +31,7 @@ bool operator==(EtapeEdition const& etape, Attendue const& attendue) {
 PlanDePortions ChatEnGras() {
     PlanDePortions plan;
     plan.Ajoute(GenrePortion::Texte, u"un ");
-    plan.Ajoute(GenrePortion::Texte, u"chat", compagnon::kStyleGras);
+    plan.Ajoute(GenrePortion::Texte, u"chat", contrat::kStyleGras);
     plan.Ajoute(GenrePortion::Texte, u" noir");
     return plan;
 }
@@ -78,21 +78,21 @@ TEST(PortionPlan, StylesInsideAPortionStandWhereItsLettersAreRead) {
     PlanDePortions plan;
     plan.Ajoute(GenrePortion::Texte, u"un ");
     plan.Ajoute(u"a\u00ADb \u05D0\u05D1",
-                {{0, 4, compagnon::kStyleGras}, {4, 6, compagnon::kStyleItalique}});
-    plan.Ajoute(u"c", {{0, 1, compagnon::kStyleItalique}});
+                {{0, 4, contrat::kStyleGras}, {4, 6, contrat::kStyleItalique}});
+    plan.Ajoute(u"c", {{0, 1, contrat::kStyleItalique}});
     plan.Ajoute(u"", {});
     EXPECT_EQ(plan.DonneTexte(), u"un ab \u05D0\u05D1c");
     EXPECT_THAT(plan.DonneStyles(),
-                ElementsAre(compagnon::PlageDeStyle{3, 6, compagnon::kStyleGras},
-                            compagnon::PlageDeStyle{6, 9, compagnon::kStyleItalique}));
+                ElementsAre(compagnon::PlageDeStyle{3, 6, contrat::kStyleGras},
+                            compagnon::PlageDeStyle{6, 9, contrat::kStyleItalique}));
     EXPECT_EQ(plan.DonnePortions().size(), 4U);
 }
 
 TEST(PortionPlan, NeighbouringEqualStylesAreOneRun) {
     PlanDePortions plan;
-    plan.Ajoute(GenrePortion::Texte, u"ab", compagnon::kStyleGras);
-    plan.Ajoute(GenrePortion::Exclue, u"zzz", compagnon::kStyleItalique);
-    plan.Ajoute(GenrePortion::Texte, u"cd", compagnon::kStyleGras);
+    plan.Ajoute(GenrePortion::Texte, u"ab", contrat::kStyleGras);
+    plan.Ajoute(GenrePortion::Exclue, u"zzz", contrat::kStyleItalique);
+    plan.Ajoute(GenrePortion::Texte, u"cd", contrat::kStyleGras);
     plan.Ajoute(GenrePortion::Texte, u"ef");
     EXPECT_THAT(plan.DonneStyles(), ElementsAre(compagnon::PlageDeStyle{0, 4, 1}));
 }

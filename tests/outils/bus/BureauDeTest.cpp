@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "BureauDeTest.h"
 
+#include "Contrat.h"
+
 #include <gtest/gtest.h>
 
 #include <csignal>
@@ -42,11 +44,11 @@ std::string BureauDeTest::Instance() const {
 }
 
 std::string BureauDeTest::Service() const {
-    return "com.ombrel.vocalyne.texteurs.OpenOffice." + Instance();
+    return contrat::kPrefixeService + Instance();
 }
 
 std::string BureauDeTest::Objet() const {
-    return "/com/ombrel/vocalyne/texteurs/OpenOffice/" + Instance();
+    return contrat::kPrefixeChemin + Instance();
 }
 
 CommandeBureau& BureauDeTest::DonneCommande() {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "ClientBureau.h"
 
+#include "Contrat.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -20,9 +22,9 @@ std::string DeBase64(QJsonValue const& valeur) {
 } // namespace
 
 ClientBureau::ClientBureau(std::string const& instance)
-    : lien_(QStringLiteral("com.ombrel.vocalyne.texteurs.OpenOffice.") + Q(instance),
-            QStringLiteral("/com/ombrel/vocalyne/texteurs/OpenOffice/") + Q(instance),
-            QStringLiteral("com.ombrel.vocalyne.texteurs.openoffice.proxy.interface")) {}
+    : lien_(QLatin1String(contrat::kPrefixeService) + Q(instance),
+            QLatin1String(contrat::kPrefixeChemin) + Q(instance),
+            QLatin1String(contrat::kInterfaceProxy)) {}
 
 std::string ClientBureau::Erreur(char const* methode, QVariantList const& arguments) const {
     return Appelle(methode, arguments).errorName().toStdString();

@@ -34,6 +34,7 @@ class Disposition(PrefixeInstalle):
     def test_every_product_stands_at_its_place(self):
         for chemin in [*PROGRAMMES, *BIBLIOTHEQUES, GREFFON, "include/vocalyne/ImplAgentTexteur.h",
                        "include/vocalyne/UniChaine.h", "share/vocalyne/protocol/zones.schema.json",
+                       "share/vocalyne/protocol/Contrat.h",
                        "share/doc/VocalyneConnecteur/LICENSE",
                        f"{LIB}/cmake/VocalyneConnecteur/VocalyneConnecteurConfig.cmake"]:
             with self.subTest(chemin):
