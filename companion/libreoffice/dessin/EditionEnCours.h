@@ -2,6 +2,7 @@
 #pragma once
 
 #include <com/sun/star/frame/XController.hpp>
+#include <com/sun/star/frame/XModel.hpp>
 
 namespace extension {
 
@@ -11,5 +12,9 @@ enum class Frappe { DansUneCellule, DansUneForme };
 /// What is typed there replaces the text at its end, whatever was done to it meanwhile. Main
 /// thread.
 bool EstEnTrainDeTaper(css::uno::Reference<css::frame::XController> const& vue, Frappe frappe);
+
+/// Lets go of the shapes that are selected in a text document's window: while one is, the window
+/// takes every other selection for done and keeps the shape. Main thread.
+void QuitteLesFormes(css::uno::Reference<css::frame::XModel> const& modele);
 
 } // namespace extension

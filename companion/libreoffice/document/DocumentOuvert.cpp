@@ -143,10 +143,19 @@ std::optional<ZoneLue> DocumentOuvert::DonneSelection() {
     return ZoneLue{zone, std::move(plan), choisi.value_or(Intervalle()), deborde};
 }
 
-void DocumentOuvert::Selectionne(ZoneOuverte& zone, compagnon::PlanDePortions const& plan,
+bool DocumentOuvert::Selectionne(ZoneOuverte& zone, compagnon::PlanDePortions const& plan,
                                  Intervalle plage) {
+    retenue_.reset();
     zone.Selectionne(plan, plage.DonneDebut(), plage.DonneFin());
-    retenue_ = Retenue{zone.DonneCle(), plan.DonneTexte(), plage};
+    std::unique_ptr<SelectionVue> const selection = LisSelectionDuBureau();
+    if (!selection) {
+        return false;
+    }
+    if (selection->EstEntier(zone)) {
+        retenue_ = Retenue{zone.DonneCle(), plan.DonneTexte(), plage};
+        return true;
+    }
+    return !selection->Deborde() && selection->Dans(zone, plan) == plage;
 }
 
 } // namespace extension

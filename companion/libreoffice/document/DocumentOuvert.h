@@ -54,8 +54,10 @@ class DocumentOuvert {
     /// selected and no caret stands in a text. `selection` is set.
     std::optional<ZoneLue> DonneSelection();
 
-    /// Selects a range of a zone (of the plan just read) and brings it into view.
-    void Selectionne(ZoneOuverte& zone, compagnon::PlanDePortions const& plan,
+    /// Selects a range of a zone (of the plan just read) and brings it into view. False when the
+    /// office then has something else selected, whatever it answered: comments, notes pages and
+    /// headers cannot be selected in from outside. What is selected then is none of the caller's.
+    bool Selectionne(ZoneOuverte& zone, compagnon::PlanDePortions const& plan,
                      compagnon::Intervalle plage);
 
   protected:

@@ -157,7 +157,11 @@ void Service::SelectionneIntervalle(std::string const& appelant, std::string con
     if (!trouve) {
         throw Refuse("the document has changed there");
     }
-    document->Selectionne(*zone, plan, trouve.plage);
+    // Told even when it fails: what the office has selected instead is not what the tools replace.
+    session.contexte = Session::Contexte{zone->DonneCle(), plan.DonneTexte(), trouve.plage};
+    if (!document->Selectionne(*zone, plan, trouve.plage)) {
+        throw Refuse("the office cannot select that text from outside");
+    }
 }
 
 std::u16string Service::DonneContenuSelection(std::string const& appelant) {

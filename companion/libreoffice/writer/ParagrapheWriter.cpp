@@ -3,6 +3,7 @@
 
 #include "commun/ChainesUno.h"
 #include "commun/ErreurDuService.h"
+#include "dessin/EditionEnCours.h"
 #include "document/SelectionDuBureau.h"
 #include "lecture/Curseur.h"
 #include "lecture/PlaceParmi.h"
@@ -106,6 +107,7 @@ void ParagrapheWriter::Selectionne(PlanDePortions const& plan, std::size_t debut
         uno::Reference<text::XTextRange> const etendue(paragraphe_, uno::UNO_QUERY_THROW);
         curseur = contenant_->texte->createTextCursorByRange(etendue->getStart());
     }
+    QuitteLesFormes(fond_->modele);
     SelectionneDans(fond_->modele,
                     uno::Any(uno::Reference<text::XTextRange>(curseur, uno::UNO_QUERY_THROW)));
 }

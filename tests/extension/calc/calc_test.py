@@ -609,14 +609,21 @@ class Selection(Cas):
         self.client.RemplaceEtReselectionne("lettres")
         self.assertEqual(self.cellule("A1").String, "un\ndeux lettres")
 
-    def test_a_shape_and_a_comment_can_be_selected(self):
+    def test_a_shape_can_be_selected(self):
         forme = self.forme("dans une forme")
-        self.commente("C9", "une remarque")
         self.client.SelectionneIntervalle(self.zone("forme").nom, 5, 8)
         self.assertEqual(self.doc.CurrentSelection.getByIndex(0), forme)
         self.assertEqual(self.client.DonneContenuSelection(), "une")
-        self.client.SelectionneIntervalle(self.zone("remarque").nom, 0, 3)
+
+    def test_a_comment_is_shown_by_its_cell_and_the_cell_is_not_replaced_for_it(self):
+        cellule = self.cellule("C9", "dans la cellule")
+        self.commente("C9", "une remarque")
+        with self.assertRaises(banc.Appel):
+            self.client.SelectionneIntervalle(self.zone("remarque").nom, 0, 3)
         self.assertEqual(self.doc.CurrentSelection.AbsoluteName, "$Sheet1.$C$9")
+        with self.assertRaises(banc.Appel):
+            self.client.RemplaceEtReselectionne("x")
+        self.assertEqual(cellule.String, "dans la cellule")
 
 
 if __name__ == "__main__":

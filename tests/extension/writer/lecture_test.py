@@ -326,6 +326,29 @@ class Selections(Cas):
         self.assertEqual(self.doc.CurrentSelection.getByIndex(0).String, "deux")
         self.assertEqual(self.client.zones()[0].selection, (7, 11))
 
+    def test_text_of_the_body_can_be_selected_while_a_shape_is_selected(self):
+        self.texte.setString("du corps ici")
+        forme = self.e.forme("dans la forme")
+        self.doc.CurrentController.select(forme)
+        zone = next(z for z in self.client.zones() if "corps" in z.texte)
+        self.client.SelectionneIntervalle(zone.nom, 3, 8)
+        self.assertEqual(self.client.DonneContenuSelection(), "corps")
+        self.client.RemplaceEtReselectionne("texte")
+        self.assertEqual((self.texte.String, forme.String), ("du texte ici", "dans la forme"))
+
+    def test_a_comment_cannot_be_selected_and_nothing_else_is_replaced_for_it(self):
+        self.texte.setString("du corps ici")
+        remarque = self.doc.createInstance("com.sun.star.text.textfield.Annotation")
+        remarque.Content = "une remarque"
+        self.texte.insertTextContent(self.e.plage(3, 8), remarque, True)
+        zone = next(z for z in self.client.zones() if "remarque" in z.texte)
+        with self.assertRaises(banc.Appel):
+            self.client.SelectionneIntervalle(zone.nom, 4, 12)
+        with self.assertRaises(banc.Appel):
+            self.client.RemplaceEtReselectionne("note")
+        self.assertEqual(self.texte.String, "du corps ici")
+        self.assertEqual(next(z for z in self.client.zones() if "remarque" in z.texte).texte, "une remarque")
+
     def test_the_tools_can_shift_and_replace_the_selection(self):
         self.texte.setString("un tres beau chat")
         self.choisis(4, 4)
