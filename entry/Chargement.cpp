@@ -40,7 +40,7 @@ class ArbreEnregistre {
     ArbreEnregistre& operator=(ArbreEnregistre const&) = delete;
 };
 
-UniChaine Litteral(char const* texte) {
+UniChaine FaisLitteral(char const* texte) {
     return {texte, UniChaine::kCodageLitteral, -1};
 }
 
@@ -51,8 +51,10 @@ void ChargeDomaineTexteur() {
     if (domaineTexteur != nullptr) {
         return;
     }
-    InitLocaleAvecQRC(&domaineTexteur, Litteral(":/fichiers/TexteurEn.mo"), kLangueAnglais, false);
-    InitLocaleAvecQRC(&domaineTexteur, Litteral(":/fichiers/TexteurFr.mo"), kLangueFrancais, false);
+    InitLocaleAvecQRC(&domaineTexteur, FaisLitteral(":/fichiers/TexteurEn.mo"), kLangueAnglais,
+                      false);
+    InitLocaleAvecQRC(&domaineTexteur, FaisLitteral(":/fichiers/TexteurFr.mo"), kLangueFrancais,
+                      false);
 }
 
 namespace {

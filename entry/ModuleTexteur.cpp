@@ -19,14 +19,14 @@ constexpr char const* kCleLangueAffichage =
 /// The application object that this module had made, as long as it stands. The host may have
 /// deleted it and put one of its own in its place, even at the same address. A function's, as the
 /// set-up runs before this unit's own objects are constructed.
-QPointer<QCoreApplication>& ApplicationDuModule() {
+QPointer<QCoreApplication>& DonneApplicationDuModule() {
     static QPointer<QCoreApplication> application;
     return application;
 }
 
 } // namespace
 
-UniChaine CheminReglages() {
+UniChaine DonneCheminReglages() {
     UniChaine chemin(QDir::homePath());
     chemin.Ajoute(UniChaine("/", UniChaine::kCodageLitteral, -1));
     chemin.Ajoute(UniChaine(".vocalyne/9.0/vocalyne.conf", UniChaine::kCodageLitteral, -1));
@@ -34,7 +34,7 @@ UniChaine CheminReglages() {
 }
 
 void InitialiseModule() {
-    PrefsGeneralesQt const prefs(CheminReglages(), kPrefsGenDirect, kPrefsGenLecture,
+    PrefsGeneralesQt const prefs(DonneCheminReglages(), kPrefsGenDirect, kPrefsGenLecture,
                                  QSettings::NativeFormat);
     auto const affichage =
         prefs
@@ -46,9 +46,9 @@ void InitialiseModule() {
     auto* const applicationDeLHote = QCoreApplication::instance();
     InitQApplication();
     if (applicationDeLHote == nullptr) {
-        ApplicationDuModule() = QCoreApplication::instance();
+        DonneApplicationDuModule() = QCoreApplication::instance();
     }
-    StockageReponse::Initialise(DDialogue::kStockeurReglages, CheminReglages(),
+    StockageReponse::Initialise(DDialogue::kStockeurReglages, DonneCheminReglages(),
                                 QSettings::NativeFormat);
     InitialisationGenerale::InitApresQApp();
     QCoreApplication::setOrganizationDomain(QStringLiteral("ombrel.com"));
@@ -63,5 +63,5 @@ void LibereModule() {
     }
     StockageReponse::laListeStockeurDefaut.clear();
     sdd::ChaineN::LibereConvertisseurPourCodage();
-    delete ApplicationDuModule().data();
+    delete DonneApplicationDuModule().data();
 }

@@ -8,7 +8,7 @@
 
 /// The settings file shared with the host: the home directory + "/.vocalyne/9.0/vocalyne.conf", put
 /// together without cleaning (a home of "/" gives two slashes).
-UniChaine CheminReglages();
+UniChaine DonneCheminReglages();
 
 /// Brings up what agents and alerts need: display language, Qt application, remembered answers,
 /// application names. Catches nothing.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "LigneDeCommande.h"
+#include "Aide.h"
+
 #include "commun/MessagesHote.h"
 
 namespace hote {

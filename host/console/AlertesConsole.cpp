@@ -9,21 +9,16 @@
 
 namespace hote {
 
-eReponseAlerte AlertesConsole::Presente(QWidget* /*parent*/, DAlerteInfo const& info) {
+void AlertesConsole::Recois(DAlerteInfo const& info) {
     for (UniChaine const& texte :
          {info.DonneTexte(), info.DonneInformation(), info.DonneDetails()}) {
         if (texte.EstVide()) {
             continue;
         }
         for (QString const& ligne : texte.VersQString().split(QLatin1Char('\n'))) {
-            std::fprintf(stderr, "%s\n", PourTerminal(ligne).toStdString().c_str());
+            std::fprintf(stderr, "%s\n", DonnePourTerminal(ligne).toStdString().c_str());
         }
     }
-    return DonneReponseImmediate(info);
-}
-
-eReponseAlerte DonneReponseImmediate(DAlerteInfo const& info) {
-    return info.DonneGenre() == DAlerteInfo::kQuestion ? kReponseNon : kReponseOui;
 }
 
 } // namespace hote

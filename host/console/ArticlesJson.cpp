@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "ArticlesJson.h"
 
-#include "ChoixLangue.h"
 #include "commun/EcritureJson.h"
 
 namespace hote {
@@ -9,44 +8,42 @@ namespace hote {
 namespace {
 
 void EcrisSens(EcritureJson& json, Sens const& sens) {
-    json.Objet();
-    json.Cle("genre").Texte(sens.genre);
-    json.Cle("synonymes").Tableau();
+    json.OuvreObjet();
+    json.EcrisCle("genre").EcrisTexte(sens.genre);
+    json.EcrisCle("synonymes").OuvreTableau();
     for (Synonyme const& synonyme : sens.synonymes) {
-        json.Objet();
-        json.Cle("mot").Texte(synonyme.mot);
-        json.Cle("note").Texte(synonyme.note);
-        json.FinObjet();
+        json.OuvreObjet();
+        json.EcrisCle("mot").EcrisTexte(synonyme.mot);
+        json.EcrisCle("note").EcrisTexte(synonyme.note);
+        json.FermeObjet();
     }
-    json.FinTableau();
-    json.FinObjet();
+    json.FermeTableau();
+    json.FermeObjet();
 }
 
 } // namespace
 
-std::string DonneArticlesJson(EnTeteArticles const& enTete, Recherche const& recherche) {
+std::string DonneArticlesJson(EnTeteJson const& enTete, QString const& mot,
+                              Recherche const& recherche) {
     EcritureJson json;
-    json.Objet();
-    json.Cle("id").Texte(enTete.id);
-    json.Cle("titre").Texte(enTete.titre);
-    json.Cle("langue").Texte(DonneCodeLangue(enTete.langue));
-    json.Cle("langueTrouvee").Booleen(enTete.langueTrouvee);
-    json.Cle("mot").Texte(enTete.mot);
-    json.Cle("debut").Entier(recherche.mot.debut);
-    json.Cle("fin").Entier(recherche.mot.fin);
-    json.Cle("articles").Tableau();
+    json.OuvreObjet();
+    EcrisEnTete(enTete, json);
+    json.EcrisCle("mot").EcrisTexte(mot);
+    json.EcrisCle("debut").EcrisEntier(recherche.mot.debut);
+    json.EcrisCle("fin").EcrisEntier(recherche.mot.fin);
+    json.EcrisCle("articles").OuvreTableau();
     for (Article const& article : recherche.articles) {
-        json.Objet();
-        json.Cle("entree").Texte(article.entree);
-        json.Cle("sens").Tableau();
+        json.OuvreObjet();
+        json.EcrisCle("entree").EcrisTexte(article.entree);
+        json.EcrisCle("sens").OuvreTableau();
         for (Sens const& sens : article.sens) {
             EcrisSens(json, sens);
         }
-        json.FinTableau();
-        json.FinObjet();
+        json.FermeTableau();
+        json.FermeObjet();
     }
-    json.FinTableau();
-    json.FinObjet();
+    json.FermeTableau();
+    json.FermeObjet();
     return json.DonneJson() + '\n';
 }
 

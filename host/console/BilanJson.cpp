@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "BilanJson.h"
 
-#include "ChoixLangue.h"
 #include "commun/EcritureJson.h"
 
 namespace hote {
@@ -23,54 +22,51 @@ char const* DonneNomEtat(EtatFaute etat) {
 }
 
 void EcrisFaute(EcritureJson& json, FauteTraitee const& faute) {
-    json.Objet();
-    json.Cle("zone").Entier(faute.zone);
-    json.Cle("debut").Entier(faute.faute.debut);
-    json.Cle("fin").Entier(faute.faute.fin);
-    json.Cle("mot").Texte(faute.faute.mot);
-    json.Cle("contexte").Texte(faute.contexte);
-    json.Cle("suggestions").Tableau();
+    json.OuvreObjet();
+    json.EcrisCle("zone").EcrisEntier(faute.zone);
+    json.EcrisCle("debut").EcrisEntier(faute.faute.debut);
+    json.EcrisCle("fin").EcrisEntier(faute.faute.fin);
+    json.EcrisCle("mot").EcrisTexte(faute.faute.mot);
+    json.EcrisCle("contexte").EcrisTexte(faute.contexte);
+    json.EcrisCle("suggestions").OuvreTableau();
     for (QString const& suggestion : faute.suggestions) {
-        json.Texte(suggestion);
+        json.EcrisTexte(suggestion);
     }
-    json.FinTableau();
-    json.Cle("etat").Texte(QLatin1String(DonneNomEtat(faute.etat)));
-    json.Cle("remplacement");
+    json.FermeTableau();
+    json.EcrisCle("etat").EcrisTexte(QLatin1String(DonneNomEtat(faute.etat)));
+    json.EcrisCle("remplacement");
     if (faute.etat == EtatFaute::Laissee) {
-        json.Nul();
+        json.EcrisNul();
     } else {
-        json.Texte(faute.remplacement);
+        json.EcrisTexte(faute.remplacement);
     }
-    json.FinObjet();
+    json.FermeObjet();
 }
 
 } // namespace
 
-std::string DonneBilanJson(EnTete const& enTete, Bilan const& bilan) {
+std::string DonneBilanJson(EnTeteJson const& enTete, bool automatique, Bilan const& bilan) {
     EcritureJson json;
-    json.Objet();
-    json.Cle("id").Texte(enTete.id);
-    json.Cle("titre").Texte(enTete.titre);
-    json.Cle("langue").Texte(DonneCodeLangue(enTete.langue));
-    json.Cle("langueTrouvee").Booleen(enTete.langueTrouvee);
-    json.Cle("automatique").Booleen(enTete.automatique);
-    json.Cle("zones").Entier(bilan.zones);
-    json.Cle("corrigees").Entier(bilan.Compte(EtatFaute::Corrigee));
-    json.Cle("refusees").Entier(bilan.Compte(EtatFaute::Refusee));
-    json.Cle("laissees").Entier(bilan.Compte(EtatFaute::Laissee));
-    json.Cle("nonVerifiees").Entier(bilan.Compte(EtatFaute::NonVerifiee));
-    json.Cle("fautes").Tableau();
+    json.OuvreObjet();
+    EcrisEnTete(enTete, json);
+    json.EcrisCle("automatique").EcrisBooleen(automatique);
+    json.EcrisCle("zones").EcrisEntier(bilan.zones);
+    json.EcrisCle("corrigees").EcrisEntier(bilan.Compte(EtatFaute::Corrigee));
+    json.EcrisCle("refusees").EcrisEntier(bilan.Compte(EtatFaute::Refusee));
+    json.EcrisCle("laissees").EcrisEntier(bilan.Compte(EtatFaute::Laissee));
+    json.EcrisCle("nonVerifiees").EcrisEntier(bilan.Compte(EtatFaute::NonVerifiee));
+    json.EcrisCle("fautes").OuvreTableau();
     for (FauteTraitee const& faute : bilan.fautes) {
         EcrisFaute(json, faute);
     }
-    json.FinTableau();
-    json.Cle("erreur");
+    json.FermeTableau();
+    json.EcrisCle("erreur");
     if (bilan.erreur) {
-        json.Texte(QString::fromUtf8(bilan.erreur->what()));
+        json.EcrisTexte(QString::fromUtf8(bilan.erreur->what()));
     } else {
-        json.Nul();
+        json.EcrisNul();
     }
-    json.FinObjet();
+    json.FermeObjet();
     return json.DonneJson() + '\n';
 }
 

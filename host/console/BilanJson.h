@@ -1,23 +1,15 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
+#include "EnTeteJson.h"
 #include "correction/Bilan.h"
-#include "langue/Lexique.h"
 
 #include <string>
 
 namespace hote {
 
-/// What is told about a correction besides its result.
-struct EnTete {
-    QString id;
-    QString titre;
-    Langue langue;
-    bool langueTrouvee;
-    bool automatique;
-};
-
-/// A result as one line of JSON; the form is in host/README.md.
-std::string DonneBilanJson(EnTete const& enTete, Bilan const& bilan);
+/// A result as one line of JSON, UTF-8; the form is in host/README.md. `automatique` tells whether
+/// corrections were asked for.
+std::string DonneBilanJson(EnTeteJson const& enTete, bool automatique, Bilan const& bilan);
 
 } // namespace hote

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "ChoixDocument.h"
 
-#include "Commandes.h"
-#include "bus/DocumentsDuBus.h"
+#include "Avertissement.h"
+#include "bus/EnumereDocuments.h"
 #include "commun/ErreurHote.h"
 #include "commun/MessagesHote.h"
 

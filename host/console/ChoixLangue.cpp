@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "ChoixLangue.h"
 
-#include "Commandes.h"
+#include "Avertissement.h"
 #include "InitialisationGenerale.h"
+#include "commun/ErreurHote.h"
 #include "commun/MessagesHote.h"
 #include "langue/DetecteLangue.h"
 #include "langue/DictionnaireHunspell.h"

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "AlertesConsole.h"
+#include "Avertissement.h"
 #include "BilanJson.h"
 #include "ChoixDocument.h"
 #include "ChoixLangue.h"
 #include "Commandes.h"
+#include "ExecuteSurGreffon.h"
 #include "InterlocuteurRegle.h"
 #include "InterlocuteurTerminal.h"
-#include "SurGreffon.h"
 #include "commun/MessagesHote.h"
 #include "correction/Correcteur.h"
 #include "greffon/LocaliseGreffon.h"
@@ -49,11 +50,11 @@ class Seance {
         Bilan const bilan = Corrige(orthographe, progression);
         progression.Efface();
         if (options_.json) {
-            sortie_.Ecris(DonneBilanJson(
-                {id_, titre_, choix_.lexique->DonneLangue(), choix_.trouvee, options_.automatique},
-                bilan));
+            sortie_.Ecris(
+                DonneBilanJson({id_, titre_, choix_.lexique->DonneLangue(), choix_.trouvee},
+                               options_.automatique, bilan));
         } else {
-            sortie_.Ecris(presentation_.Fin(bilan, options_.automatique || interactive_));
+            sortie_.Ecris(presentation_.DonneFin(bilan, options_.automatique || interactive_));
         }
         return DonneCode(bilan);
     }
@@ -64,10 +65,11 @@ class Seance {
             return;
         }
         std::string const langue = DonneNomLangue(choix_.lexique->DonneLangue());
-        sortie_.Ecris(Tr("Document : {1} ({2})", PourTerminal(titre_), PourTerminal(id_)) + '\n' +
-                      (choix_.trouvee ? Tr("Langue : {1}, d’après le texte", langue)
-                                      : Tr("Langue : {1}", langue)) +
-                      '\n');
+        sortie_.Ecris(
+            Tr("Document : {1} ({2})", DonnePourTerminal(titre_), DonnePourTerminal(id_)) + '\n' +
+            (choix_.trouvee ? Tr("Langue : {1}, d’après le texte", langue)
+                            : Tr("Langue : {1}", langue)) +
+            '\n');
     }
 
     Bilan Corrige(Orthographe const& orthographe, Progression& progression) {
@@ -107,7 +109,8 @@ eCodeSortie ExecuteCorrige(OptionsHote const& options) {
     auto lexique = options.langue ? OuvreDictionnaire(*options.langue) : nullptr;
     AlertesConsole alertes;
     auto const greffon = Greffon::Charge(LocaliseGreffon(options.greffon));
-    return SurGreffon([&] { return Seance(options, std::move(lexique), *greffon).Execute(); });
+    return ExecuteSurGreffon(
+        [&] { return Seance(options, std::move(lexique), *greffon).Execute(); });
 }
 
 } // namespace hote

@@ -4,9 +4,10 @@
 #include "ChoixDocument.h"
 #include "ChoixLangue.h"
 #include "Commandes.h"
+#include "DemandeLigne.h"
+#include "ExecuteSurGreffon.h"
 #include "PresentationArticles.h"
 #include "Sortie.h"
-#include "SurGreffon.h"
 #include "commun/MessagesHote.h"
 #include "greffon/LocaliseGreffon.h"
 #include "greffon/SelectionTenue.h"
@@ -27,13 +28,11 @@ namespace {
 /// The number that the person types, or nothing to leave all as it is.
 std::optional<int> DemandeNumero(Sortie& sortie, int nombre) {
     for (;;) {
-        sortie.Ecris("      " + Tr("1-{1} choisir, q quitter", nombre) + " > ");
-        std::string ligne;
-        if (sortie.EstRompue() || !std::getline(std::cin, ligne)) {
-            sortie.Ecris("\n");
+        auto const ligne = DemandeLigne(std::cin, sortie, Tr("1-{1} choisir, q quitter", nombre));
+        if (!ligne) {
             return std::nullopt;
         }
-        QString const reponse = QString::fromStdString(ligne).trimmed();
+        QString const reponse = ligne->trimmed();
         if (reponse == QLatin1String("q")) {
             return std::nullopt;
         }
@@ -54,7 +53,7 @@ eCodeSortie Choisis(Recherche const& recherche, SelectionTenue::Etat const& etat
     QString const texte =
         DonneCasse(TrouveSynonyme(recherche, *numero)->mot, etat.texte.mid(debut, fin - debut));
     bool const fait = selection.Remplace(etat, debut, fin, texte);
-    std::string const montre = PourTerminal(texte).toStdString();
+    std::string const montre = DonnePourTerminal(texte).toStdString();
     sortie.Ecris((fait ? "→ " + montre : Tr("refusée : {1}", montre)) + '\n');
     return fait ? kSortieReussie : kSortiePartielle;
 }
@@ -80,15 +79,16 @@ eCodeSortie Cherche(OptionsHote const& options, ChoixLangue choix, Greffon const
     eCodeSortie code = kSortieReussie;
     if (options.json) {
         sortie.Ecris(
-            DonneArticlesJson({id, selection.DonneTitre(), mot, langue, choix.trouvee}, recherche));
+            DonneArticlesJson({id, selection.DonneTitre(), langue, choix.trouvee}, mot, recherche));
     } else if (recherche.articles.empty()) {
         sortie.Ecris(
-            Tr("« {1} » : pas de synonyme ({2}).", PourTerminal(mot), DonneNomLangue(langue)) +
+            Tr("« {1} » : pas de synonyme ({2}).", DonnePourTerminal(mot), DonneNomLangue(langue)) +
             '\n');
     } else {
         bool const demande = isatty(STDIN_FILENO) == 1 && isatty(STDOUT_FILENO) == 1;
-        sortie.Ecris(Tr("Synonymes de « {1} » ({2})", PourTerminal(mot), DonneNomLangue(langue)) +
-                     '\n' + DonneArticlesTexte(recherche, Couleurs(STDOUT_FILENO), demande));
+        sortie.Ecris(
+            Tr("Synonymes de « {1} » ({2})", DonnePourTerminal(mot), DonneNomLangue(langue)) +
+            '\n' + DonneArticlesTexte(recherche, Couleurs(STDOUT_FILENO), demande));
         if (demande) {
             code = Choisis(recherche, etat, selection, sortie);
         }
@@ -104,7 +104,9 @@ eCodeSortie ExecuteDictionnaire(OptionsHote const& options) {
     auto lexique = options.langue ? OuvreDictionnaire(*options.langue) : nullptr;
     AlertesConsole alertes;
     auto const greffon = Greffon::Charge(LocaliseGreffon(options.greffon));
-    return SurGreffon([&] { return Cherche(options, {std::move(lexique), false}, *greffon); });
+    return ExecuteSurGreffon([&] {
+        return Cherche(options, {std::move(lexique), false}, *greffon);
+    });
 }
 
 } // namespace hote

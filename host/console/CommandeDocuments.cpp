@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
+#include "Avertissement.h"
 #include "Commandes.h"
 #include "Sortie.h"
-#include "bus/DocumentsDuBus.h"
+#include "bus/EnumereDocuments.h"
 #include "commun/EcritureJson.h"
 #include "commun/MessagesHote.h"
 #include "langue/Contexte.h"
@@ -14,25 +15,25 @@ namespace {
 
 std::string EcrisJson(ListeDocuments const& liste) {
     EcritureJson json;
-    json.Tableau();
+    json.OuvreTableau();
     for (DocumentAnnonce const& document : liste.documents) {
-        json.Objet();
-        json.Cle("id").Texte(document.id);
-        json.Cle("titre").Texte(document.titre);
-        json.Cle("chemin").Texte(document.chemin);
-        json.FinObjet();
+        json.OuvreObjet();
+        json.EcrisCle("id").EcrisTexte(document.id);
+        json.EcrisCle("titre").EcrisTexte(document.titre);
+        json.EcrisCle("chemin").EcrisTexte(document.chemin);
+        json.FermeObjet();
     }
-    json.FinTableau();
+    json.FermeTableau();
     return json.DonneJson() + '\n';
 }
 
 std::string EcrisTexte(ListeDocuments const& liste) {
     std::string texte;
     for (DocumentAnnonce const& document : liste.documents) {
-        texte += PourTerminal(document.id).toStdString();
-        texte += "  " + PourTerminal(document.titre).toStdString();
+        texte += DonnePourTerminal(document.id).toStdString();
+        texte += "  " + DonnePourTerminal(document.titre).toStdString();
         if (!document.chemin.isEmpty()) {
-            texte += "  " + PourTerminal(document.chemin).toStdString();
+            texte += "  " + DonnePourTerminal(document.chemin).toStdString();
         }
         texte += '\n';
     }

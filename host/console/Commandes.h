@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "LigneDeCommande.h"
+#include "OptionsHote.h"
 #include "commun/ErreurHote.h"
 
 namespace hote {
@@ -12,8 +12,5 @@ eCodeSortie ExecuteDocuments(OptionsHote const& options);
 eCodeSortie ExecuteCorrige(OptionsHote const& options);
 eCodeSortie ExecuteDictionnaire(OptionsHote const& options);
 eCodeSortie ExecutePilote(OptionsHote const& options);
-
-/// Says something beside the matter on standard error: one line, beginning with the program's name.
-void Avertis(std::string const& message);
 
 } // namespace hote

@@ -22,15 +22,15 @@ bool EstColore(int descripteur) {
 Couleurs::Couleurs(int descripteur)
     : actives_(EstColore(descripteur)) {}
 
-std::string Couleurs::Faute(std::string const& texte) const {
+std::string Couleurs::MarqueFaute(std::string const& texte) const {
     return actives_ ? Entoure("1;31", texte) : '[' + texte + ']';
 }
 
-std::string Couleurs::Correction(std::string const& texte) const {
+std::string Couleurs::MarqueCorrection(std::string const& texte) const {
     return Entoure("32", texte);
 }
 
-std::string Couleurs::Discret(std::string const& texte) const {
+std::string Couleurs::Attenue(std::string const& texte) const {
     return Entoure("2", texte);
 }
 

@@ -16,10 +16,10 @@ class Couleurs {
         : actives_(actives) {}
 
     /// A mistake in its context: in colour, or between brackets.
-    std::string Faute(std::string const& texte) const;
-    std::string Correction(std::string const& texte) const;
+    std::string MarqueFaute(std::string const& texte) const;
+    std::string MarqueCorrection(std::string const& texte) const;
     /// What is said beside the matter.
-    std::string Discret(std::string const& texte) const;
+    std::string Attenue(std::string const& texte) const;
 
   private:
     std::string Entoure(char const* code, std::string const& texte) const;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "InterlocuteurTerminal.h"
 
+#include "DemandeLigne.h"
 #include "commun/MessagesHote.h"
 
 #include <string>
@@ -9,13 +10,15 @@ namespace hote {
 
 Decision InterlocuteurTerminal::Decide(Question const& question) {
     progression_.Efface();
-    sortie_.Ecris('\n' + presentation_.Faute(question) + presentation_.Choix(question.suggestions));
+    sortie_.Ecris('\n' + presentation_.DonneFaute(question) +
+                  presentation_.DonneChoix(question.suggestions));
     for (;;) {
-        auto const reponse =
-            Demande(question.suggestions.isEmpty()
-                        ? Tr("r remplacer, i ignorer, I tout ignorer, q quitter")
-                        : Tr("1-{1} choisir, r remplacer, i ignorer, I tout ignorer, q quitter",
-                             question.suggestions.size()));
+        auto const reponse = DemandeLigne(
+            entree_, sortie_,
+            question.suggestions.isEmpty()
+                ? Tr("r remplacer, i ignorer, I tout ignorer, q quitter")
+                : Tr("1-{1} choisir, r remplacer, i ignorer, I tout ignorer, q quitter",
+                     question.suggestions.size()));
         if (!reponse) {
             return {Decision::Genre::Quitte, {}};
         }
@@ -26,22 +29,12 @@ Decision InterlocuteurTerminal::Decide(Question const& question) {
 }
 
 void InterlocuteurTerminal::ApprendsIssue(FauteTraitee const& faute, bool envoyee) {
-    sortie_.Ecris(presentation_.Issue(faute, envoyee));
+    sortie_.Ecris(presentation_.DonneIssue(faute, envoyee));
 }
 
 void InterlocuteurTerminal::ApprendsProgres(int zone, int nombreZones, int nombreFautes) {
     progression_.Montre(
-        [&] { return Tr("Zone {1} sur {2}, fautes : {3}", zone + 1, nombreZones, nombreFautes); });
-}
-
-std::optional<QString> InterlocuteurTerminal::Demande(std::string const& invite) {
-    sortie_.Ecris("      " + invite + " > ");
-    std::string ligne;
-    if (sortie_.EstRompue() || !std::getline(entree_, ligne)) {
-        sortie_.Ecris("\n");
-        return std::nullopt;
-    }
-    return QString::fromStdString(ligne);
+        [&] { return PresentationTexte::DonneProgres(zone, nombreZones, nombreFautes); });
 }
 
 std::optional<Decision> InterlocuteurTerminal::Comprends(QString const& reponse,
@@ -68,7 +61,7 @@ std::optional<Decision> InterlocuteurTerminal::Comprends(QString const& reponse,
 }
 
 std::optional<Decision> InterlocuteurTerminal::DemandeTexte() {
-    auto const texte = Demande(Tr("remplacer par (rien pour renoncer)"));
+    auto const texte = DemandeLigne(entree_, sortie_, Tr("remplacer par (rien pour renoncer)"));
     if (!texte) {
         return Decision{Decision::Genre::Quitte, {}};
     }

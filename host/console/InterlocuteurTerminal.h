@@ -28,7 +28,6 @@ class InterlocuteurTerminal : public Interlocuteur {
     void ApprendsProgres(int zone, int nombreZones, int nombreFautes) override;
 
   private:
-    std::optional<QString> Demande(std::string const& invite);
     std::optional<Decision> Comprends(QString const& reponse, QStringList const& suggestions);
     std::optional<Decision> DemandeTexte();
 

@@ -8,7 +8,7 @@ namespace hote {
 namespace {
 
 std::string Montre(QString const& texte) {
-    return PourTerminal(texte).toStdString();
+    return DonnePourTerminal(texte).toStdString();
 }
 
 } // namespace
@@ -22,18 +22,18 @@ std::string DonneArticlesTexte(Recherche const& recherche, Couleurs const& coule
         for (Sens const& sens : article.sens) {
             texte += "  ";
             if (!sens.genre.isEmpty()) {
-                texte += couleurs.Discret('(' + Montre(sens.genre) + ')') + ' ';
+                texte += couleurs.Attenue('(' + Montre(sens.genre) + ')') + ' ';
             }
             bool premier = true;
             for (Synonyme const& synonyme : sens.synonymes) {
                 texte += premier ? "" : numerote ? "  " : ", ";
                 premier = false;
                 if (numerote) {
-                    texte += couleurs.Discret(std::to_string(++numero)) + ' ';
+                    texte += couleurs.Attenue(std::to_string(++numero)) + ' ';
                 }
-                texte += couleurs.Correction(Montre(synonyme.mot));
+                texte += couleurs.MarqueCorrection(Montre(synonyme.mot));
                 if (!synonyme.note.isEmpty()) {
-                    texte += ' ' + couleurs.Discret('(' + Montre(synonyme.note) + ')');
+                    texte += ' ' + couleurs.Attenue('(' + Montre(synonyme.note) + ')');
                 }
             }
             texte += '\n';

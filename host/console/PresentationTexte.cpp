@@ -13,47 +13,52 @@ constexpr char const* kRetrait = "      ";
 constexpr char const* kSuspension = "…";
 
 std::string Montre(QString const& texte) {
-    return PourTerminal(texte).toStdString();
+    return DonnePourTerminal(texte).toStdString();
 }
 
 } // namespace
 
-std::string PresentationTexte::Faute(Question const& question) const {
+std::string PresentationTexte::DonneFaute(Question const& question) const {
     hote::Faute const& faute = question.faute;
     Contexte const contexte =
         DonneContexte(question.texte, faute.debut, faute.fin, kLargeurContexte);
     std::string const numero = std::to_string(question.zone + 1);
     std::string const marge(numero.size() < 5 ? 5 - numero.size() : 0, ' ');
-    return couleurs_.Discret(marge + numero) + ' ' + (contexte.coupeAvant ? kSuspension : "") +
-           Montre(contexte.avant) + couleurs_.Faute(Montre(faute.mot)) + Montre(contexte.apres) +
-           (contexte.coupeApres ? kSuspension : "") + '\n';
+    return couleurs_.Attenue(marge + numero) + ' ' + (contexte.coupeAvant ? kSuspension : "") +
+           Montre(contexte.avant) + couleurs_.MarqueFaute(Montre(faute.mot)) +
+           Montre(contexte.apres) + (contexte.coupeApres ? kSuspension : "") + '\n';
 }
 
-std::string PresentationTexte::Suggestions(QStringList const& suggestions) const {
+std::string PresentationTexte::DonneSuggestions(QStringList const& suggestions) const {
     if (suggestions.isEmpty()) {
-        return kRetrait + couleurs_.Discret(Tr("pas de suggestion")) + '\n';
+        return kRetrait + couleurs_.Attenue(Tr("pas de suggestion")) + '\n';
     }
-    return kRetrait + couleurs_.Correction(Montre(suggestions.join(QStringLiteral(", ")))) + '\n';
+    return kRetrait + couleurs_.MarqueCorrection(Montre(suggestions.join(QStringLiteral(", ")))) +
+           '\n';
 }
 
-std::string PresentationTexte::Choix(QStringList const& suggestions) const {
+std::string PresentationTexte::DonneChoix(QStringList const& suggestions) const {
     if (suggestions.isEmpty()) {
-        return Suggestions(suggestions);
+        return DonneSuggestions(suggestions);
     }
     std::string texte = kRetrait;
     for (int i = 0; i < suggestions.size(); ++i) {
-        texte += (i == 0 ? "" : "  ") + couleurs_.Discret(std::to_string(i + 1)) + ' ' +
-                 couleurs_.Correction(Montre(suggestions.at(i)));
+        texte += (i == 0 ? "" : "  ") + couleurs_.Attenue(std::to_string(i + 1)) + ' ' +
+                 couleurs_.MarqueCorrection(Montre(suggestions.at(i)));
     }
     return texte + '\n';
 }
 
-std::string PresentationTexte::Issue(FauteTraitee const& faute, bool envoyee) const {
-    std::string const remplacement = couleurs_.Correction(Montre(faute.remplacement));
+std::string PresentationTexte::DonneIssue(FauteTraitee const& faute, bool envoyee) const {
+    std::string const remplacement = couleurs_.MarqueCorrection(Montre(faute.remplacement));
     return kRetrait + (envoyee ? "→ " + remplacement : Tr("refusée : {1}", remplacement)) + '\n';
 }
 
-std::string PresentationTexte::Fin(Bilan const& bilan, bool change) const {
+std::string PresentationTexte::DonneProgres(int zone, int nombreZones, int nombreFautes) {
+    return Tr("Zone {1} sur {2}, fautes : {3}", zone + 1, nombreZones, nombreFautes);
+}
+
+std::string PresentationTexte::DonneFin(Bilan const& bilan, bool change) const {
     int const laissees = bilan.Compte(EtatFaute::Laissee);
     if (bilan.fautes.empty() && !bilan.erreur) {
         return Tr("Aucune faute.") + '\n';

@@ -9,22 +9,25 @@
 
 namespace hote {
 
-/// How mistakes and results are told to a person. Each text ends in a line feed.
+/// How mistakes and results are told to a person. Each text is UTF-8 and
+/// ends in a line feed.
 class PresentationTexte {
   public:
     explicit PresentationTexte(Couleurs const& couleurs)
         : couleurs_(couleurs) {}
 
     /// The mistake in its context, after the zone's number.
-    std::string Faute(Question const& question) const;
+    std::string DonneFaute(Question const& question) const;
     /// The suggestions in one line.
-    std::string Suggestions(QStringList const& suggestions) const;
+    std::string DonneSuggestions(QStringList const& suggestions) const;
     /// The suggestions, numbered.
-    std::string Choix(QStringList const& suggestions) const;
+    std::string DonneChoix(QStringList const& suggestions) const;
     /// What became of the correction just decided.
-    std::string Issue(FauteTraitee const& faute, bool envoyee) const;
+    std::string DonneIssue(FauteTraitee const& faute, bool envoyee) const;
+    /// How far the work is; without a line feed.
+    static std::string DonneProgres(int zone, int nombreZones, int nombreFautes);
     /// The end: how many mistakes became what. `change` tells whether anything was to be changed.
-    std::string Fin(Bilan const& bilan, bool change) const;
+    std::string DonneFin(Bilan const& bilan, bool change) const;
 
   private:
     Couleurs couleurs_;

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MPL-2.0
+#include "Aide.h"
+#include "Avertissement.h"
 #include "Commandes.h"
 #include "InitialisationGenerale.h"
+#include "LigneDeCommande.h"
 #include "Sortie.h"
 #include "commun/MessagesHote.h"
-#include "langue/Contexte.h"
 
 #include <QCoreApplication>
 
@@ -12,11 +14,6 @@
 #include <cstdio>
 
 namespace hote {
-
-void Avertis(std::string const& message) {
-    std::string const ligne = PourTerminal(QString::fromStdString(message)).toStdString();
-    std::fprintf(stderr, "vocalyne-hote : %s\n", ligne.c_str());
-}
 
 namespace {
 

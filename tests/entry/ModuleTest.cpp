@@ -60,9 +60,9 @@ TEST_F(Module, IsSetUpWhenTheProgramStarts) {
 TEST_F(Module, TheSettingsPathIsPutTogetherWithoutCleaning) {
     auto const maison = qgetenv("HOME");
     qputenv("HOME", "/some/home");
-    EXPECT_EQ(U(u"/some/home/.vocalyne/9.0/vocalyne.conf"), CheminReglages());
+    EXPECT_EQ(U(u"/some/home/.vocalyne/9.0/vocalyne.conf"), DonneCheminReglages());
     qputenv("HOME", "/");
-    EXPECT_EQ(U(u"//.vocalyne/9.0/vocalyne.conf"), CheminReglages());
+    EXPECT_EQ(U(u"//.vocalyne/9.0/vocalyne.conf"), DonneCheminReglages());
     qputenv("HOME", maison);
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "DocumentsDuBus.h"
+#include "EnumereDocuments.h"
 
 #include "Contrat.h"
 #include "ProxyDocuments.h"
@@ -69,7 +69,7 @@ void Attends(std::vector<QDBusPendingCall> const& appels, int delaiMs) {
     boucle.exec();
 }
 
-ErreurHote SansBus(QString const& raison) {
+ErreurHote DonneErreurSansBus(QString const& raison) {
     return {kSortieDocument, Tr("Pas de bus de session D-Bus ({1}).", raison)};
 }
 
@@ -80,10 +80,10 @@ QStringList DonneServices(QDBusConnection const& bus, int delaiMs) {
     QDBusPendingReply<QStringList> const reponse = bus.asyncCall(demande, delaiMs);
     Attends({reponse}, delaiMs);
     if (!reponse.isFinished()) {
-        throw SansBus(QString::fromStdString(Tr("il ne répond pas")));
+        throw DonneErreurSansBus(QString::fromStdString(Tr("il ne répond pas")));
     }
     if (reponse.isError()) {
-        throw SansBus(reponse.error().message());
+        throw DonneErreurSansBus(reponse.error().message());
     }
     QStringList services = reponse.value();
     services.sort();
@@ -119,7 +119,7 @@ ListeDocuments EnumereDocuments(int delaiMs) {
     ConnexionPrivee const connexion;
     QDBusConnection const& bus = connexion.Donne();
     if (!bus.isConnected()) {
-        throw SansBus(bus.lastError().message());
+        throw DonneErreurSansBus(bus.lastError().message());
     }
 
     QStringList instances;

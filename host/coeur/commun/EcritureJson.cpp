@@ -5,41 +5,18 @@ namespace hote {
 
 namespace {
 
-void AjouteEchappee(std::string& json, unsigned unite) {
-    static char const chiffres[] = "0123456789abcdef";
-    json += "\\u";
-    for (int decalage = 12; decalage >= 0; decalage -= 4) {
-        json += chiffres[(unite >> decalage) & 0xFU];
-    }
-}
-
-bool EstAEchapper(unsigned unite) {
+bool EstAEchapper(ushort unite) {
     return unite < 0x20 || (unite >= 0x7F && unite < 0xA0) || unite == 0x2028 || unite == 0x2029;
 }
 
-void AjouteUtf8(std::string& json, char32_t code) {
-    auto const octet = [&json](char32_t valeur) { json += static_cast<char>(valeur); };
-    if (code < 0x80) {
-        octet(code);
-    } else if (code < 0x800) {
-        octet(0xC0 | (code >> 6));
-        octet(0x80 | (code & 0x3F));
-    } else if (code < 0x10000) {
-        octet(0xE0 | (code >> 12));
-        octet(0x80 | ((code >> 6) & 0x3F));
-        octet(0x80 | (code & 0x3F));
-    } else {
-        octet(0xF0 | (code >> 18));
-        octet(0x80 | ((code >> 12) & 0x3F));
-        octet(0x80 | ((code >> 6) & 0x3F));
-        octet(0x80 | (code & 0x3F));
-    }
+QString Echappe(QChar unite) {
+    return QStringLiteral("\\u%1").arg(unite.unicode(), 4, 16, QLatin1Char('0'));
 }
 
 } // namespace
 
-EcritureJson& EcritureJson::Cle(char const* nom) {
-    Virgule();
+EcritureJson& EcritureJson::EcrisCle(char const* nom) {
+    EcrisVirgule();
     json_ += '"';
     json_ += nom;
     json_ += "\":";
@@ -47,54 +24,57 @@ EcritureJson& EcritureJson::Cle(char const* nom) {
     return *this;
 }
 
-EcritureJson& EcritureJson::Texte(QString const& texte) {
-    Virgule();
-    json_ += '"';
+EcritureJson& EcritureJson::EcrisTexte(QString const& texte) {
+    EcrisVirgule();
+    QString echappe;
+    echappe.reserve(texte.size() + 2);
+    echappe += QLatin1Char('"');
     for (int i = 0; i < texte.size(); ++i) {
         QChar const unite = texte.at(i);
         if (unite == QLatin1Char('"') || unite == QLatin1Char('\\')) {
-            json_ += '\\';
-            json_ += static_cast<char>(unite.unicode());
+            echappe += QLatin1Char('\\');
+            echappe += unite;
         } else if (unite == QLatin1Char('\n')) {
-            json_ += "\\n";
+            echappe += QLatin1String("\\n");
         } else if (unite == QLatin1Char('\t')) {
-            json_ += "\\t";
+            echappe += QLatin1String("\\t");
         } else if (unite.isHighSurrogate() && i + 1 < texte.size() &&
                    texte.at(i + 1).isLowSurrogate()) {
-            AjouteUtf8(json_, QChar::surrogateToUcs4(unite, texte.at(i + 1)));
-            ++i;
+            echappe += unite;
+            echappe += texte.at(++i);
         } else if (unite.isSurrogate() || EstAEchapper(unite.unicode())) {
-            AjouteEchappee(json_, unite.unicode());
+            echappe += Echappe(unite);
         } else {
-            AjouteUtf8(json_, unite.unicode());
+            echappe += unite;
         }
     }
-    json_ += '"';
+    echappe += QLatin1Char('"');
+    json_ += echappe.toStdString();
     virgule_ = true;
     return *this;
 }
 
-EcritureJson& EcritureJson::Entier(long long valeur) {
-    return Brut(std::to_string(valeur));
+EcritureJson& EcritureJson::EcrisEntier(long long valeur) {
+    return EcrisBrut(std::to_string(valeur));
 }
 
-EcritureJson& EcritureJson::Booleen(bool valeur) {
-    return Brut(valeur ? "true" : "false");
+EcritureJson& EcritureJson::EcrisBooleen(bool valeur) {
+    return EcrisBrut(valeur ? "true" : "false");
 }
 
-EcritureJson& EcritureJson::Nul() {
-    return Brut("null");
+EcritureJson& EcritureJson::EcrisNul() {
+    return EcrisBrut("null");
 }
 
-EcritureJson& EcritureJson::Brut(std::string const& json) {
-    Virgule();
+EcritureJson& EcritureJson::EcrisBrut(std::string const& json) {
+    EcrisVirgule();
     json_ += json;
     virgule_ = true;
     return *this;
 }
 
 EcritureJson& EcritureJson::Ouvre(char signe) {
-    Virgule();
+    EcrisVirgule();
     json_ += signe;
     virgule_ = false;
     return *this;
@@ -106,7 +86,7 @@ EcritureJson& EcritureJson::Ferme(char signe) {
     return *this;
 }
 
-void EcritureJson::Virgule() {
+void EcritureJson::EcrisVirgule() {
     if (virgule_) {
         json_ += ',';
     }

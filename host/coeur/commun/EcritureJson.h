@@ -15,21 +15,18 @@ namespace hote {
 /// The caller keeps the grammar: a key before each value of an object, as many ends as beginnings.
 class EcritureJson {
   public:
-    EcritureJson& Objet() { return Ouvre('{'); }
-    EcritureJson& FinObjet() { return Ferme('}'); }
-    EcritureJson& Tableau() { return Ouvre('['); }
-    EcritureJson& FinTableau() { return Ferme(']'); }
+    EcritureJson& OuvreObjet() { return Ouvre('{'); }
+    EcritureJson& FermeObjet() { return Ferme('}'); }
+    EcritureJson& OuvreTableau() { return Ouvre('['); }
+    EcritureJson& FermeTableau() { return Ferme(']'); }
 
     /// A member's name: plain ASCII, nothing to escape.
-    EcritureJson& Cle(char const* nom);
+    EcritureJson& EcrisCle(char const* nom);
 
-    EcritureJson& Texte(QString const& texte);
-    EcritureJson& Entier(long long valeur);
-    EcritureJson& Booleen(bool valeur);
-    EcritureJson& Nul();
-
-    /// A value that is JSON already.
-    EcritureJson& Brut(std::string const& json);
+    EcritureJson& EcrisTexte(QString const& texte);
+    EcritureJson& EcrisEntier(long long valeur);
+    EcritureJson& EcrisBooleen(bool valeur);
+    EcritureJson& EcrisNul();
 
     /// What has been written, UTF-8, no line feed.
     std::string const& DonneJson() const noexcept { return json_; }
@@ -37,7 +34,8 @@ class EcritureJson {
   private:
     EcritureJson& Ouvre(char signe);
     EcritureJson& Ferme(char signe);
-    void Virgule();
+    EcritureJson& EcrisBrut(std::string const& json);
+    void EcrisVirgule();
 
     std::string json_;
     bool virgule_ = false;

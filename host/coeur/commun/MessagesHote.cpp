@@ -19,13 +19,13 @@ namespace {
 
 DomaineDeTraduction* domaineHote = nullptr;
 
-UniChaine Litteral(char const* texte) {
+UniChaine FaisLitteral(char const* texte) {
     return UniChaine(texte, UniChaine::kCodageLitteral);
 }
 
 void ChargeDomaineHote() {
-    InitLocaleAvecQRC(&domaineHote, Litteral(":/hote/HoteEn.mo"), kLangueAnglais, false);
-    InitLocaleAvecQRC(&domaineHote, Litteral(":/hote/HoteFr.mo"), kLangueFrancais, false);
+    InitLocaleAvecQRC(&domaineHote, FaisLitteral(":/hote/HoteEn.mo"), kLangueAnglais, false);
+    InitLocaleAvecQRC(&domaineHote, FaisLitteral(":/hote/HoteFr.mo"), kLangueFrancais, false);
 }
 
 } // namespace
@@ -37,7 +37,8 @@ void InitialiseMessages() {
                                     QSettings::NativeFormat);
     int const choix =
         reglages
-            .Donne(Litteral("Adaptateurs2/preferences/interfaceGenerale/langueAffichage"), 0, true)
+            .Donne(FaisLitteral("Adaptateurs2/preferences/interfaceGenerale/langueAffichage"), 0,
+                   true)
             .toInt();
     InitialisationGenerale::InitLePlusTotPossible(
         eLangueSelonELangueAffichage(static_cast<eLangueAffichage>(choix)));
@@ -50,11 +51,11 @@ std::string Tr(char const* message) {
 
 namespace detail {
 
-std::string EnUtf8(QString const& valeur) {
+std::string DonneUtf8(QString const& valeur) {
     return valeur.toStdString();
 }
 
-std::string EnUtf8(long long valeur) {
+std::string DonneUtf8(long long valeur) {
     return std::to_string(valeur);
 }
 

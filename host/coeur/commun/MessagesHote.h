@@ -18,23 +18,23 @@ std::string Tr(char const* message);
 
 namespace detail {
 std::string RemplacePlaces(std::string const& message, std::string const* valeurs, int nombre);
-inline std::string EnUtf8(std::string const& valeur) {
+inline std::string DonneUtf8(std::string const& valeur) {
     return valeur;
 }
-inline std::string EnUtf8(char const* valeur) {
+inline std::string DonneUtf8(char const* valeur) {
     return valeur;
 }
-std::string EnUtf8(QString const& valeur);
-std::string EnUtf8(long long valeur);
-inline std::string EnUtf8(int valeur) {
-    return EnUtf8(static_cast<long long>(valeur));
+std::string DonneUtf8(QString const& valeur);
+std::string DonneUtf8(long long valeur);
+inline std::string DonneUtf8(int valeur) {
+    return DonneUtf8(static_cast<long long>(valeur));
 }
 } // namespace detail
 
 /// The same with {1}, {2}… replaced by the values; what the values hold is taken as it stands.
 template <class... Valeurs>
 std::string Tr(char const* message, Valeurs const&... valeurs) {
-    std::string const textes[] = {detail::EnUtf8(valeurs)...};
+    std::string const textes[] = {detail::DonneUtf8(valeurs)...};
     return detail::RemplacePlaces(Tr(message), textes, static_cast<int>(sizeof...(valeurs)));
 }
 

@@ -146,9 +146,9 @@ Correcteur::Issue Correcteur::Applique(std::size_t rang, int zone, Faute const& 
     auto const& nouveaux = document_.DonneTextes();
     Recalage const recalage(anciens, nouveaux);
     envois_.Verifie(recalage, anciens, nouveaux, bilan_);
-    relectures_.Apprends(!recalage.RienNeChange());
+    relectures_.Apprends(!recalage.EstInchange());
     // It reads as we believed: the refusal is the word processor's last word.
-    if (recalage.RienNeChange()) {
+    if (recalage.EstInchange()) {
         return {false, std::nullopt};
     }
     return AppliqueAilleurs(rang, zone, place, remplacement, anciens, recalage);

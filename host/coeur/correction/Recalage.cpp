@@ -32,7 +32,7 @@ Recalage::Recalage(std::vector<QString> const& anciens, std::vector<QString> con
     int const finAncien = static_cast<int>(anciens.rend() - ecartFinal.first);
     int const finNouveau = static_cast<int>(nouveaux.rend() - ecartFinal.second);
     int const nombre = static_cast<int>(anciens.size());
-    rienNeChange_ = debut == nombre && nouveaux.size() == anciens.size();
+    inchange_ = debut == nombre && nouveaux.size() == anciens.size();
 
     for (int rang = 0; rang < debut; ++rang) {
         places_[rang] = rang;

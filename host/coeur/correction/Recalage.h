@@ -22,7 +22,7 @@ class Recalage {
     std::optional<int> Retrouve(int rang) const;
 
     /// Are both lists the same?
-    bool RienNeChange() const noexcept { return rienNeChange_; }
+    bool EstInchange() const noexcept { return inchange_; }
 
   private:
     void TrouveTextesUniques(std::vector<QString> const& anciens,
@@ -31,7 +31,7 @@ class Recalage {
     void CombleEntre(int precedent, int suivant, int placeSuivante);
 
     std::vector<int> places_; ///< new ranks, -1 for none
-    bool rienNeChange_;
+    bool inchange_;
 };
 
 } // namespace hote

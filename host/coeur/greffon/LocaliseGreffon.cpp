@@ -6,8 +6,10 @@
 
 #include <sys/auxv.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
+#include <vector>
 
 namespace hote {
 
@@ -29,8 +31,7 @@ fs::path DonneDossierProgramme() {
     return programme.parent_path();
 }
 
-} // namespace
-
+/// Where the plug-in may be, best first.
 std::vector<std::string> DonneCheminsGreffon(std::string const& demande) {
     if (!demande.empty()) {
         return {demande};
@@ -46,16 +47,14 @@ std::vector<std::string> DonneCheminsGreffon(std::string const& demande) {
     for (char const* relatif : {VOCALYNE_RELATIF_GREFFONS, "../lib/vocalyne", "../lib64/vocalyne",
                                 "../lib/" VOCALYNE_TRIPLET "/vocalyne"}) {
         std::string const chemin = (dossier / relatif / kNomGreffon).lexically_normal().string();
-        bool connu = false;
-        for (std::string const& autre : chemins) {
-            connu = connu || autre == chemin;
-        }
-        if (!connu) {
+        if (std::find(chemins.begin(), chemins.end(), chemin) == chemins.end()) {
             chemins.push_back(chemin);
         }
     }
     return chemins;
 }
+
+} // namespace
 
 std::string LocaliseGreffon(std::string const& demande) {
     auto const chemins = DonneCheminsGreffon(demande);

@@ -2,17 +2,13 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 namespace hote {
 
-/// Where the plug-in may be, best first: `demande` alone when it is not empty (the command line),
-/// else the environment's VOCALYNE_GREFFON alone when it is set, else the places where an
-/// installation beside the program puts it. Paths are bytes as the system has them.
-std::vector<std::string> DonneCheminsGreffon(std::string const& demande);
-
-/// The plug-in to load: the first of those that exists. Throws ErreurHote (kSortieGreffon) naming
-/// the places looked at when none does.
+/// The plug-in to load: `demande` when it is not empty (the command line), else the environment's
+/// VOCALYNE_GREFFON when it is set, else the first that exists of the places where an installation
+/// beside the program puts it. Paths are bytes as the system has them. Throws ErreurHote
+/// (kSortieGreffon) naming the places looked at when nothing stands there. Main thread.
 std::string LocaliseGreffon(std::string const& demande);
 
 } // namespace hote

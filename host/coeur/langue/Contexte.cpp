@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Contexte.h"
 
-#include "CodePoints.h"
+#include "CodePoint.h"
 
 #include <algorithm>
 
@@ -41,7 +41,7 @@ Contexte DonneContexte(QString const& texte, int debut, int fin, int largeur) {
             droite < longueur};
 }
 
-QString PourTerminal(QString const& texte) {
+QString DonnePourTerminal(QString const& texte) {
     QString resultat;
     resultat.reserve(texte.size());
     for (int i = 0; i < texte.size();) {

@@ -20,6 +20,6 @@ Contexte DonneContexte(QString const& texte, int debut, int fin, int largeur);
 
 /// The text as a terminal may show it: controls (which could move the cursor or worse), fillers,
 /// direction marks and lone surrogates stand as a middle dot; a soft hyphen is left out.
-QString PourTerminal(QString const& texte);
+QString DonnePourTerminal(QString const& texte);
 
 } // namespace hote

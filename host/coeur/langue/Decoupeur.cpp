@@ -2,7 +2,7 @@
 #include "Decoupeur.h"
 
 #include "Adresses.h"
-#include "CodePoints.h"
+#include "CodePoint.h"
 
 #include <QRegularExpression>
 

@@ -2,26 +2,20 @@
 #include "AlertesDuPilote.h"
 
 #include "commun/EcritureJson.h"
-#include "console/AlertesConsole.h"
 
 namespace hote {
 
-eReponseAlerte AlertesNotees::Presente(QWidget* /*parent*/, DAlerteInfo const& info) {
-    alertes_.push_back(info);
-    return DonneReponseImmediate(info);
-}
-
-void AlertesNotees::Ecris(EcritureJson& json) {
-    json.Tableau();
+void AlertesDuPilote::Ecris(EcritureJson& json) {
+    json.OuvreTableau();
     for (DAlerteInfo const& alerte : alertes_) {
-        json.Objet();
-        json.Cle("genre").Entier(alerte.DonneGenre());
-        json.Cle("texte").Texte(alerte.DonneTexte().VersQString());
-        json.Cle("information").Texte(alerte.DonneInformation().VersQString());
-        json.Cle("details").Texte(alerte.DonneDetails().VersQString());
-        json.FinObjet();
+        json.OuvreObjet();
+        json.EcrisCle("genre").EcrisEntier(alerte.DonneGenre());
+        json.EcrisCle("texte").EcrisTexte(alerte.DonneTexte().VersQString());
+        json.EcrisCle("information").EcrisTexte(alerte.DonneInformation().VersQString());
+        json.EcrisCle("details").EcrisTexte(alerte.DonneDetails().VersQString());
+        json.FermeObjet();
     }
-    json.FinTableau();
+    json.FermeTableau();
     alertes_.clear();
 }
 

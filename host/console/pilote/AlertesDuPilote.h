@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "PresentateurAlerte.h"
+#include "console/PresentateurImmediat.h"
 
 #include <vector>
 
@@ -9,23 +9,16 @@ namespace hote {
 
 class EcritureJson;
 
-/// Keeps the alerts of the plug-in while it lives, and answers them at once.
-class AlertesNotees : public PresentateurAlerte {
+/// Keeps the alerts of the plug-in while it lives, for the answer to the request. Main thread.
+class AlertesDuPilote : public PresentateurImmediat {
   public:
-    AlertesNotees()
-        : precedent_(Mets(this)) {}
-    ~AlertesNotees() override { Mets(precedent_); }
-    AlertesNotees(AlertesNotees const&) = delete;
-    AlertesNotees& operator=(AlertesNotees const&) = delete;
-
-    eReponseAlerte Presente(QWidget* parent, DAlerteInfo const& info) override;
-
     bool EstVide() const noexcept { return alertes_.empty(); }
     /// Writes the alerts as an array, and forgets them.
     void Ecris(EcritureJson& json);
 
   private:
-    PresentateurAlerte* precedent_;
+    void Recois(DAlerteInfo const& info) override { alertes_.push_back(info); }
+
     std::vector<DAlerteInfo> alertes_;
 };
 

@@ -66,7 +66,7 @@ void Dialogue(Pilote& pilote, Sortie& sortie) {
         } else {
             lecteur.Ajoute(octets.data(), nombre);
         }
-        while (auto const ligne = lecteur.Suivante()) {
+        while (auto const ligne = lecteur.PrendsSuivante()) {
             if (!sortie.Ecris(pilote.Reponds(*ligne))) {
                 break;
             }

@@ -7,7 +7,7 @@ void LecteurDeLignes::Ajoute(char const* octets, std::size_t taille) {
     attente_.append(octets, static_cast<int>(taille));
 }
 
-std::optional<LecteurDeLignes::Ligne> LecteurDeLignes::Suivante() {
+std::optional<LecteurDeLignes::Ligne> LecteurDeLignes::PrendsSuivante() {
     int const saut = attente_.indexOf('\n', lus_);
     if (saut < 0 && (deborde_ || attente_.size() > limite_)) {
         attente_.clear();

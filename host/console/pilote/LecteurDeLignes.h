@@ -20,14 +20,14 @@ class LecteurDeLignes {
     explicit LecteurDeLignes(int limite)
         : limite_(limite) {}
 
-    /// Takes the next bytes of the stream. To be called when `Suivante` has nothing more.
+    /// Takes the next bytes of the stream. To be called when `PrendsSuivante` has nothing more.
     void Ajoute(char const* octets, std::size_t taille);
 
     /// Tells that the stream has ended: what stands after the last line feed is a line too.
     void Termine() noexcept { termine_ = true; }
 
     /// The next whole line; nothing when there is none yet.
-    std::optional<Ligne> Suivante();
+    std::optional<Ligne> PrendsSuivante();
 
   private:
     int limite_;

@@ -33,23 +33,23 @@ void ExecuteOperation(Banc& banc, QString const& nom, Arguments const& arguments
 }
 
 void EcrisTexteAttribue(TexteAvecAttributs const& texte, EcritureJson& json) {
-    json.Objet();
-    json.Cle("texte").Texte(texte.DonneTexte().VersQString());
-    json.Cle("longueur").Entier(texte.Longueur());
+    json.OuvreObjet();
+    json.EcrisCle("texte").EcrisTexte(texte.DonneTexte().VersQString());
+    json.EcrisCle("longueur").EcrisEntier(texte.Longueur());
     EcrisStyles(texte, json);
-    json.FinObjet();
+    json.FermeObjet();
 }
 
 void EcrisStyles(TexteAvecAttributs const& texte, EcritureJson& json) {
-    json.Cle("styles").Tableau();
+    json.EcrisCle("styles").OuvreTableau();
     for (sdd::PlageAttribut const& plage : texte.DonnePlages()) {
-        json.Objet();
-        json.Cle("debut").Entier(plage.debut);
-        json.Cle("longueur").Entier(plage.Longueur());
-        json.Cle("style").Entier(plage.attribut);
-        json.FinObjet();
+        json.OuvreObjet();
+        json.EcrisCle("debut").EcrisEntier(plage.debut);
+        json.EcrisCle("longueur").EcrisEntier(plage.Longueur());
+        json.EcrisCle("style").EcrisEntier(plage.attribut);
+        json.FermeObjet();
     }
-    json.FinTableau();
+    json.FermeTableau();
 }
 
 } // namespace hote

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Operations.h"
+#include "TableOperations.h"
 
 #include "ImageCommune.h"
 
@@ -14,13 +15,13 @@ namespace {
 using Agent = InterfaceAgentTexteur;
 
 void Ecris(bool valeur, EcritureJson& json) {
-    json.Booleen(valeur);
+    json.EcrisBooleen(valeur);
 }
 void Ecris(int valeur, EcritureJson& json) {
-    json.Entier(valeur);
+    json.EcrisEntier(valeur);
 }
 void Ecris(UniChaine const& valeur, EcritureJson& json) {
-    json.Texte(valeur.VersQString());
+    json.EcrisTexte(valeur.VersQString());
 }
 
 /// An operation without arguments, and the result that its type says.
@@ -28,33 +29,33 @@ template <auto Operation>
 void Appelle(Agent& agent, Banc& /*banc*/, Arguments const& /*arguments*/, EcritureJson& resultat) {
     if constexpr (std::is_void_v<decltype((agent.*Operation)())>) {
         (agent.*Operation)();
-        resultat.Nul();
+        resultat.EcrisNul();
     } else {
         Ecris((agent.*Operation)(), resultat);
     }
 }
 
 template <void (Agent::*Operation)(int)>
-void Mode(Agent& agent, Banc& /*banc*/, Arguments const& a, EcritureJson& resultat) {
+void AppelleMode(Agent& agent, Banc& /*banc*/, Arguments const& a, EcritureJson& resultat) {
     (agent.*Operation)(a.DonneEntier("mode"));
-    resultat.Nul();
+    resultat.EcrisNul();
 }
 
 template <bool (Agent::*Operation)(CollectionZonesDeTexte&)>
-void Zones(Agent& agent, Banc& banc, Arguments const& a, EcritureJson& resultat) {
+void AppelleZones(Agent& agent, Banc& banc, Arguments const& a, EcritureJson& resultat) {
     auto& zones = banc.tenu.DonneZones();
     if (a.DonneBooleen("vide", false)) {
         zones.Vide();
     }
     bool const ok = (agent.*Operation)(zones);
-    resultat.Objet();
-    resultat.Cle("ok").Booleen(ok);
-    resultat.Cle("zones").Tableau();
+    resultat.OuvreObjet();
+    resultat.EcrisCle("ok").EcrisBooleen(ok);
+    resultat.EcrisCle("zones").OuvreTableau();
     for (int i = 0; i < zones.DonneNombre(); ++i) {
         EcrisZone(*zones.DonneZone(i), resultat);
     }
-    resultat.FinTableau();
-    resultat.FinObjet();
+    resultat.FermeTableau();
+    resultat.FermeObjet();
 }
 
 void TraiteTexteLu(Agent& agent, Banc& /*banc*/, Arguments const& a, EcritureJson& resultat) {
@@ -68,34 +69,34 @@ void TraiteTexteLu(Agent& agent, Banc& /*banc*/, Arguments const& a, EcritureJso
     EcrisTexteAttribue(texte, resultat);
 }
 
-void ImageApplication(Agent& agent, Banc& /*banc*/, Arguments const& /*arguments*/,
-                      EcritureJson& resultat) {
+void DonneImageApplication(Agent& agent, Banc& /*banc*/, Arguments const& /*arguments*/,
+                           EcritureJson& resultat) {
     ImageCommune image;
     agent.DonneImageApplication(image);
     if (image.EstVide()) {
-        resultat.Nul();
+        resultat.EcrisNul();
         return;
     }
     QBuffer png;
     png.open(QIODevice::WriteOnly);
     image.DonnePixmap().save(&png, "PNG");
-    resultat.Objet();
-    resultat.Cle("largeur").Entier(image.DonnePixmap().width());
-    resultat.Cle("hauteur").Entier(image.DonnePixmap().height());
-    resultat.Cle("png").Texte(QString::fromLatin1(png.data().toBase64()));
-    resultat.FinObjet();
+    resultat.OuvreObjet();
+    resultat.EcrisCle("largeur").EcrisEntier(image.DonnePixmap().width());
+    resultat.EcrisCle("hauteur").EcrisEntier(image.DonnePixmap().height());
+    resultat.EcrisCle("png").EcrisTexte(QString::fromLatin1(png.data().toBase64()));
+    resultat.FermeObjet();
 }
 
 void InitialiseTexteur(Agent& agent, Banc& /*banc*/, Arguments const& a, EcritureJson& resultat) {
     UniChaine const classe(a.DonneTexte("texte"));
     UniChaine message;
-    resultat.Booleen(agent.InitialiseTexteur(classe, message, a.DonneEntier("mode")));
+    resultat.EcrisBooleen(agent.InitialiseTexteur(classe, message, a.DonneEntier("mode")));
 }
 
 void AjusteSelectionPourOutils(Agent& agent, Banc& /*banc*/, Arguments const& a,
                                EcritureJson& resultat) {
     int const debut = a.DonneEntier("debut");
-    resultat.Entier(agent.AjusteSelectionPourOutils(debut, a.DonneEntier("fin")));
+    resultat.EcrisEntier(agent.AjusteSelectionPourOutils(debut, a.DonneEntier("fin")));
 }
 
 void DonneContexte(Agent& agent, Banc& /*banc*/, Arguments const& /*arguments*/,
@@ -103,34 +104,29 @@ void DonneContexte(Agent& agent, Banc& /*banc*/, Arguments const& /*arguments*/,
     int debut = 0;
     int fin = 0;
     UniChaine const texte = agent.DonneContexte(&debut, &fin);
-    resultat.Objet();
-    resultat.Cle("texte").Texte(texte.VersQString());
-    resultat.Cle("debut").Entier(debut);
-    resultat.Cle("fin").Entier(fin);
-    resultat.FinObjet();
+    resultat.OuvreObjet();
+    resultat.EcrisCle("texte").EcrisTexte(texte.VersQString());
+    resultat.EcrisCle("debut").EcrisEntier(debut);
+    resultat.EcrisCle("fin").EcrisEntier(fin);
+    resultat.FermeObjet();
 }
 
 void RemplaceEtReselectionne(Agent& agent, Banc& /*banc*/, Arguments const& a,
                              EcritureJson& resultat) {
-    resultat.Entier(agent.RemplaceEtReselectionne(UniChaine(a.DonneTexte("texte"))));
+    resultat.EcrisEntier(agent.RemplaceEtReselectionne(UniChaine(a.DonneTexte("texte"))));
 }
 
 void DonneAgentTexteur(Agent& agent, Banc& /*banc*/, Arguments const& /*arguments*/,
                        EcritureJson& resultat) {
     if (agent.DonneAgentTexteur() == nullptr) {
-        resultat.Nul();
+        resultat.EcrisNul();
     } else {
-        resultat.Booleen(true);
+        resultat.EcrisBooleen(true);
     }
 }
 
-struct Entree {
-    char const* nom;
-    OperationAgent operation;
-};
-
 // In slot order: first those of InterfaceTexteur, then those of InterfaceAgentTexteur.
-constexpr Entree kTable[] = {
+constexpr EntreeOperation<OperationAgent> kTable[] = {
     {"Capacite1", Appelle<&Agent::Capacite1>},
     {"Capacite2", Appelle<&Agent::Capacite2>},
     {"Capacite3", Appelle<&Agent::Capacite3>},
@@ -146,23 +142,23 @@ constexpr Entree kTable[] = {
     {"Crochet03", Appelle<&Agent::Crochet03>},
     {"DocEstMort", Appelle<&Agent::DocEstMort>},
     {"DonneCheminDocument", Appelle<&Agent::DonneCheminDocument>},
-    {"DonneImageApplication", ImageApplication},
+    {"DonneImageApplication", DonneImageApplication},
     {"DonneChaineAgent7", Appelle<&Agent::DonneChaineAgent7>},
-    {"SynchronisePositions", Zones<&Agent::SynchronisePositions>},
-    {"DonneZones", Zones<&Agent::DonneZones>},
+    {"SynchronisePositions", AppelleZones<&Agent::SynchronisePositions>},
+    {"DonneZones", AppelleZones<&Agent::DonneZones>},
     {"DonneNomApplication", Appelle<&Agent::DonneNomApplication>},
     {"DonneFinDeParagraphe", Appelle<&Agent::DonneFinDeParagraphe>},
     {"DonneTitreDocument", Appelle<&Agent::DonneTitreDocument>},
     {"Requete13", Appelle<&Agent::Requete13>},
     {"Requete14", Appelle<&Agent::Requete14>},
-    {"InitialisePour", Mode<&Agent::InitialisePour>},
+    {"InitialisePour", AppelleMode<&Agent::InitialisePour>},
     {"InitialiseTexteur", InitialiseTexteur},
     {"Requete17", Appelle<&Agent::Requete17>},
     {"EstLie", Appelle<&Agent::EstLie>},
     {"Crochet19", Appelle<&Agent::Crochet19>},
     {"PermetsRetourDeCharriot", Appelle<&Agent::PermetsRetourDeCharriot>},
     {"Requete21", Appelle<&Agent::Requete21>},
-    {"ActivePour", Mode<&Agent::ActivePour>},
+    {"ActivePour", AppelleMode<&Agent::ActivePour>},
     {"Crochet23", Appelle<&Agent::Crochet23>},
     {"Crochet24", Appelle<&Agent::Crochet24>},
     {"RompsLienCorrecteur", Appelle<&Agent::RompsLienCorrecteur>},
@@ -180,12 +176,7 @@ constexpr Entree kTable[] = {
 } // namespace
 
 OperationAgent TrouveOperationAgent(QString const& nom) {
-    for (Entree const& entree : kTable) {
-        if (nom == QLatin1String(entree.nom)) {
-            return entree.operation;
-        }
-    }
-    return nullptr;
+    return TrouveOperation(kTable, nom);
 }
 
 } // namespace hote

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Operations.h"
+#include "TableOperations.h"
 
 #include "InfosApplication.h"
 #include "commun/MessagesHote.h"
@@ -25,49 +26,50 @@ InfosApplication LisInfos(Arguments const& arguments) {
     return infos;
 }
 
-void NomsTexteurs(Banc& banc, Arguments const& arguments, EcritureJson& resultat) {
+void DonneNomsTexteurs(Banc& banc, Arguments const& arguments, EcritureJson& resultat) {
     UniChaine noms(arguments.DonneTexte("texte", {}));
     banc.greffon.DonneNomsTexteurs(noms);
-    resultat.Texte(noms.VersQString());
+    resultat.EcrisTexte(noms.VersQString());
 }
 
 /// An object that the contract says nothing about beyond null: told, not touched.
 void EcrisObjet(InterfaceTexteur const* objet, EcritureJson& resultat) {
     if (objet == nullptr) {
-        resultat.Nul();
+        resultat.EcrisNul();
     } else {
-        resultat.Booleen(true);
+        resultat.EcrisBooleen(true);
     }
 }
 
-void Texteur(Banc& banc, Arguments const& /*arguments*/, EcritureJson& resultat) {
+void CreeTexteur(Banc& banc, Arguments const& /*arguments*/, EcritureJson& resultat) {
     EcrisObjet(banc.greffon.CreeTexteur(), resultat);
 }
 
-void TexteurPalette(Banc& banc, Arguments const& /*arguments*/, EcritureJson& resultat) {
+void CreeTexteurPalette(Banc& banc, Arguments const& /*arguments*/, EcritureJson& resultat) {
     EcrisObjet(banc.greffon.CreeTexteurPalette(), resultat);
 }
 
-void IdentificateurDocumentCourant(Banc& banc, Arguments const& arguments, EcritureJson& resultat) {
+void DonneIdentificateurDocumentCourant(Banc& banc, Arguments const& arguments,
+                                        EcritureJson& resultat) {
     InfosApplication const infos = LisInfos(arguments);
     UniChaine idDocument(arguments.DonneTexte("idDocument", {}));
     bool const servi = banc.greffon.DonneIdentificateurDocumentCourant(infos, idDocument);
-    resultat.Objet();
-    resultat.Cle("servi").Booleen(servi);
-    resultat.Cle("idDocument").Texte(idDocument.VersQString());
-    resultat.FinObjet();
+    resultat.OuvreObjet();
+    resultat.EcrisCle("servi").EcrisBooleen(servi);
+    resultat.EcrisCle("idDocument").EcrisTexte(idDocument.VersQString());
+    resultat.FermeObjet();
 }
 
-void CreeAgent(Banc& banc, Arguments const& arguments, EcritureJson& resultat) {
+void CreeAgentTexteur(Banc& banc, Arguments const& arguments, EcritureJson& resultat) {
     InfosApplication const infos = LisInfos(arguments);
     UniChaine const idDocument(arguments.DonneTexte("idDocument"));
     auto agent = banc.greffon.CreeAgentTexteur(infos, idDocument);
     if (!agent) {
-        resultat.Nul(); // the agent held before stays
+        resultat.EcrisNul(); // the agent held before stays
         return;
     }
     banc.tenu.Tiens(std::move(agent));
-    resultat.Booleen(true);
+    resultat.EcrisBooleen(true);
 }
 
 void Detruis(Banc& banc, Arguments const& /*arguments*/, EcritureJson& resultat) {
@@ -75,32 +77,22 @@ void Detruis(Banc& banc, Arguments const& /*arguments*/, EcritureJson& resultat)
         throw ErreurRequete(Tr("{1} demande un agent : CreeAgentTexteur d’abord.", "Detruis"));
     }
     banc.tenu.Detruis();
-    resultat.Nul();
+    resultat.EcrisNul();
 }
 
-struct Entree {
-    char const* nom;
-    OperationExport operation;
-};
-
-constexpr Entree kTable[] = {
-    {"DonneNomsTexteurs", NomsTexteurs},
-    {"CreeTexteur", Texteur},
-    {"CreeTexteurPalette", TexteurPalette},
-    {"DonneIdentificateurDocumentCourant", IdentificateurDocumentCourant},
-    {"CreeAgentTexteur", CreeAgent},
+constexpr EntreeOperation<OperationExport> kTable[] = {
+    {"DonneNomsTexteurs", DonneNomsTexteurs},
+    {"CreeTexteur", CreeTexteur},
+    {"CreeTexteurPalette", CreeTexteurPalette},
+    {"DonneIdentificateurDocumentCourant", DonneIdentificateurDocumentCourant},
+    {"CreeAgentTexteur", CreeAgentTexteur},
     {"Detruis", Detruis},
 };
 
 } // namespace
 
 OperationExport TrouveOperationExport(QString const& nom) {
-    for (Entree const& entree : kTable) {
-        if (nom == QLatin1String(entree.nom)) {
-            return entree.operation;
-        }
-    }
-    return nullptr;
+    return TrouveOperation(kTable, nom);
 }
 
 } // namespace hote

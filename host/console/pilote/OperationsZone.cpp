@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Operations.h"
+#include "TableOperations.h"
 
 namespace hote {
 
@@ -12,20 +13,20 @@ void AccepteIntervalles(Zone& zone, Arguments const& a, EcritureJson& resultat) 
     int const fin = a.DonneEntier("fin");
     int const debut2 = a.DonneEntier("debut2", debut);
     int const fin2 = a.DonneEntier("fin2", fin);
-    resultat.Booleen(zone.AccepteIntervalles(debut, fin, debut2, fin2));
+    resultat.EcrisBooleen(zone.AccepteIntervalles(debut, fin, debut2, fin2));
 }
 
 void CorrigeDansTexteur(Zone& zone, Arguments const& a, EcritureJson& resultat) {
     int const debut = a.DonneEntier("debut");
     int const fin = a.DonneEntier("fin");
     UniChaine const texte(a.DonneTexte("texte"));
-    resultat.Booleen(zone.CorrigeDansTexteur(debut, fin, texte, a.DonneBooleen("drapeau")));
+    resultat.EcrisBooleen(zone.CorrigeDansTexteur(debut, fin, texte, a.DonneBooleen("drapeau")));
 }
 
 void PeutCorriger(Zone& zone, Arguments const& a, EcritureJson& resultat) {
     int const debut = a.DonneEntier("debut");
     int const fin = a.DonneEntier("fin");
-    resultat.Booleen(zone.PeutCorriger(debut, fin, UniChaine(a.DonneTexte("texte"))));
+    resultat.EcrisBooleen(zone.PeutCorriger(debut, fin, UniChaine(a.DonneTexte("texte"))));
 }
 
 void AjusteIntervalle(Zone& zone, Arguments const& a, EcritureJson& resultat) {
@@ -35,15 +36,15 @@ void AjusteIntervalle(Zone& zone, Arguments const& a, EcritureJson& resultat) {
     int debutAjuste = debut;
     int finAjustee = fin;
     zone.AjusteIntervalle(debut, fin, &debutAjuste, &finAjustee, a.DonneBooleen("drapeau"));
-    resultat.Objet();
-    resultat.Cle("debut").Entier(debutAjuste);
-    resultat.Cle("fin").Entier(finAjustee);
-    resultat.FinObjet();
+    resultat.OuvreObjet();
+    resultat.EcrisCle("debut").EcrisEntier(debutAjuste);
+    resultat.EcrisCle("fin").EcrisEntier(finAjustee);
+    resultat.FermeObjet();
 }
 
 void SelectionneIntervalle(Zone& zone, Arguments const& a, EcritureJson& resultat) {
     int const debut = a.DonneEntier("debut");
-    resultat.Booleen(zone.SelectionneIntervalle(debut, a.DonneEntier("fin")));
+    resultat.EcrisBooleen(zone.SelectionneIntervalle(debut, a.DonneEntier("fin")));
 }
 
 void DonneTexte(Zone& zone, Arguments const& /*arguments*/, EcritureJson& resultat) {
@@ -51,32 +52,27 @@ void DonneTexte(Zone& zone, Arguments const& /*arguments*/, EcritureJson& result
 }
 
 void DonneChaineAuxiliaire(Zone& zone, Arguments const& /*arguments*/, EcritureJson& resultat) {
-    resultat.Texte(zone.DonneChaineAuxiliaire().VersQString());
+    resultat.EcrisTexte(zone.DonneChaineAuxiliaire().VersQString());
 }
 
 template <int (Zone::*Operation)()>
-void Entier(Zone& zone, Arguments const& /*arguments*/, EcritureJson& resultat) {
-    resultat.Entier((zone.*Operation)());
+void AppelleEntier(Zone& zone, Arguments const& /*arguments*/, EcritureJson& resultat) {
+    resultat.EcrisEntier((zone.*Operation)());
 }
 
 void EstMarquee(Zone& zone, Arguments const& /*arguments*/, EcritureJson& resultat) {
-    resultat.Booleen(zone.EstMarquee());
+    resultat.EcrisBooleen(zone.EstMarquee());
 }
 
-struct Entree {
-    char const* nom;
-    OperationZone operation;
-};
-
 // In slot order.
-constexpr Entree kTable[] = {
+constexpr EntreeOperation<OperationZone> kTable[] = {
     {"AccepteIntervalles", AccepteIntervalles},
     {"CorrigeDansTexteur", CorrigeDansTexteur},
-    {"DonneDebutSelection", Entier<&Zone::DonneDebutSelection>},
-    {"DonneFinSelection", Entier<&Zone::DonneFinSelection>},
+    {"DonneDebutSelection", AppelleEntier<&Zone::DonneDebutSelection>},
+    {"DonneFinSelection", AppelleEntier<&Zone::DonneFinSelection>},
     {"DonneChaineAuxiliaire", DonneChaineAuxiliaire},
     {"DonneTexte", DonneTexte},
-    {"DonneLongueur", Entier<&Zone::DonneLongueur>},
+    {"DonneLongueur", AppelleEntier<&Zone::DonneLongueur>},
     {"PeutCorriger", PeutCorriger},
     {"AjusteIntervalle", AjusteIntervalle},
     {"SelectionneIntervalle", SelectionneIntervalle},
@@ -86,24 +82,19 @@ constexpr Entree kTable[] = {
 } // namespace
 
 OperationZone TrouveOperationZone(QString const& nom) {
-    for (Entree const& entree : kTable) {
-        if (nom == QLatin1String(entree.nom)) {
-            return entree.operation;
-        }
-    }
-    return nullptr;
+    return TrouveOperation(kTable, nom);
 }
 
 void EcrisZone(InterfaceZoneDeTexte& zone, EcritureJson& json) {
     auto const texte = zone.DonneTexte();
-    json.Objet();
-    json.Cle("texte").Texte(texte.DonneTexte().VersQString());
-    json.Cle("longueur").Entier(zone.DonneLongueur());
-    json.Cle("debutSelection").Entier(zone.DonneDebutSelection());
-    json.Cle("finSelection").Entier(zone.DonneFinSelection());
+    json.OuvreObjet();
+    json.EcrisCle("texte").EcrisTexte(texte.DonneTexte().VersQString());
+    json.EcrisCle("longueur").EcrisEntier(zone.DonneLongueur());
+    json.EcrisCle("debutSelection").EcrisEntier(zone.DonneDebutSelection());
+    json.EcrisCle("finSelection").EcrisEntier(zone.DonneFinSelection());
     EcrisStyles(texte, json);
-    json.Cle("marquee").Booleen(zone.EstMarquee());
-    json.FinObjet();
+    json.EcrisCle("marquee").EcrisBooleen(zone.EstMarquee());
+    json.FermeObjet();
 }
 
 } // namespace hote

@@ -26,9 +26,9 @@ std::string Pilote::Reponds(LecteurDeLignes::Ligne const& ligne) {
 
 std::string Pilote::Execute(QJsonValue const& op, Arguments const& arguments) {
     EcritureJson reponse;
-    reponse.Objet();
-    reponse.Cle("op").Texte(op.toString());
-    reponse.Cle("resultat");
+    reponse.OuvreObjet();
+    reponse.EcrisCle("op").EcrisTexte(op.toString());
+    reponse.EcrisCle("resultat");
     try {
         ExecuteOperation(banc_, arguments.DonneTexte("op"), arguments, reponse);
     } catch (std::exception const& erreur) {
@@ -36,27 +36,27 @@ std::string Pilote::Execute(QJsonValue const& op, Arguments const& arguments) {
     } catch (...) {
         return DonneErreur(op, Tr("Le connecteur a lancé une exception sans message."));
     }
-    reponse.Cle("alertes");
+    reponse.EcrisCle("alertes");
     alertes_.Ecris(reponse);
-    reponse.FinObjet();
+    reponse.FermeObjet();
     return reponse.DonneJson() + '\n';
 }
 
 std::string Pilote::DonneErreur(QJsonValue const& op, std::string const& message) {
     EcritureJson reponse;
-    reponse.Objet();
-    reponse.Cle("op");
+    reponse.OuvreObjet();
+    reponse.EcrisCle("op");
     if (op.isString()) {
-        reponse.Texte(op.toString());
+        reponse.EcrisTexte(op.toString());
     } else {
-        reponse.Nul();
+        reponse.EcrisNul();
     }
-    reponse.Cle("erreur").Texte(QString::fromStdString(message));
+    reponse.EcrisCle("erreur").EcrisTexte(QString::fromStdString(message));
     if (!alertes_.EstVide()) {
-        reponse.Cle("alertes");
+        reponse.EcrisCle("alertes");
         alertes_.Ecris(reponse);
     }
-    reponse.FinObjet();
+    reponse.FermeObjet();
     return reponse.DonneJson() + '\n';
 }
 

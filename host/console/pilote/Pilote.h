@@ -27,7 +27,7 @@ class Pilote {
     std::string DonneErreur(QJsonValue const& op, std::string const& message);
 
     // Before the agent's end nothing may go back to the modal window.
-    AlertesNotees alertes_;
+    AlertesDuPilote alertes_;
     Banc banc_;
 };
 

@@ -8,17 +8,17 @@ using hote::EcritureJson;
 namespace {
 
 std::string Ecris(QString const& texte) {
-    return EcritureJson().Texte(texte).DonneJson();
+    return EcritureJson().EcrisTexte(texte).DonneJson();
 }
 
 } // namespace
 
 TEST(EcritureJson, MembersAndElementsStandInTheOrderGivenWithCommasBetween) {
     EcritureJson json;
-    json.Objet().Cle("b").Entier(-3).Cle("a").Tableau();
-    json.Booleen(true).Nul().Objet().FinObjet().Tableau().FinTableau();
-    json.FinTableau().Cle("c").Brut("{}").FinObjet();
-    EXPECT_EQ(json.DonneJson(), R"({"b":-3,"a":[true,null,{},[]],"c":{}})");
+    json.OuvreObjet().EcrisCle("b").EcrisEntier(-3).EcrisCle("a").OuvreTableau();
+    json.EcrisBooleen(true).EcrisNul().OuvreObjet().FermeObjet().OuvreTableau().FermeTableau();
+    json.FermeTableau().EcrisCle("c").EcrisTexte({}).FermeObjet();
+    EXPECT_EQ(json.DonneJson(), R"({"b":-3,"a":[true,null,{},[]],"c":""})");
 }
 
 TEST(EcritureJson, ATextIsUtf8AndOnlyWhatMustBeIsEscaped) {
@@ -49,6 +49,6 @@ TEST(EcritureJson, NothingInATextLooksLikeTheEndOfALine) {
 }
 
 TEST(EcritureJson, TheWidestIntegersAreWrittenWhole) {
-    EXPECT_EQ(EcritureJson().Entier(-2147483648LL).DonneJson(), "-2147483648");
-    EXPECT_EQ(EcritureJson().Entier(2147483647).DonneJson(), "2147483647");
+    EXPECT_EQ(EcritureJson().EcrisEntier(-2147483648LL).DonneJson(), "-2147483648");
+    EXPECT_EQ(EcritureJson().EcrisEntier(2147483647).DonneJson(), "2147483647");
 }

@@ -40,10 +40,10 @@ std::string Places(char const* anciens, char const* nouveaux) {
 
 TEST(Recalage, ZonesThatDidNotChangeKeepTheirRanks) {
     EXPECT_EQ(Places("abc", "abc"), "0 1 2");
-    EXPECT_TRUE(Recalage(Lis("abc"), Lis("abc")).RienNeChange());
-    EXPECT_TRUE(Recalage({}, {}).RienNeChange());
-    EXPECT_FALSE(Recalage(Lis("abc"), Lis("abcd")).RienNeChange());
-    EXPECT_FALSE(Recalage(Lis("abc"), Lis("abx")).RienNeChange());
+    EXPECT_TRUE(Recalage(Lis("abc"), Lis("abc")).EstInchange());
+    EXPECT_TRUE(Recalage({}, {}).EstInchange());
+    EXPECT_FALSE(Recalage(Lis("abc"), Lis("abcd")).EstInchange());
+    EXPECT_FALSE(Recalage(Lis("abc"), Lis("abx")).EstInchange());
 }
 
 TEST(Recalage, ZonesBehindNewOnesAndLostOnesMove) {
@@ -76,7 +76,7 @@ TEST(Recalage, EveryPlaceIsOneOfTheNewZones) {
         Zones const anciens = tire();
         Zones const nouveaux = tire();
         Recalage const recalage(anciens, nouveaux);
-        EXPECT_EQ(recalage.RienNeChange(), anciens == nouveaux);
+        EXPECT_EQ(recalage.EstInchange(), anciens == nouveaux);
         for (int rang = 0; rang < static_cast<int>(anciens.size()); ++rang) {
             auto const place = recalage.Retrouve(rang);
             ASSERT_TRUE(!place || (*place >= 0 && *place < static_cast<int>(nouveaux.size())));

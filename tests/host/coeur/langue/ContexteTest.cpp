@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 using hote::DonneContexte;
-using hote::PourTerminal;
+using hote::DonnePourTerminal;
 
 namespace {
 
@@ -46,13 +46,13 @@ TEST(Contexte, TheEndsOfATextAreNoReasonToCut) {
     EXPECT_FALSE(contexte.coupeAvant || contexte.coupeApres);
 }
 
-TEST(PourTerminal, NothingThatATerminalObeysIsLeft) {
-    EXPECT_EQ(PourTerminal(S("a\u001b[2Jb\u009bc\u0007\n")), S("a·[2Jb·c··"));
-    EXPECT_EQ(PourTerminal(S("a\u202eb\u2066c\u2028d\u2029")), S("a·b·c·d·"));
-    EXPECT_EQ(PourTerminal(QString(QChar(0xD800)) + QChar(0)), S("··"));
+TEST(DonnePourTerminal, NothingThatATerminalObeysIsLeft) {
+    EXPECT_EQ(DonnePourTerminal(S("a\u001b[2Jb\u009bc\u0007\n")), S("a·[2Jb·c··"));
+    EXPECT_EQ(DonnePourTerminal(S("a\u202eb\u2066c\u2028d\u2029")), S("a·b·c·d·"));
+    EXPECT_EQ(DonnePourTerminal(QString(QChar(0xD800)) + QChar(0)), S("··"));
 }
 
-TEST(PourTerminal, WhatReadsAsTextStays) {
-    EXPECT_EQ(PourTerminal(S("é e\u0301 😀 « l’été »\tfin")), S("é e\u0301 😀 « l’été » fin"));
-    EXPECT_EQ(PourTerminal(S("exem\u00adple")), S("exemple"));
+TEST(DonnePourTerminal, WhatReadsAsTextStays) {
+    EXPECT_EQ(DonnePourTerminal(S("é e\u0301 😀 « l’été »\tfin")), S("é e\u0301 😀 « l’été » fin"));
+    EXPECT_EQ(DonnePourTerminal(S("exem\u00adple")), S("exemple"));
 }

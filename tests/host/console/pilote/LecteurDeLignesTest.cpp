@@ -19,7 +19,7 @@ std::vector<std::string> Lis(std::string const& flux, std::size_t taille) {
     LecteurDeLignes lecteur(kLimite);
     std::vector<std::string> lignes;
     auto const vide = [&] {
-        while (auto const ligne = lecteur.Suivante()) {
+        while (auto const ligne = lecteur.PrendsSuivante()) {
             lignes.push_back(ligne->tropLongue ? "!" : ligne->octets.toStdString());
         }
     };

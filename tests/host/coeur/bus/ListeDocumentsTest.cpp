@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "bus/DocumentsDuBus.h"
+#include "bus/ListeDocuments.h"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@ ListeDocuments Lis(char const* reponse) {
 
 } // namespace
 
-TEST(LisDocuments, DocumentsComeInTheOrderOfTheAnswer) {
+TEST(ListeDocuments, DocumentsComeInTheOrderOfTheAnswer) {
     auto const liste = Lis(R"([{"id":"A~2","titre":"é","chemin":"/x"},
                                {"id":"A~1","titre":"","chemin":"","autre":1}])");
     ASSERT_EQ(liste.documents.size(), 2U);
@@ -26,12 +26,12 @@ TEST(LisDocuments, DocumentsComeInTheOrderOfTheAnswer) {
     EXPECT_TRUE(liste.avertissements.empty());
 }
 
-TEST(LisDocuments, NoDocumentIsNoFault) {
+TEST(ListeDocuments, NoDocumentIsNoFault) {
     EXPECT_TRUE(Lis("[]").documents.empty());
     EXPECT_TRUE(Lis("[]").avertissements.empty());
 }
 
-TEST(LisDocuments, AnAnswerThatIsNoListIsLeftOutWithOneWarning) {
+TEST(ListeDocuments, AnAnswerThatIsNoListIsLeftOutWithOneWarning) {
     for (char const* reponse : {"", "{}", "null", "[", "\"x\"", "[[", "bonjour", "[1]", "[null]",
                                 R"([{"id":"A~1"}])", R"([{"id":1,"titre":"","chemin":""}])",
                                 R"([{"id":"A~1","titre":null,"chemin":""},{"id":2}])"}) {
@@ -42,7 +42,7 @@ TEST(LisDocuments, AnAnswerThatIsNoListIsLeftOutWithOneWarning) {
     }
 }
 
-TEST(LisDocuments, ADocumentOfSomebodyElseIsLeftOut) {
+TEST(ListeDocuments, ADocumentOfSomebodyElseIsLeftOut) {
     auto const liste = Lis(R"([{"id":"B~1","titre":"","chemin":""},
                                {"id":"AA~1","titre":"","chemin":""},
                                {"id":"A","titre":"","chemin":""},
@@ -52,25 +52,10 @@ TEST(LisDocuments, ADocumentOfSomebodyElseIsLeftOut) {
     EXPECT_EQ(liste.avertissements.size(), 1U);
 }
 
-TEST(LisDocuments, AnEndlessAnswerIsLeftOut) {
+TEST(ListeDocuments, AnEndlessAnswerIsLeftOut) {
     QByteArray enorme("[");
     enorme += QByteArray(5 * 1024 * 1024, ' ') + ']';
     EXPECT_EQ(Lis(enorme.constData()).avertissements.size(), 1U);
     QByteArray profond = QByteArray(100000, '[') + QByteArray(100000, ']');
     EXPECT_EQ(Lis(profond.constData()).avertissements.size(), 1U);
-}
-
-TEST(DonneInstance, OnlyCompanionsNamesThatCanStandInAPathCount) {
-    auto const instance = [](char const* reste) {
-        return DonneInstance(QStringLiteral("com.ombrel.vocalyne.texteurs.OpenOffice.") +
-                             QString::fromUtf8(reste))
-            .toStdString();
-    };
-    EXPECT_EQ(instance("soffice_12"), "soffice_12");
-    EXPECT_EQ(instance("_7"), "_7");
-    for (char const* reste : {"", "7", "a.b", "a-b", "é", "a\n"}) {
-        EXPECT_EQ(instance(reste), "") << reste;
-    }
-    EXPECT_EQ(DonneInstance(QStringLiteral("org.freedesktop.DBus")), QString());
-    EXPECT_EQ(DonneInstance(QStringLiteral(":1.7")), QString());
 }

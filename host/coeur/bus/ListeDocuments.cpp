@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "DocumentsDuBus.h"
+#include "ListeDocuments.h"
 
 #include "commun/MessagesHote.h"
 

@@ -12,7 +12,7 @@ namespace hote {
 /// plug-in must be gone before the plug-in is, so this stands around the work and inside the
 /// plug-in's life.
 template <typename Travail>
-eCodeSortie SurGreffon(Travail&& travail) {
+eCodeSortie ExecuteSurGreffon(Travail&& travail) {
     try {
         return travail();
     } catch (ErreurHote const&) {
