@@ -160,6 +160,8 @@ void FilDuBus::Connecte() {
     DemandeLeNom();
 }
 
+// Not by g_bus_own_name_on_connection, which keeps the reply to itself: who sent it, and that none
+// came, can be seen here alone.
 void FilDuBus::DemandeLeNom() {
     constexpr guint kSansAttendre = 4; // DBUS_NAME_FLAG_DO_NOT_QUEUE
     constexpr guint kProprietaire = 1; // DBUS_REQUEST_NAME_REPLY_PRIMARY_OWNER
