@@ -5,7 +5,7 @@
 
 namespace extension {
 
-/// How the extension stands on the session bus.
+/// How the extension stands on the session bus. A value; any thread, as what tells it in words.
 struct EtatDuBus {
     enum class Genre { Demarre, SansBus, BusMuet, BusParti, NonPublie, NomPris, Sert };
 

@@ -6,7 +6,7 @@
 
 namespace extension {
 
-/// A spreadsheet document.
+/// A spreadsheet document. Main thread only.
 class DocumentCalc : public DocumentOuvert {
   public:
     using DocumentOuvert::DocumentOuvert;

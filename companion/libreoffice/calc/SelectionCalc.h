@@ -7,7 +7,8 @@
 namespace extension {
 
 /// What is selected in a spreadsheet document (null for nothing with a text): cells, which count as
-/// selected whole, or shapes. `cellules`: those met in the last walk; must outlive the result.
+/// selected whole, or shapes. `cellules`: those met in the last walk; must outlive the result. Main
+/// thread.
 std::unique_ptr<SelectionVue>
 LisSelectionCalc(css::uno::Reference<css::frame::XModel> const& modele, Cellules const& cellules);
 

@@ -9,7 +9,7 @@
 
 namespace extension {
 
-/// A view of the office's string, valid as long as it lives.
+/// A view of the office's string, valid as long as it lives. Any thread, as all of these.
 inline std::u16string_view Vue(rtl::OUString const& chaine) noexcept {
     // The SDK declares the office's char16_t units as 16-bit integers; they are written and read in
     // different binaries, where no compiler sees both types.

@@ -6,6 +6,7 @@
 namespace extension {
 
 /// Sixteen hexadecimal digits that no other call, in this process or another, is likely to give.
+/// Any thread.
 std::string HasardHexadecimal();
 
 } // namespace extension

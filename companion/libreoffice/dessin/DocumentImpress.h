@@ -5,7 +5,7 @@
 
 namespace extension {
 
-/// A presentation or a drawing: page by page its shapes, its comments, its notes.
+/// A presentation or a drawing: page by page its shapes, its comments, its notes. Main thread only.
 class DocumentImpress : public DocumentOuvert {
   public:
     using DocumentOuvert::DocumentOuvert;

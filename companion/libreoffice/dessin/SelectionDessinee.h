@@ -9,6 +9,7 @@ namespace extension {
 
 /// Texts of the drawing engine are selected: those of the selected shapes (groups and tables stand
 /// for what is in them); `selection` is the office's collection of shapes. Null for anything else.
+/// Main thread, as the next one.
 std::unique_ptr<SelectionVue>
 SelectionDeFormes(css::uno::Reference<css::uno::XInterface> const& selection);
 

@@ -10,6 +10,7 @@
 namespace extension {
 
 /// The text that a paragraph stands in (the body, a cell, a note, a frame) and what protects it.
+/// Main thread, as the questions below; they may throw UNO exceptions.
 struct Contenant {
     css::uno::Reference<css::text::XText> texte;
     /// The cell or frame that can be protected, and the property that says so; may be empty.

@@ -29,6 +29,7 @@ enum ProprieteDeLettres {
     kNombreDeProprietes
 };
 
+/// Their names in the office. Main thread, as all of these.
 css::uno::Sequence<rtl::OUString> NomsDesProprietesDeLettres();
 
 /// The style bits (protocol/README.md) that their values mean for letters of Latin script.

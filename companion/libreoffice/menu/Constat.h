@@ -10,7 +10,8 @@
 
 namespace extension {
 
-/// All that it takes for a host to work on the document in front, as it stands now.
+/// All that it takes for a host to work on the document in front, as it stands now. A value; any
+/// thread, as what tells it in words.
 struct Constat {
     std::string service; ///< the service's name on the bus; empty when the extension did not start
     EtatDuBus bus;

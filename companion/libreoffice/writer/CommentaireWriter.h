@@ -6,7 +6,7 @@
 namespace extension {
 
 /// A Writer comment: can be changed only while it has no format of its own, for the office takes
-/// new words for a comment as plain text.
+/// new words for a comment as plain text. Main thread.
 std::shared_ptr<TexteDessine>
 TexteDeCommentaire(css::uno::Reference<css::uno::XInterface> const& champ,
                    css::uno::Reference<css::frame::XModel> const& modele,

@@ -6,7 +6,7 @@
 
 namespace extension {
 
-/// A Writer document (also a web or master document).
+/// A Writer document (also a web or master document). Main thread only.
 class DocumentWriter : public DocumentOuvert {
   public:
     DocumentWriter(css::uno::Reference<css::frame::XModel> const& modele, std::string cle);

@@ -23,7 +23,7 @@ struct FondWriter {
     Suppressions suppressions;
 };
 
-/// A paragraph of a Writer text: body, cell, note, header, frame.
+/// A paragraph of a Writer text: body, cell, note, header, frame. Main thread only.
 class ParagrapheWriter : public ZoneOuverte {
   public:
     ParagrapheWriter(std::string cle,

@@ -17,7 +17,8 @@ struct HoteTrouve {
 };
 
 /// VOCALYNE_HOTE, else `vocalyne-hote` in `installation` (the folder of programs that the build
-/// installs to), on PATH, in the usual folders. Folders that are not absolute are passed over.
+/// installs to), on PATH, in the usual folders. Folders that are not absolute are passed over. Any
+/// thread, as the next one.
 HoteTrouve ChercheHote(Reglages const& reglages, std::string const& installation);
 
 /// A terminal emulator, or why there is none.

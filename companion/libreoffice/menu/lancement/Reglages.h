@@ -13,6 +13,7 @@ struct Reglages {
     std::string maison;   ///< HOME
 };
 
+/// Any thread, while none changes the environment.
 Reglages ReglagesDeLEnvironnement();
 
 } // namespace extension
