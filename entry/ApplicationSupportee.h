@@ -4,5 +4,5 @@
 #include "InfosApplication.h"
 
 /// Does the record describe a LibreOffice or OpenOffice.org window? Only its `Classe` is read, as a
-/// whole text.
+/// whole text. Any thread.
 bool EstApplicationSupportee(InfosApplication const& infos);

@@ -5,7 +5,7 @@
 
 /// The host's names for the entries of its application-information record, in each unit that
 /// includes this header from load to unload. Kept for code that reads the record by name; the
-/// exports read its fields.
+/// exports read its fields. Any thread.
 namespace clesInfos {
 
 UniChaine const kApplication("Application", UniChaine::kCodageLitteral, -1);

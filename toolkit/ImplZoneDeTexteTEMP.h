@@ -9,7 +9,8 @@ class ImplAgentTexteur;
 
 /// The generic zone: one interval of the document, with its text and its share of the selection.
 /// It turns positions relative to itself into absolute ones and hands the request to its agent,
-/// which must outlive it. Made by `ImplAgentTexteur::SynchronisePositions` only.
+/// which must outlive it. Made by `ImplAgentTexteur::SynchronisePositions` only. Host's calling
+/// thread.
 class ImplZoneDeTexteTEMP : public InterfaceZoneDeTexte {
   public:
     /// The zone [debut, fin) of the document, absolute; empty of text until `Remplis`.

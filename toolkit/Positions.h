@@ -2,7 +2,7 @@
 #pragma once
 
 /// Position arithmetic that wraps instead of overflowing: positions come from the host, which may
-/// give any 32-bit value.
+/// give any 32-bit value. Any thread.
 namespace positions {
 
 inline int Somme(int a, int b) noexcept {

@@ -4,7 +4,8 @@
 #include "ExportGui.h"
 #include "UniChaine.h"
 
-/// What an alert says. A value; the texts are plain text, never interpreted as markup.
+/// What an alert says. A value; the texts are plain text, never interpreted as markup. Distinct
+/// objects may be used on distinct threads.
 class VOCALYNE_GUI DAlerteInfo {
   public:
     /// The kind of dialogue, which decides its icon and buttons.

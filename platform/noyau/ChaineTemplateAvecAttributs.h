@@ -28,7 +28,8 @@ struct PlageAttribut {
 ///
 /// `C` is a string with `Longueur()`, `Extrais`, `Remplace` and `MetsUnite` (`ChaineN`). Setting
 /// runs in document order costs amortised constant time each; elsewhere a binary search and a move
-/// of the runs behind. Copying copies the runs and shares the text.
+/// of the runs behind. Copying copies the runs and shares the text. Distinct objects may be used on
+/// distinct threads; one object on one thread at a time. Throws only std::bad_alloc.
 template <class C>
 class ChaineTemplateAvecAttributs {
   public:

@@ -3,7 +3,8 @@
 
 #include "UniChaine.h"
 
-/// A file path. It keeps the text as given: nothing is cleaned, resolved or looked up.
+/// A file path. It keeps the text as given: nothing is cleaned, resolved or looked up. Threads
+/// and exceptions as for `UniChaine`.
 class VOCALYNE_NOYAU UniChemin {
   public:
     /// The empty path: it names nothing.

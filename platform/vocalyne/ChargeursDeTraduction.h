@@ -8,7 +8,8 @@
 /// The loaders of translation domains, in the order in which they were given.
 ///
 /// They come from connectors, which are unloaded while this list lives on: a plain function is
-/// called only while the library that it came from is still the one at its address.
+/// called only while the library that it came from is still the one at its address. The thread that
+/// loads libraries.
 class ChargeursDeTraduction {
   public:
     /// Runs a loader and keeps it. A plain function given again is kept once.

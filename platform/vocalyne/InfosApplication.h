@@ -6,7 +6,8 @@
 #include <cstdint>
 
 /// The host's description of the application in front. The host owns it and passes it by address;
-/// a connector reads it during the call only. The order of the fields is part of the contract.
+/// a connector reads it during the call only, on the thread of the call. The order of the fields is
+/// part of the contract.
 struct InfosApplication {
     UniChaine Application;          ///< the application's name; not read by connectors
     UniChaine Id;                   ///< identifier of the document in front

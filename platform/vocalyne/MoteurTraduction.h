@@ -8,7 +8,7 @@ class CatalogueMo;
 // What of translation needs Boost.Locale. It stands in a library of its own,
 // libOutilsTraduction.so, which is loaded with the first message that is asked for: Boost.Locale
 // has some thousand symbols bound when it is loaded, a fifth of what loading a connector takes, and
-// most sessions of a host show no message at all.
+// most sessions of a host show no message at all. Any thread.
 namespace moteurTraduction {
 
 /// Replaces `locale` by one that serves the catalog. False, and no change, for a catalog that

@@ -7,7 +7,8 @@
 /// How to start a QApplication so that it cannot end the process.
 ///
 /// Qt ends it when no platform comes up, and some platforms and themes do so by themselves: all of
-/// these must be kept out before Qt is asked, as nothing can be caught afterwards.
+/// these must be kept out before Qt is asked, as nothing can be caught afterwards. The thread
+/// that becomes Qt's main one.
 class PlateformeQt {
   public:
     /// Command-line arguments, without the program's name: the platforms to try in turn, the last

@@ -12,6 +12,7 @@ import subprocess
 import unittest
 
 ICI = pathlib.Path(__file__).resolve().parent
+DEPOT = ICI.parent.parent
 GREFFON = os.environ.get("VOCALYNE_GREFFON", "")
 TABLES = os.environ.get("VOCALYNE_TABLES", "")
 CLASSES = ["AgentEspion", "ConnecteurEspion", "ImplAgentTexteur", "ImplZoneDeTexteTEMP",
@@ -68,6 +69,20 @@ def tables(vidage: str) -> str:
     return "\n".join(lignes) + "\n"
 
 
+def sans_contrat(entete: pathlib.Path) -> list[str]:
+    """The slots and exports of a header whose comment does not end in a contract of the right form."""
+    forme = re.compile(r"\[((host|any); needs [^][]+|as `\w+`)\]\Z")
+    sans, commentaire = [], []
+    for ligne in entete.read_text().splitlines():
+        if ligne.strip().startswith("///"):
+            commentaire.append(ligne.strip().removeprefix("///").strip())
+            continue
+        if re.match(r"\s*(virtual|VOCALYNE_EXPORT) ", ligne) and not forme.search(" ".join(commentaire)):
+            sans.append(f"{entete.name}: {ligne.strip()}")
+        commentaire = []
+    return sans
+
+
 class Abi(unittest.TestCase):
     maxDiff = None
 
@@ -76,6 +91,11 @@ class Abi(unittest.TestCase):
         if os.environ.get("VOCALYNE_GOLDENS") == "write":
             reference.write_text(obtenu)
         self.assertEqual(reference.read_text(), obtenu)
+
+    def test_every_slot_and_export_says_the_state_it_needs_and_its_thread(self):
+        entetes = [DEPOT / "entry/Exports.h", *(DEPOT / "toolkit").glob("Interface*.h")]
+        self.assertEqual(len(entetes), 4)
+        self.assertEqual([], [faute for entete in entetes for faute in sans_contrat(entete)])
 
     def test_the_plug_in_exports_exactly_its_five_functions(self):
         noms = [ligne.split()[-1] for ligne in sortie("nm", "-D", "--defined-only", GREFFON).splitlines()]
