@@ -12,6 +12,10 @@
 
 namespace compagnon {
 
+/// May it go into a document: could a person have typed it? The filler stands for something else,
+/// and the other control characters mean anchors and fields to an office.
+bool EstTapable(std::u16string_view texte) noexcept;
+
 /// A place in the document: so many UTF-16 units into the source of a portion.
 struct PlaceDansPortion {
     std::size_t portion = 0;

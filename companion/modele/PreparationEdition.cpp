@@ -22,15 +22,13 @@ bool EstSansEtendue(GenrePortion genre) noexcept {
     return genre == GenrePortion::Repere || genre == GenrePortion::Limite;
 }
 
-/// Only what a person could have typed may go into a document: the filler stands for something
-/// else, and the other control characters mean anchors and fields to an office.
-bool EstTapable(std::u16string_view texte) {
+} // namespace
+
+bool EstTapable(std::u16string_view texte) noexcept {
     return EstTransportable(texte) && std::none_of(texte.begin(), texte.end(), [](char16_t unite) {
                return unite < 0x20 && unite != u'\t' && unite != u'\n';
            });
 }
-
-} // namespace
 
 bool PlanDePortions::ContientObstacle(std::size_t avant, std::size_t apres) const {
     for (std::size_t i = avant + 1; i < apres; ++i) {

@@ -109,6 +109,14 @@ std::u16string RendsTransportable(std::u16string_view texte) {
     return resultat;
 }
 
+std::u16string RendsEnvoyable(std::u16string_view texte) {
+    std::u16string resultat = RendsTransportable(texte);
+    if (!resultat.empty() && resultat[0] == u'\uFEFF') {
+        resultat[0] = kRemplissage;
+    }
+    return resultat;
+}
+
 void AjouteUtf8(std::u16string_view texte, std::string& sortie) {
     for (std::size_t i = 0; i < texte.size(); ++i) {
         char16_t const unite = texte[i];

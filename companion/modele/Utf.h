@@ -18,6 +18,10 @@ bool EstTransportable(std::u16string_view texte) noexcept;
 /// The text as it travels: same length, each unit that cannot leave replaced by `kRemplissage`.
 std::u16string RendsTransportable(std::u16string_view texte);
 
+/// The same for a text that is a reply by itself, outside of any Base64: Qt's readers take a U+FEFF
+/// at a string's very start for a byte order mark and drop it, so it becomes `kRemplissage` there.
+std::u16string RendsEnvoyable(std::u16string_view texte);
+
 /// Appends the text as UTF-8 to `sortie`, made transportable on the way.
 void AjouteUtf8(std::u16string_view texte, std::string& sortie);
 std::string Utf16VersUtf8(std::u16string_view texte);

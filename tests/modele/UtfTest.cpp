@@ -98,3 +98,9 @@ TEST(Base64, FollowsTheStandardAlphabetWithPadding) {
     EXPECT_EQ(Base64("\0\xFF\xFE"sv), "AP/+");
     EXPECT_EQ(Base64("\xFB\xEF\xBE"sv), "++++");
 }
+
+TEST(Utf, AReplyByItselfNeverBeginsWithAByteOrderMark) {
+    EXPECT_EQ(compagnon::RendsEnvoyable(u"\uFEFFa\uFEFF"), u"\aa\uFEFF");
+    EXPECT_EQ(compagnon::RendsEnvoyable(u"a\uFEFF"), u"a\uFEFF");
+    EXPECT_EQ(compagnon::RendsEnvoyable(u""), u"");
+}

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Appels.h"
 
-#include "Contrat.h"
 #include "commun/ChainesUno.h"
-#include "commun/ErreurDuService.h"
+#include "partage/ErreurDuService.h"
 
 #include <com/sun/star/lang/DisposedException.hpp>
 #include <com/sun/star/uno/Exception.hpp>
@@ -12,13 +11,19 @@
 #include <utility>
 
 using namespace com::sun::star;
+using compagnon::ErreurDuService;
+using contrat::Erreur;
 
 namespace extension {
 
-void RepondsErreur(GDBusMethodInvocation* invocation, char const* nom, char const* message) {
-    g_dbus_method_invocation_return_dbus_error(
-        invocation, (std::string(contrat::kPrefixeErreur) + nom).c_str(), message);
+namespace {
+
+void Reponds(GDBusMethodInvocation* invocation, ErreurDuService const& erreur) {
+    g_dbus_method_invocation_return_dbus_error(invocation, erreur.DonneNomDBus().c_str(),
+                                               erreur.what());
 }
+
+} // namespace
 
 /// One call on its way. The reply is sent by whoever wins: the work, or its time limit.
 struct Appels::Attente {
@@ -60,13 +65,13 @@ void Appels::Sert(GDBusMethodInvocation* invocation, std::chrono::milliseconds d
                 GVariant* const resultat = travail(*service_, appelant);
                 g_dbus_method_invocation_return_value(ici->invocation, resultat);
             } catch (ErreurDuService const& erreur) {
-                RepondsErreur(ici->invocation, erreur.DonneNom().c_str(), erreur.what());
+                Reponds(ici->invocation, erreur);
             } catch (lang::DisposedException const&) {
-                RepondsErreur(ici->invocation, "DocumentFerme", "the document is being closed");
+                Reponds(ici->invocation, ErreurDuService(Erreur::DocumentFerme));
             } catch (uno::Exception const& erreur) {
-                RepondsErreur(ici->invocation, "Bureau", EnUtf8(erreur.Message).c_str());
+                Reponds(ici->invocation, ErreurDuService(Erreur::Bureau, EnUtf8(erreur.Message)));
             } catch (std::exception const& erreur) {
-                RepondsErreur(ici->invocation, "Interne", erreur.what());
+                Reponds(ici->invocation, ErreurDuService(Erreur::Interne, erreur.what()));
             }
             Retire(ici);
         });
@@ -79,8 +84,7 @@ void Appels::Sert(GDBusMethodInvocation* invocation, std::chrono::milliseconds d
             auto const* echeance = static_cast<Echeance*>(donnee);
             std::shared_ptr<Attente> const ici = echeance->second.lock();
             if (ici && ici->demande->Annule()) {
-                RepondsErreur(ici->invocation, "Occupe",
-                              "the office is busy; nothing was done and nothing will be");
+                Reponds(ici->invocation, ErreurDuService(Erreur::Occupe));
                 echeance->first->Retire(ici);
             }
             return G_SOURCE_REMOVE;
@@ -92,7 +96,7 @@ void Appels::Sert(GDBusMethodInvocation* invocation, std::chrono::milliseconds d
         std::lock_guard<std::mutex> const verrou(mutex_);
         if (ferme_) {
             g_source_destroy(attente->limite);
-            RepondsErreur(invocation, "Fermeture", "the office is closing");
+            Reponds(invocation, ErreurDuService(Erreur::Fermeture));
             return;
         }
         attentes_.insert(attente);
@@ -121,7 +125,7 @@ void Appels::Ferme() {
     for (std::shared_ptr<Attente> const& attente : restantes) {
         if (attente->demande->Annule()) {
             g_source_destroy(attente->limite);
-            RepondsErreur(attente->invocation, "Fermeture", "the office is closing");
+            Reponds(attente->invocation, ErreurDuService(Erreur::Fermeture));
         }
     }
 }

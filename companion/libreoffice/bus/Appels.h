@@ -49,7 +49,4 @@ class Appels {
     std::set<std::shared_ptr<Attente>> attentes_;
 };
 
-/// Answers with an error of ours.
-void RepondsErreur(GDBusMethodInvocation* invocation, char const* nom, char const* message);
-
 } // namespace extension

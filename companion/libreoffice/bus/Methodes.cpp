@@ -20,7 +20,7 @@ GVariant* Chaine(std::string const& utf8) {
     return g_variant_new("(s)", utf8.c_str());
 }
 GVariant* Chaine(std::u16string const& texte) {
-    return Chaine(compagnon::Utf16VersUtf8(texte));
+    return Chaine(compagnon::Utf16VersUtf8(compagnon::RendsEnvoyable(texte)));
 }
 /// For the document's text, which can be long and is known to be ASCII: neither copied nor read
 /// through again.
@@ -87,10 +87,6 @@ GVariant* Fin(Service& service, std::string const& appelant) {
 }
 GVariant* Retour(Service& service, std::string const& appelant) {
     return Booleen(service.PermetsRetourDeCharriot(appelant));
-}
-GVariant* Oublie(Service& service, std::string const& appelant) {
-    service.Oublie(appelant);
-    return nullptr;
 }
 GVariant* Rien(Service& /*service*/, std::string const& /*appelant*/) {
     return nullptr; // a pause is the host's own affair: nothing is held for it here
@@ -211,7 +207,7 @@ Methodes::Methodes(Appels& cible, std::shared_ptr<ClesVivantes const> vivantes, 
         {"handle-peut-corriger", G_CALLBACK(&SurPeutCorriger)},
         {"handle-remplace-et-reselectionne", G_CALLBACK(&SurRemplace)},
         {"handle-romps-lien-correcteur", G_CALLBACK(&SurOrdre<&Service::RompsLienCorrecteur>)},
-        {"handle-romps-lien-texteur", G_CALLBACK(&SurQuestion<&Oublie>)},
+        {"handle-romps-lien-texteur", G_CALLBACK(&SurOrdre<&Service::RompsLienTexteur>)},
         {"handle-selectionne-intervalle", G_CALLBACK(&SurSelectionne)},
         {"handle-suspends", G_CALLBACK(&SurQuestion<&Rien>)},
         {"handle-synchronise-positions", G_CALLBACK(&SurSynchronise)},

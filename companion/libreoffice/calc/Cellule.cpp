@@ -2,10 +2,10 @@
 #include "Cellule.h"
 
 #include "commun/ChainesUno.h"
-#include "commun/ErreurDuService.h"
 #include "dessin/EditionEnCours.h"
 #include "document/SelectionDuBureau.h"
 #include "lecture/StyleDeLettres.h"
+#include "partage/ErreurDuService.h"
 
 #include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/beans/XPropertySet.hpp>
@@ -76,7 +76,7 @@ std::vector<ParagrapheLu> Cellule::LisTout() const {
     table::CellContentType const genre = Genre(DonneObjet());
     // What a correction has emptied may be filled again.
     if (genre != table::CellContentType_TEXT && genre != table::CellContentType_EMPTY) {
-        throw ZoneInconnue();
+        throw compagnon::ErreurDuService(contrat::Erreur::ZoneInconnue);
     }
     if (!EstUniforme()) {
         return TexteDessine::LisTout();

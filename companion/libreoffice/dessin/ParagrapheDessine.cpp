@@ -2,7 +2,7 @@
 #include "ParagrapheDessine.h"
 
 #include "AnnulationDessin.h"
-#include "commun/ErreurDuService.h"
+#include "partage/ErreurDuService.h"
 
 #include <utility>
 
@@ -19,7 +19,7 @@ ParagrapheDessine::ParagrapheDessine(std::string cle, std::weak_ptr<TexteDessine
 std::shared_ptr<TexteDessine> ParagrapheDessine::DonneTexte() const {
     std::shared_ptr<TexteDessine> texte = texte_.lock();
     if (!texte) {
-        throw ZoneInconnue();
+        throw compagnon::ErreurDuService(contrat::Erreur::ZoneInconnue);
     }
     return texte;
 }
@@ -33,7 +33,7 @@ PlanDePortions ParagrapheDessine::Lis() {
             return std::move(lus[i].plan);
         }
     }
-    throw ZoneInconnue();
+    throw compagnon::ErreurDuService(contrat::Erreur::ZoneInconnue);
 }
 
 bool ParagrapheDessine::EstProtegee() {
@@ -43,7 +43,7 @@ bool ParagrapheDessine::EstProtegee() {
 void ParagrapheDessine::Applique(CorrectionPrete const& correction) {
     std::shared_ptr<TexteDessine> const texte = DonneTexte();
     if (!texte->Remplace(rang_, correction.debut, correction.avant, correction.apres)) {
-        throw Refuse("the range cannot be changed without harm to its format");
+        throw compagnon::ErreurDuService(contrat::Erreur::ChampDetruit);
     }
     if (!texte->SAnnuleSeul()) {
         AjouteAnnulation(texte, rang_, correction);

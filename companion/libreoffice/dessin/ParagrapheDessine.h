@@ -18,8 +18,8 @@ class ParagrapheDessine : public ZoneOuverte {
     void Selectionne(compagnon::PlanDePortions const& plan, std::size_t debut,
                      std::size_t fin) override;
 
-    /// The text that it is a paragraph of; throws `ErreurDuService` when that has left the
-    /// document.
+    /// The text that it is a paragraph of; throws `compagnon::ErreurDuService` when that has left
+    /// the document.
     std::shared_ptr<TexteDessine> DonneTexte() const;
 
   private:
@@ -29,7 +29,7 @@ class ParagrapheDessine : public ZoneOuverte {
 };
 
 /// The text that the zone is a paragraph of; null for another kind of zone. Throws
-/// `ErreurDuService` when that text has left the document. Main thread.
+/// `compagnon::ErreurDuService` when that text has left the document. Main thread.
 std::shared_ptr<TexteDessine> TexteDe(ZoneOuverte& zone);
 
 } // namespace extension

@@ -2,8 +2,8 @@
 #include "TexteDeForme.h"
 
 #include "EditionEnCours.h"
-#include "commun/ErreurDuService.h"
 #include "document/SelectionDuBureau.h"
+#include "partage/ErreurDuService.h"
 
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/container/XChild.hpp>
@@ -61,7 +61,7 @@ class Forme : public TexteDessine {
   protected:
     uno::Reference<text::XText> DonneTexte() const override {
         if (!EstEncoreLa()) {
-            throw ZoneInconnue();
+            throw compagnon::ErreurDuService(contrat::Erreur::ZoneInconnue);
         }
         return uno::Reference<text::XText>(DonneObjet(), uno::UNO_QUERY_THROW);
     }

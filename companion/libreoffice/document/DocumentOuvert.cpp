@@ -2,7 +2,7 @@
 #include "DocumentOuvert.h"
 
 #include "commun/ChainesUno.h"
-#include "commun/ErreurDuService.h"
+#include "partage/ErreurDuService.h"
 
 #include <com/sun/star/awt/XTopWindow.hpp>
 #include <com/sun/star/awt/XWindow.hpp>
@@ -106,7 +106,7 @@ bool DocumentOuvert::EstEncore(Retenue const& retenue, SelectionVue& selection) 
     std::shared_ptr<ZoneOuverte> const zone = carnet_.TrouveParCle(retenue.cle);
     try {
         return zone && selection.EstEntier(*zone) && zone->Lis().DonneTexte() == retenue.texte;
-    } catch (ErreurDuService const&) {
+    } catch (compagnon::ErreurDuService const&) {
         return false; // it left the document
     }
 }

@@ -23,7 +23,8 @@ struct CorrectionPrete {
 };
 
 /// One paragraph of an open document, as long as it lives there. Main thread only. Every operation
-/// may throw a UNO exception, or `ErreurDuService` when the paragraph has left the document.
+/// may throw a UNO exception, or `compagnon::ErreurDuService` when the paragraph has left the
+/// document.
 class ZoneOuverte : public Inscrit {
   public:
     explicit ZoneOuverte(std::string cle)

@@ -3,8 +3,8 @@
 
 #include "Contrat.h"
 #include "commun/Hasard.h"
-#include "commun/MessagesExtension.h"
 #include "lecture/Ecritures.h"
+#include "partage/Messages.h"
 
 #include <com/sun/star/beans/PropertyValue.hpp>
 #include <com/sun/star/container/XNameAccess.hpp>
@@ -97,7 +97,7 @@ void Extension::Demarre(uno::Reference<uno::XComponentContext> const& contexte) 
         }
         phase = Phase::Demarree;
     }
-    MetsLangue(EstEnFrancais(contexte));
+    compagnon::MetsFrancais(EstEnFrancais(contexte));
     MetsContexteDesEcritures(contexte);
     uno::Reference<frame::XDesktop> const bureauOuvert(
         contexte->getServiceManager()->createInstanceWithContext("com.sun.star.frame.Desktop",

@@ -3,11 +3,11 @@
 
 #include "Avis.h"
 #include "Constat.h"
-#include "commun/MessagesExtension.h"
 #include "extension/Extension.h"
 #include "menu/lancement/EnvironnementEnfant.h"
 #include "menu/lancement/Lance.h"
 #include "menu/lancement/LigneDeTerminal.h"
+#include "partage/Messages.h"
 
 #include <com/sun/star/frame/XController.hpp>
 #include <com/sun/star/frame/XModel.hpp>
@@ -16,6 +16,7 @@
 #include <vector>
 
 using namespace com::sun::star;
+using compagnon::Dis;
 
 namespace extension {
 
@@ -44,14 +45,14 @@ Constat Constate(uno::Reference<frame::XFrame> const& cadre) {
 /// Empty when the host was started, else what failed.
 std::string LanceHote(Constat const& constat, char const* operation) {
     std::string const invite =
-        Dis("Appuyez sur Entrée pour fermer cette fenêtre.", "Press Enter to close this window.");
+        Dis({"Appuyez sur Entrée pour fermer cette fenêtre.", "Press Enter to close this window."});
     std::string const panne =
         Lance(LigneDeTerminal(constat.terminal.commande, invite, constat.hote.chemin,
                               {operation, constat.idDocument}),
               EnvironnementEnfant(EnvironnementHerite(), AdresseDuBus()));
     return panne.empty()
                ? panne
-               : Dis("L’hôte n’a pas pu être lancé\u00a0: ", "The host could not be started: ") +
+               : Dis({"L’hôte n’a pas pu être lancé\u00a0: ", "The host could not be started: "}) +
                      panne;
 }
 

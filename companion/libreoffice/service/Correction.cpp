@@ -2,14 +2,17 @@
 #include "Correction.h"
 
 #include "commun/ChainesUno.h"
-#include "commun/ErreurDuService.h"
-#include "commun/MessagesExtension.h"
+#include "commun/NomDeCorrection.h"
+#include "modele/EditionMinimale.h"
+#include "modele/Utf.h"
 
 #include <com/sun/star/document/XUndoManagerSupplier.hpp>
 
 using namespace com::sun::star;
+using compagnon::ErreurDuService;
 using compagnon::Intervalle;
 using compagnon::PlanDePortions;
+using contrat::Erreur;
 
 namespace extension {
 
@@ -42,36 +45,46 @@ class EtapeAnnulable {
     uno::Reference<document::XUndoManager> pile_;
 };
 
-std::string Explique(compagnon::Refus refus) {
-    switch (refus) {
-    case compagnon::Refus::Inconnu:
-        return "the zone's text was never given to this caller";
-    case compagnon::Refus::HorsLimites:
-        return "the range is not inside the zone";
-    case compagnon::Refus::CoupePaire:
-        return "the range parts a surrogate pair";
-    default:
-        return "the document has changed there";
+/// Throws where `apres` would put in a letter that the zone cannot take. What both texts have stays
+/// as it is; the filler of a field that is moved about is the field's affair.
+void VerifieLettres(ZoneOuverte const& zone, std::u16string_view avant, std::u16string_view apres) {
+    std::u16string_view const ajout = compagnon::EditionMinimale::Entre(avant, apres).ajout;
+    bool const deplaceUnChamp = ajout.find(compagnon::kRemplissage) != std::u16string_view::npos &&
+                                avant.find(compagnon::kRemplissage) != std::u16string_view::npos;
+    if ((!compagnon::EstTapable(ajout) && !deplaceUnChamp) ||
+        (!zone.PermetsRetour() && ajout.find(u'\n') != std::u16string_view::npos)) {
+        throw ErreurDuService(Erreur::FinDeLigne);
     }
 }
 
 } // namespace
 
-std::optional<std::string> RaisonDeRefuser(DocumentOuvert const& document,
-                                           DialogueModal const& dialogue) {
+std::optional<Erreur> RaisonDeRefuser(DocumentOuvert const& document,
+                                      DialogueModal const& dialogue) {
     if (document.EstEnLectureSeule()) {
-        return "the document is read-only";
+        return Erreur::LectureSeule;
     }
     if (dialogue.EstOuvert()) {
-        return "a dialogue is open in the office";
+        return Erreur::DialogueOuvert;
     }
     return std::nullopt;
+}
+
+std::optional<Erreur> RaisonDeRefuser(DocumentOuvert const& document, DialogueModal const& dialogue,
+                                      ZoneOuverte& zone) {
+    if (auto const raison = RaisonDeRefuser(document, dialogue)) {
+        return raison;
+    }
+    if (zone.EstProtegee()) {
+        return Erreur::Protege;
+    }
+    return zone.EstEnFrappe() ? std::make_optional(Erreur::Frappe) : std::nullopt;
 }
 
 bool PeutCorriger(DocumentOuvert const& document, DialogueModal const& dialogue, ZoneOuverte& zone,
                   compagnon::TexteSuivi const& croyance, Intervalle plage,
                   std::u16string const& attendu) {
-    if (RaisonDeRefuser(document, dialogue) || zone.EstProtegee() || zone.EstEnFrappe()) {
+    if (RaisonDeRefuser(document, dialogue, zone)) {
         return false;
     }
     PlanDePortions const plan = zone.Lis();
@@ -81,16 +94,18 @@ bool PeutCorriger(DocumentOuvert const& document, DialogueModal const& dialogue,
 
 void Remplace(DocumentOuvert const& document, ZoneOuverte& zone, PlanDePortions const& plan,
               Intervalle plage, std::u16string const& texte) {
+    std::u16string avant = plan.DonneTexte().substr(plage.DonneDebut(), plage.DonneLongueur());
+    VerifieLettres(zone, avant, texte);
     auto etapes = plan.Prepare(plage.DonneDebut(), plage.DonneFin(), texte);
     if (!etapes) {
-        throw Refuse("the change would touch a field, an anchor, or text that is not shown");
+        throw ErreurDuService(Erreur::ChampDetruit);
     }
     if (etapes->empty()) {
         return;
     }
     CorrectionPrete correction;
     correction.debut = plage.DonneDebut();
-    correction.avant = plan.DonneTexte().substr(plage.DonneDebut(), plage.DonneLongueur());
+    correction.avant = std::move(avant);
     correction.apres = texte;
     correction.nom = NomDeCorrection(correction.avant, texte);
     correction.etapes = std::move(*etapes);
@@ -101,19 +116,13 @@ void Remplace(DocumentOuvert const& document, ZoneOuverte& zone, PlanDePortions 
 void Corrige(DocumentOuvert const& document, DialogueModal const& dialogue, ZoneOuverte& zone,
              compagnon::TexteSuivi& croyance, Intervalle plage, std::u16string const& texte) {
     try {
-        if (auto const raison = RaisonDeRefuser(document, dialogue)) {
-            throw Refuse(*raison);
-        }
-        if (zone.EstProtegee()) {
-            throw Refuse("the text is protected");
-        }
-        if (zone.EstEnFrappe()) {
-            throw Refuse("the person is typing in it");
+        if (auto const raison = RaisonDeRefuser(document, dialogue, zone)) {
+            throw ErreurDuService(*raison);
         }
         PlanDePortions const plan = zone.Lis();
         auto const trouve = croyance.Localise(plage, plan.DonneTexte());
         if (!trouve) {
-            throw Refuse(Explique(trouve.refus));
+            throw compagnon::RefusDe(trouve.refus, zone.DonneCle());
         }
         Remplace(document, zone, plan, trouve.plage, texte);
     } catch (...) {

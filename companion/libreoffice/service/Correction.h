@@ -2,8 +2,9 @@
 #pragma once
 
 #include "DialogueModal.h"
-#include "Session.h"
 #include "document/DocumentOuvert.h"
+#include "modele/TexteSuivi.h"
+#include "partage/ErreurDuService.h"
 
 #include <optional>
 #include <string>
@@ -11,9 +12,12 @@
 namespace extension {
 
 /// Why nothing in the document may be changed now, whatever the range: read-only, or a dialogue
-/// waits for the person. Nothing when it may. Main thread.
-std::optional<std::string> RaisonDeRefuser(DocumentOuvert const& document,
-                                           DialogueModal const& dialogue);
+/// waits for the person. Nothing when it may. Main thread, as all here.
+std::optional<contrat::Erreur> RaisonDeRefuser(DocumentOuvert const& document,
+                                               DialogueModal const& dialogue);
+/// Why nothing in this zone of it may be changed now: the same, protected, or being typed in.
+std::optional<contrat::Erreur> RaisonDeRefuser(DocumentOuvert const& document,
+                                               DialogueModal const& dialogue, ZoneOuverte& zone);
 
 /// May the range of the host's, holding `attendu`, be corrected now?
 bool PeutCorriger(DocumentOuvert const& document, DialogueModal const& dialogue, ZoneOuverte& zone,

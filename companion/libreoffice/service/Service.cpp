@@ -2,18 +2,38 @@
 #include "Service.h"
 
 #include "Correction.h"
-#include "EcritureDocuments.h"
-#include "commun/ErreurDuService.h"
 #include "modele/EcrivainZones.h"
+#include "partage/EcritureDocuments.h"
+#include "partage/ErreurDuService.h"
+#include "partage/Messages.h"
+
+#include <com/sun/star/lang/DisposedException.hpp>
 
 #include <algorithm>
 #include <utility>
 
 using namespace com::sun::star;
+using compagnon::ErreurDuService;
 using compagnon::Intervalle;
 using compagnon::PlanDePortions;
+using compagnon::SelectionDite;
+using contrat::Erreur;
 
 namespace extension {
+
+namespace {
+
+ErreurDuService RienDeChoisi() {
+    return ErreurDuService(
+        Erreur::SelectionImpossible,
+        compagnon::Dis({"aucun texte n’est sélectionné", "no text is selected"}));
+}
+
+SelectionDite Dite(ZoneLue const& lue) {
+    return {lue.zone->DonneCle(), lue.plan.DonneTexte(), *lue.selection};
+}
+
+} // namespace
 
 Service::Service(uno::Reference<uno::XComponentContext> const& contexte, std::string instance)
     : instance_(std::move(instance))
@@ -21,11 +41,11 @@ Service::Service(uno::Reference<uno::XComponentContext> const& contexte, std::st
     , dialogue_(contexte) {}
 
 std::string Service::DonneIdentifiant(DocumentOuvert const& document) const {
-    return instance_ + "~" + document.DonneCle();
+    return instance_ + contrat::kSeparateur + document.DonneCle();
 }
 
 std::string Service::DonneDocuments() {
-    EcritureDocuments ecriture;
+    compagnon::EcritureDocuments ecriture;
     for (std::shared_ptr<DocumentOuvert> const& document : documents_.Tous()) {
         ecriture.Ajoute(DonneIdentifiant(*document), document->DonneTitre(),
                         document->DonneChemin());
@@ -34,32 +54,30 @@ std::string Service::DonneDocuments() {
 }
 
 std::shared_ptr<DocumentOuvert> Service::DocumentDe(std::string const& appelant) {
-    auto const session = sessions_.find(appelant);
     std::shared_ptr<DocumentOuvert> document =
-        session == sessions_.end() ? nullptr : documents_.TrouveParCle(session->second.document);
+        documents_.TrouveParCle(appelants_.DonneDocument(appelant));
     if (!document) {
-        throw DocumentInconnu();
+        throw ErreurDuService(Erreur::DocumentFerme);
     }
     return document;
 }
 
-std::pair<std::shared_ptr<DocumentOuvert>, std::shared_ptr<ZoneOuverte>>
-Service::ZoneDe(Session& session, std::string const& cle) {
+Service::ZoneNommee Service::ZoneDe(std::string const& appelant, std::string const& cle) {
     std::shared_ptr<DocumentOuvert> document = documents_.TrouveParZone(cle);
     std::shared_ptr<ZoneOuverte> zone = document ? document->DonneZone(cle) : nullptr;
     if (!zone) {
-        throw ZoneInconnue();
+        throw ErreurDuService(Erreur::ZoneInconnue, cle);
     }
-    session.document = document->DonneCle();
-    return {std::move(document), std::move(zone)};
+    compagnon::TexteSuivi& croyance = appelants_.NommeZone(appelant, document->DonneCle(), cle);
+    return {std::move(document), std::move(zone), croyance};
 }
 
 void Service::InitialiseTexteur(std::string const& appelant, std::string const& cle) {
     documents_.Tous(); // one that was opened since may be meant
     if (!documents_.TrouveParCle(cle)) {
-        throw DocumentInconnu();
+        throw ErreurDuService(Erreur::DocumentInconnu, cle);
     }
-    sessions_[appelant].document = cle;
+    appelants_.Nomme(appelant, cle);
 }
 
 void Service::Active(std::string const& appelant) {
@@ -68,14 +86,7 @@ void Service::Active(std::string const& appelant) {
 
 void Service::InitialisePour(std::string const& appelant) {
     DocumentDe(appelant);
-    sessions_[appelant].contexte.reset();
-}
-
-void Service::RompsLienCorrecteur(std::string const& appelant) {
-    auto const session = sessions_.find(appelant);
-    if (session != sessions_.end()) {
-        session->second.croyances.clear();
-    }
+    appelants_.MetsSelection(appelant, std::nullopt);
 }
 
 std::u16string Service::DonneTitreDocument(std::string const& appelant) {
@@ -96,71 +107,82 @@ bool Service::PermetsRetourDeCharriot(std::string const& appelant) {
 }
 
 std::string Service::SynchronisePositions(std::string const& appelant, std::string const& leId) {
-    std::string const prefixe = instance_ + "~";
+    std::string const prefixe = instance_ + contrat::kSeparateur;
     std::shared_ptr<DocumentOuvert> const document =
         leId.compare(0, prefixe.size(), prefixe) == 0
             ? documents_.TrouveParCle(leId.substr(prefixe.size()))
             : nullptr;
     if (!document) {
-        throw DocumentInconnu();
+        throw ErreurDuService(Erreur::DocumentInconnu, leId);
     }
-    Session& session = sessions_[appelant];
-    session.document = document->DonneCle();
+    // Those of documents that were closed meanwhile would stay for as long as the caller does.
+    appelants_.GardeDocuments(
+        [&](std::string const& cle) { return DonneVivantes()->Contient(cle); });
+    compagnon::DocumentDonne const* const avant =
+        appelants_.DonneDonne(appelant, document->DonneCle());
+    compagnon::DocumentDonne donne;
     compagnon::EcrivainZones ecrivain;
-    ecrivain.Prevois(session.tailleZones + session.tailleZones / 16);
-    // Most often the same zones again with the same texts: those are taken over as they are.
-    auto anciennes = std::exchange(session.croyances, {});
-    decltype(anciennes) croyances;
-    croyances.reserve(anciennes.size());
+    if (avant) {
+        ecrivain.Prevois(avant->taille + avant->taille / 16);
+        donne.zones.reserve(avant->zones.size());
+    }
     document->Parcours([&](ZoneLue const& lue) {
+        std::string const& cle = lue.zone->DonneCle();
         std::u16string const& texte = lue.plan.DonneTexte();
-        ecrivain.Ajoute(lue.zone->DonneCle(), texte, lue.selection.value_or(Intervalle()),
-                        lue.plan.DonneStyles());
-        auto connue = anciennes.extract(lue.zone->DonneCle());
-        if (!connue.empty() && connue.mapped().Confirme(texte)) {
-            croyances.insert(std::move(connue));
-        } else {
-            croyances[lue.zone->DonneCle()].Donne(std::make_shared<std::u16string const>(texte));
+        ecrivain.Ajoute(cle, texte, lue.selection.value_or(Intervalle()), lue.plan.DonneStyles());
+        compagnon::TexteSuivi& croyance = donne.zones[cle];
+        // Most often the same zones again with the same texts: those are taken over as they are.
+        if (avant) {
+            auto const connue = avant->zones.find(cle);
+            if (connue != avant->zones.end()) {
+                croyance = connue->second;
+            }
+        }
+        if (!croyance.Confirme(texte)) {
+            croyance.Donne(std::make_shared<std::u16string const>(texte));
         }
     });
     std::optional<std::string> zones = ecrivain.Termine();
     if (!zones) {
-        throw ErreurDuService("TropGrand",
-                              "the document's text does not fit in one message of the bus");
+        throw ErreurDuService(Erreur::TropGrand);
     }
-    session.croyances = std::move(croyances);
-    session.tailleZones = zones->size();
+    donne.taille = zones->size();
+    appelants_.Donne(appelant, document->DonneCle(), std::move(donne));
     return std::move(*zones);
 }
 
 bool Service::PeutCorriger(std::string const& appelant, std::string const& cle, Intervalle plage,
                            std::u16string const& attendu) {
-    Session& session = sessions_[appelant];
-    auto const [document, zone] = ZoneDe(session, cle);
-    return extension::PeutCorriger(*document, dialogue_, *zone, session.croyances[cle], plage,
-                                   attendu);
+    try {
+        auto const [document, zone, croyance] = ZoneDe(appelant, cle);
+        return extension::PeutCorriger(*document, dialogue_, *zone, croyance, plage, attendu);
+    } catch (ErreurDuService const&) {
+        return false; // as the correction would be refused
+    } catch (lang::DisposedException const&) {
+        return false;
+    }
 }
 
 void Service::CorrigeDansTexteur(std::string const& appelant, std::string const& cle,
                                  Intervalle plage, std::u16string const& texte) {
-    Session& session = sessions_[appelant];
-    auto const [document, zone] = ZoneDe(session, cle);
-    Corrige(*document, dialogue_, *zone, session.croyances[cle], plage, texte);
+    auto const [document, zone, croyance] = ZoneDe(appelant, cle);
+    Corrige(*document, dialogue_, *zone, croyance, plage, texte);
 }
 
 void Service::SelectionneIntervalle(std::string const& appelant, std::string const& cle,
                                     Intervalle plage) {
-    Session& session = sessions_[appelant];
-    auto const [document, zone] = ZoneDe(session, cle);
+    auto const [document, zone, croyance] = ZoneDe(appelant, cle);
     PlanDePortions const plan = zone->Lis();
-    auto const trouve = session.croyances[cle].Localise(plage, plan.DonneTexte());
+    auto const trouve = croyance.Localise(plage, plan.DonneTexte());
     if (!trouve) {
-        throw Refuse("the document has changed there");
+        throw compagnon::RefusDe(trouve.refus, cle);
     }
     // Told even when it fails: what the office has selected instead is not what the tools replace.
-    session.contexte = Session::Contexte{zone->DonneCle(), plan.DonneTexte(), trouve.plage};
+    appelants_.MetsSelection(appelant, SelectionDite{cle, plan.DonneTexte(), trouve.plage});
     if (!document->Selectionne(*zone, plan, trouve.plage)) {
-        throw Refuse("the office cannot select that text from outside");
+        throw ErreurDuService(Erreur::SelectionImpossible,
+                              compagnon::Dis({"la suite ne sait pas y sélectionner de l’extérieur",
+                                              "the office cannot select there from outside"}));
     }
 }
 
@@ -170,15 +192,10 @@ std::u16string Service::DonneContenuSelection(std::string const& appelant) {
 }
 
 std::pair<std::u16string, Intervalle> Service::DonneContexte(std::string const& appelant) {
-    auto lue = DocumentDe(appelant)->DonneSelection();
-    Session& session = sessions_[appelant];
-    if (!lue) {
-        session.contexte.reset();
-        return {};
-    }
-    session.contexte =
-        Session::Contexte{lue->zone->DonneCle(), lue->plan.DonneTexte(), *lue->selection};
-    return {lue->plan.DonneTexte(), *lue->selection};
+    auto const lue = DocumentDe(appelant)->DonneSelection();
+    appelants_.MetsSelection(appelant, lue ? std::make_optional(Dite(*lue)) : std::nullopt);
+    return lue ? std::make_pair(lue->plan.DonneTexte(), *lue->selection)
+               : std::make_pair(std::u16string(), Intervalle());
 }
 
 void Service::AjusteSelectionPourOutils(std::string const& appelant, std::int32_t deltaDebut,
@@ -186,44 +203,32 @@ void Service::AjusteSelectionPourOutils(std::string const& appelant, std::int32_
     std::shared_ptr<DocumentOuvert> const document = DocumentDe(appelant);
     auto lue = document->DonneSelection();
     if (!lue) {
-        throw Refuse("no text is selected");
+        throw RienDeChoisi();
     }
-    auto const taille = static_cast<std::int64_t>(lue->plan.DonneTexte().size());
-    auto const borne = [&](std::int64_t position, std::int64_t minimum) {
-        return static_cast<std::int32_t>(std::clamp(position, minimum, taille));
-    };
-    Intervalle selection;
-    selection.debut = borne(std::int64_t{lue->selection->debut} + deltaDebut, 0);
-    selection.fin = borne(std::int64_t{lue->selection->fin} + deltaFin, selection.debut);
-    document->Selectionne(*lue->zone, lue->plan, selection);
-    sessions_[appelant].contexte =
-        Session::Contexte{lue->zone->DonneCle(), lue->plan.DonneTexte(), selection};
+    lue->selection =
+        compagnon::DecaleBornes(*lue->selection, deltaDebut, deltaFin, lue->plan.DonneTexte());
+    document->Selectionne(*lue->zone, lue->plan, *lue->selection);
+    appelants_.MetsSelection(appelant, Dite(*lue));
 }
 
 void Service::RemplaceEtReselectionne(std::string const& appelant, std::u16string const& mot) {
     std::shared_ptr<DocumentOuvert> const document = DocumentDe(appelant);
     if (auto const raison = RaisonDeRefuser(*document, dialogue_)) {
-        throw Refuse(*raison);
+        throw ErreurDuService(*raison);
     }
     auto lue = document->DonneSelection();
     if (!lue) {
-        throw Refuse("no text is selected");
-    }
-    if (lue->zone->EstProtegee()) {
-        throw Refuse("the text is protected");
+        throw RienDeChoisi();
     }
     if (lue->deborde) {
-        throw Refuse("the selection spans several paragraphs");
+        throw ErreurDuService(Erreur::SelectionImpossible,
+                              compagnon::Dis({"elle s’étend sur plusieurs paragraphes",
+                                              "it spans several paragraphs"}));
     }
-    std::optional<Session::Contexte>& contexte = sessions_[appelant].contexte;
-    if (contexte &&
-        (contexte->zone != lue->zone->DonneCle() || contexte->selection != *lue->selection ||
-         contexte->texte != lue->plan.DonneTexte())) {
-        throw Refuse("the selection is another one than the caller was told");
+    if (auto const raison = RaisonDeRefuser(*document, dialogue_, *lue->zone)) {
+        throw ErreurDuService(*raison);
     }
-    if (lue->zone->EstEnFrappe()) {
-        throw Refuse("the person is typing in it");
-    }
+    appelants_.VerifieSelection(appelant, Dite(*lue));
     Remplace(*document, *lue->zone, lue->plan, *lue->selection, mot);
     PlanDePortions const plan = lue->zone->Lis();
     auto const taille = static_cast<std::int32_t>(plan.DonneTexte().size());
@@ -231,7 +236,8 @@ void Service::RemplaceEtReselectionne(std::string const& appelant, std::u16strin
         std::min(lue->selection->debut, taille),
         std::min(lue->selection->debut + static_cast<std::int32_t>(mot.size()), taille)};
     document->Selectionne(*lue->zone, plan, resultat);
-    contexte = Session::Contexte{lue->zone->DonneCle(), plan.DonneTexte(), resultat};
+    appelants_.MetsSelection(appelant,
+                             SelectionDite{lue->zone->DonneCle(), plan.DonneTexte(), resultat});
 }
 
 } // namespace extension

@@ -3,7 +3,7 @@
 
 #include "DialogueModal.h"
 #include "DocumentsOuverts.h"
-#include "Session.h"
+#include "partage/Appelants.h"
 
 #include <cstdint>
 #include <memory>
@@ -12,7 +12,7 @@
 namespace extension {
 
 /// The methods of both interfaces (protocol/), as one caller sees them. Main thread only. Every
-/// operation may throw `ErreurDuService` or a UNO exception; nothing was changed then.
+/// operation may throw `compagnon::ErreurDuService` or a UNO exception; nothing was changed then.
 class Service {
   public:
     /// `instance`: the first part of the identifiers handed out.
@@ -26,15 +26,16 @@ class Service {
     /// Whole identifier of a document.
     std::string DonneIdentifiant(DocumentOuvert const& document) const;
     /// That caller has left the bus.
-    void Oublie(std::string const& appelant) { sessions_.erase(appelant); }
-    void OublieTous() { sessions_.clear(); }
+    void Oublie(std::string const& appelant) { appelants_.Oublie(appelant); }
+    void OublieTous() { appelants_.OublieTous(); }
 
     std::string DonneDocuments();
 
     void InitialiseTexteur(std::string const& appelant, std::string const& cle);
     void Active(std::string const& appelant);
     void InitialisePour(std::string const& appelant);
-    void RompsLienCorrecteur(std::string const& appelant);
+    void RompsLienCorrecteur(std::string const& appelant) { appelants_.LacheZones(appelant); }
+    void RompsLienTexteur(std::string const& appelant) { appelants_.LacheDocument(appelant); }
 
     std::u16string DonneTitreDocument(std::string const& appelant);
     std::u16string DonneCheminDocument(std::string const& appelant);
@@ -50,7 +51,7 @@ class Service {
                                compagnon::Intervalle plage);
 
     std::u16string DonneContenuSelection(std::string const& appelant);
-    /// The text of the selection's zone, and the selection in it.
+    /// The text of the selection's zone, and the selection in it; empty without one.
     std::pair<std::u16string, compagnon::Intervalle> DonneContexte(std::string const& appelant);
     void AjusteSelectionPourOutils(std::string const& appelant, std::int32_t deltaDebut,
                                    std::int32_t deltaFin);
@@ -58,13 +59,18 @@ class Service {
 
   private:
     std::shared_ptr<DocumentOuvert> DocumentDe(std::string const& appelant);
-    std::pair<std::shared_ptr<DocumentOuvert>, std::shared_ptr<ZoneOuverte>>
-    ZoneDe(Session& session, std::string const& cle);
+    struct ZoneNommee {
+        std::shared_ptr<DocumentOuvert> document;
+        std::shared_ptr<ZoneOuverte> zone;
+        compagnon::TexteSuivi& croyance;
+    };
+    /// The zone of that key, which the caller was given and names thereby.
+    ZoneNommee ZoneDe(std::string const& appelant, std::string const& cle);
 
     std::string instance_;
     DocumentsOuverts documents_;
     DialogueModal dialogue_;
-    Sessions sessions_;
+    compagnon::Appelants appelants_;
 };
 
 } // namespace extension

@@ -2,11 +2,11 @@
 #include "ParagrapheWriter.h"
 
 #include "commun/ChainesUno.h"
-#include "commun/ErreurDuService.h"
 #include "dessin/EditionEnCours.h"
 #include "document/SelectionDuBureau.h"
 #include "lecture/Curseur.h"
 #include "lecture/PlaceParmi.h"
+#include "partage/ErreurDuService.h"
 
 #include <com/sun/star/container/XEnumerationAccess.hpp>
 #include <com/sun/star/lang/IllegalArgumentException.hpp>
@@ -55,7 +55,7 @@ PlanDePortions ParagrapheWriter::Lis() {
         uno::Reference<text::XTextRange> const debut = etendue->getStart();
         ordre->compareRegionStarts(debut, debut);
     } catch (lang::IllegalArgumentException const&) {
-        throw ZoneInconnue();
+        throw compagnon::ErreurDuService(contrat::Erreur::ZoneInconnue);
     }
     return LisPortions().plan;
 }

@@ -64,14 +64,14 @@ class Cas(unittest.TestCase):
     def corrige(self, cherche, remplace):
         self.client.corrige(self.zone(cherche), cherche, remplace)
 
-    def refuse(self, cherche, remplace):
+    def refuse(self, cherche, remplace, raison="Protege"):
         """The edit is refused, and nothing has changed."""
         avant = self.client.textes()
         zone = self.zone(cherche)
         self.assertFalse(self.client.peut(zone, cherche))
         with self.assertRaises(banc.Appel) as erreur:
             self.client.corrige(zone, cherche, remplace)
-        self.assertEqual(erreur.exception.nom, "Refuse")
+        self.assertEqual(erreur.exception.nom, raison)
         self.assertEqual(self.client.textes(), avant)
 
     def forme(self, texte, feuille=None):
@@ -366,7 +366,7 @@ class Correction(Cas):
         champ = self.doc.createInstance("com.sun.star.text.TextField.URL")
         champ.URL, champ.Representation = "https://example.org/", "un lien"
         cellule.insertTextContent(plage(cellule, 5, 5), champ, False)
-        self.refuse("\a", "mot")
+        self.refuse("\a", "mot", "ChampDetruit")
         self.corrige("icy", "ici")
         self.assertEqual(cellule.String, "voir un lien ici")
 
@@ -426,12 +426,13 @@ class Refus(Cas):
         url = (banc.DOSSIER / "lecture_seule.ods").as_uri()
         self.doc.storeToURL(url, ())
         self.ouvre(url, banc.pv("ReadOnly", True))
-        self.refuse("mot", "x")
+        self.refuse("mot", "x", "LectureSeule")
 
     def test_a_line_break_inside_a_paragraph(self):
         cellule = self.cellule("A1", "un mot")
-        with self.assertRaises(banc.Appel):
+        with self.assertRaises(banc.Appel) as erreur:
             self.client.corrige(self.zone("mot"), "mot", "mot\nsuite")
+        self.assertEqual(erreur.exception.nom, "FinDeLigne")
         self.assertEqual(cellule.String, "un mot")
         self.assertFalse(self.client.PermetsRetourDeCharriot())
 
@@ -439,7 +440,7 @@ class Refus(Cas):
         self.remplis(A1="un mot", A2="un autre")
         self.doc.CurrentController.select(self.cellule("A1"))
         BUREAU.commande(self.doc, ".uno:SetInputMode")
-        self.refuse("mot", "x")
+        self.refuse("mot", "x", "Frappe")
         self.corrige("autre", "autres")
         self.doc.CurrentController.select(self.cellule("A2"))
         self.corrige("mot", "maux")
@@ -563,7 +564,7 @@ class Selection(Cas):
         self.assertEqual(self.client.DonneContexteSelection(), "deux")
         with self.assertRaises(banc.Appel) as refus:
             self.client.RemplaceEtReselectionne("x")
-        self.assertEqual(refus.exception.nom, "Refuse")
+        self.assertEqual(refus.exception.nom, "SelectionImpossible")
 
     def test_selecting_a_range_selects_its_cell_and_brings_it_into_view(self):
         self.doc.Sheets.insertNewByName("deux", 1)
@@ -618,8 +619,9 @@ class Selection(Cas):
     def test_a_comment_is_shown_by_its_cell_and_the_cell_is_not_replaced_for_it(self):
         cellule = self.cellule("C9", "dans la cellule")
         self.commente("C9", "une remarque")
-        with self.assertRaises(banc.Appel):
+        with self.assertRaises(banc.Appel) as erreur:
             self.client.SelectionneIntervalle(self.zone("remarque").nom, 0, 3)
+        self.assertEqual(erreur.exception.nom, "SelectionImpossible")
         self.assertEqual(self.doc.CurrentSelection.AbsoluteName, "$Sheet1.$C$9")
         with self.assertRaises(banc.Appel):
             self.client.RemplaceEtReselectionne("x")

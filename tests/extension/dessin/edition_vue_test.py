@@ -48,7 +48,7 @@ class Selection(ecran.Fenetres, unittest.TestCase):
         self.assertEqual(self.client.DonneContexteSelection(), "noir")
         with self.assertRaises(banc.Appel) as refus:
             self.client.RemplaceEtReselectionne("ouva")
-        self.assertEqual(refus.exception.nom, "Refuse")
+        self.assertEqual(refus.exception.nom, "Frappe")
         self.assertEqual(forme.String, "un \U0001f600 chat\nnoir")
 
     def test_offsets_behind_an_emoji_are_exact(self):
@@ -62,7 +62,7 @@ class Selection(ecran.Fenetres, unittest.TestCase):
         self.assertEqual([z.selection for z in self.client.zones()], [(3, 7), (0, 3)])
         with self.assertRaises(banc.Appel) as refus:
             self.client.RemplaceEtReselectionne("x")
-        self.assertEqual(refus.exception.nom, "Refuse")
+        self.assertEqual(refus.exception.nom, "SelectionImpossible")
 
     def test_a_correction_of_what_the_person_is_typing_is_refused_until_the_end(self):
         forme = self.ouvre("simpress", "un chat noir")
@@ -73,7 +73,7 @@ class Selection(ecran.Fenetres, unittest.TestCase):
                 banc.attends(lambda z=zone: not self.client.peut(z, "chat"), "the typing", 20)
                 with self.assertRaises(banc.Appel) as refus:
                     self.client.corrige(zone, "chat", "chien")
-                self.assertEqual(refus.exception.nom, "Refuse")
+                self.assertEqual(refus.exception.nom, "Frappe")
                 self.ecran.touche(None, "Escape", "Escape")
                 banc.attends(lambda: self.client.peut(self.client.zones()[0], "chat"), "its end", 20)
         self.client.corrige(self.client.zones()[0], "chat", "chien")

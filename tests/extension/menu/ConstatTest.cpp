@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "menu/Constat.h"
-#include "commun/MessagesExtension.h"
+
+#include "partage/Messages.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -20,8 +21,8 @@ namespace {
 /// Both languages; the language goes back to English.
 class Diagnostic : public testing::TestWithParam<bool> {
   protected:
-    void SetUp() override { extension::MetsLangue(GetParam()); }
-    void TearDown() override { extension::MetsLangue(false); }
+    void SetUp() override { compagnon::MetsFrancais(GetParam()); }
+    void TearDown() override { compagnon::MetsFrancais(false); }
 
     static Constat ToutVaBien() {
         return {"com.x.lo1", {EtatDuBus::Genre::Sert, {}},       2,

@@ -118,7 +118,7 @@ class Interface(Cas):
             if methode.startswith("Donne"):
                 with self.subTest(methode=methode), self.assertRaises(banc.Appel) as erreur:
                     self.client.appelle(methode)
-                self.assertEqual(erreur.exception.nom, "DocumentInconnu")
+                self.assertEqual(erreur.exception.nom, "AucunDocument")
 
     def test_unknown_identifiers_are_errors(self):
         for inconnu in ("", "d999_0", "é", "../etc", "x" * 100000):
@@ -175,6 +175,55 @@ class Interface(Cas):
             premier.corrige(zone, "chat", "chats")
         self.assertEqual(self.doc.Text.String, "un chiens noir")
 
+    def refuse(self, nom, appel):
+        with self.assertRaises(banc.Appel) as erreur:
+            appel()
+        self.assertEqual(erreur.exception.nom, nom)
+
+    def test_having_let_go_of_the_corrector_it_synchronises_before_it_corrects(self):
+        self.client.prends(self.doc)
+        zone = self.client.zones()[0]
+        self.client.RompsLienCorrecteur()
+        self.assertFalse(self.client.peut(zone, "chat"))
+        self.refuse("ZoneInconnue", lambda: self.client.corrige(zone, "chat", "chats"))
+        self.assertEqual(self.client.DonneTitreDocument(), self.doc.getTitle())
+        self.client.corrige(self.client.zones()[0], "chat", "chats")
+        self.assertEqual(self.doc.Text.String, "un chats noir")
+
+    def test_having_let_go_of_one_document_it_still_has_the_other(self):
+        autre = self.ouvre("autre")
+        self.addCleanup(lambda: autre.close(True))
+        client = banc.Client(self.bus)
+        client.prends(self.doc)
+        zone = client.zones()[0]
+        client.prends(autre)
+        seconde = client.zones()[0]
+        client.RompsLienTexteur()
+        self.refuse("AucunDocument", client.DonneTitreDocument)
+        self.assertFalse(client.peut(seconde, "autre"))
+        self.assertTrue(client.peut(zone, "chat"))  # names its document
+        self.assertEqual(client.DonneTitreDocument(), self.doc.getTitle())
+
+    def test_a_range_that_the_caller_selected_may_be_replaced(self):
+        self.client.prends(self.doc)
+        zone = self.client.zones()[0]
+        self.client.DonneContexteSelection()
+        self.client.SelectionneIntervalle(zone.nom, 3, 7)
+        self.client.RemplaceEtReselectionne("chien")
+        self.assertEqual(self.doc.Text.String, "un chien noir")
+        self.client.SelectionneIntervalle(self.client.zones()[0].nom, 9, 13)
+        self.refuse("FinDeLigne", lambda: self.client.RemplaceEtReselectionne("a\rb"))
+        self.assertEqual(self.doc.Text.String, "un chien noir")
+
+    def test_a_context_that_begins_with_a_byte_order_mark_keeps_its_offsets(self):
+        self.doc.Text.setString("\ufeffun chat")
+        self.client.prends(self.doc)
+        zone = self.client.zones()[0]
+        self.assertEqual(zone.texte, "\ufeffun chat")
+        self.client.SelectionneIntervalle(zone.nom, 4, 8)
+        self.assertEqual(self.client.DonneContexteSelection(), "\aun chat")
+        self.assertEqual(self.client.DonneDebutSelectionDansSonContexte(), 4)
+
     def test_a_hidden_document_is_not_served(self):
         cache = self.bureau.ouvre("private:factory/swriter", banc.pv("Hidden", True))
         self.addCleanup(lambda: cache.close(True))
@@ -189,10 +238,11 @@ class Interface(Cas):
         self.assertFalse(client.DocEstMort(cle))
         doc.close(True)
         self.assertTrue(client.DocEstMort(cle))
-        for appel in (lambda: client.corrige(zone, "court", "x"), client.zones,
-                      client.DonneTitreDocument):
-            with self.assertRaises(banc.Appel):
-                appel()
+        self.assertFalse(client.peut(zone, "court"))
+        for appel, nom in ((lambda: client.corrige(zone, "court", "x"), "ZoneInconnue"),
+                           (client.zones, "DocumentInconnu"),
+                           (client.DonneTitreDocument, "DocumentFerme")):
+            self.refuse(nom, appel)
 
     def test_saving_and_loading_keeps_everything_but_the_corrected_letters(self):
         e = Ecrivain(self.doc)

@@ -44,14 +44,14 @@ class Cas(unittest.TestCase):
     def corrige(self, cherche, remplace):
         self.client.corrige(self.zone(cherche), cherche, remplace)
 
-    def refuse(self, zone, cherche, remplace):
+    def refuse(self, zone, cherche, remplace, raison="Protege"):
         """The edit is refused, and nothing has changed."""
         avant = self.client.textes()
         zone = next(z for z in self.client.zones() if z.nom == zone.nom)
         self.assertFalse(self.client.peut(zone, cherche))
         with self.assertRaises(banc.Appel) as erreur:
             self.client.corrige(zone, cherche, remplace)
-        self.assertEqual(erreur.exception.nom, "Refuse")
+        self.assertEqual(erreur.exception.nom, raison)
         self.assertEqual(self.client.textes(), avant)
 
     def gras(self, texte=None):
@@ -200,12 +200,12 @@ class Survie(Cas):
                 self.e.ecrit("t noir")
                 zone = next(z for z in self.client.zones() if z.texte.startswith("un cha"))
                 mot = "cha\at" if "\a" in zone.texte else "chat"
-                self.refuse(zone, mot, "lion")
+                self.refuse(zone, mot, "lion", "ChampDetruit")
 
     def test_a_range_across_hidden_letters_is_refused(self):
         self.texte.setString("un cha\u2026\u2026t noir")
         self.e.plage(6, 8).CharHidden = True
-        self.refuse(self.zone(), "chat", "lion")
+        self.refuse(self.zone(), "chat", "lion", "ChampDetruit")
 
     def test_a_comment_with_formats_is_left_alone(self):
         # Only a file brings formats into a comment: the office takes none through UNO.
@@ -501,7 +501,7 @@ class Suivi(Cas):
 
     def test_a_range_across_a_deletion_is_refused(self):
         self.corrige("chat", "chien")
-        self.refuse(self.zone(), "un chien noir", "une")
+        self.refuse(self.zone(), "un chien noir", "une", "ChampDetruit")
 
     def test_accepting_or_rejecting_all_gives_the_corrected_or_the_former_text(self):
         zone = self.zone()

@@ -292,7 +292,7 @@ class Selections(Cas):
         self.assertEqual(self.client.DonneContexteSelection(), "cellule B1")
         with self.assertRaises(banc.Appel) as refus:
             self.client.RemplaceEtReselectionne("x")
-        self.assertEqual(refus.exception.nom, "Refuse")
+        self.assertEqual(refus.exception.nom, "SelectionImpossible")
 
     def test_a_selected_shape_is_selected_whole(self):
         self.e.ecrit("corps")
@@ -342,8 +342,9 @@ class Selections(Cas):
         remarque.Content = "une remarque"
         self.texte.insertTextContent(self.e.plage(3, 8), remarque, True)
         zone = next(z for z in self.client.zones() if "remarque" in z.texte)
-        with self.assertRaises(banc.Appel):
+        with self.assertRaises(banc.Appel) as erreur:
             self.client.SelectionneIntervalle(zone.nom, 4, 12)
+        self.assertEqual(erreur.exception.nom, "SelectionImpossible")
         with self.assertRaises(banc.Appel):
             self.client.RemplaceEtReselectionne("note")
         self.assertEqual(self.texte.String, "du corps ici")
@@ -361,11 +362,14 @@ class Selections(Cas):
         self.assertEqual(self.texte.String, "un très, très beau chat")
         self.assertEqual(c.DonneContenuSelection(), "très, très")
 
-    def test_a_shift_stops_at_the_paragraphs_ends(self):
+    def test_a_shift_out_of_the_paragraph_changes_nothing(self):
         self.texte.setString("un\rdeux\rtrois")
         self.choisis(5, 6)
-        self.client.AjusteSelectionPourOutils(-100, 2**31 - 1)
-        self.assertEqual(self.client.DonneContenuSelection(), "deux")
+        for deltas in ((-100, 2**31 - 1), (0, 100), (2, 0), (-3, 0)):
+            with self.subTest(deltas=deltas), self.assertRaises(banc.Appel) as refus:
+                self.client.AjusteSelectionPourOutils(*deltas)
+            self.assertEqual(refus.exception.nom, "SelectionImpossible")
+        self.assertEqual(self.client.DonneContenuSelection(), "u")
 
     def test_a_selection_that_moved_since_is_not_replaced(self):
         self.texte.setString("un deux trois")
@@ -374,7 +378,7 @@ class Selections(Cas):
         self.choisis(8, 13)
         with self.assertRaises(banc.Appel) as refus:
             self.client.RemplaceEtReselectionne("x")
-        self.assertEqual(refus.exception.nom, "Refuse")
+        self.assertEqual(refus.exception.nom, "PlageRefusee")
         self.assertEqual(self.texte.String, "un deux trois")
 
 

@@ -5,7 +5,7 @@
 
 #include <utility>
 
-namespace extension {
+namespace compagnon {
 
 namespace {
 
@@ -35,9 +35,9 @@ void EcritureDocuments::Ajoute(std::string_view identifiant, std::u16string_view
     json_ += json_.size() > 1 ? ",{\"id\":" : "{\"id\":";
     AjouteChaine(json_, identifiant);
     json_ += ",\"titre\":";
-    AjouteChaine(json_, compagnon::Utf16VersUtf8(titre));
+    AjouteChaine(json_, Utf16VersUtf8(titre));
     json_ += ",\"chemin\":";
-    AjouteChaine(json_, compagnon::Utf16VersUtf8(chemin));
+    AjouteChaine(json_, Utf16VersUtf8(chemin));
     json_ += '}';
 }
 
@@ -46,4 +46,4 @@ std::string EcritureDocuments::Termine() {
     return std::move(json_);
 }
 
-} // namespace extension
+} // namespace compagnon

@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "MessagesExtension.h"
+#include "NomDeCorrection.h"
 
 #include "modele/Frontieres.h"
+#include "partage/Messages.h"
 
 #include <algorithm>
-#include <atomic>
 
 namespace extension {
 
 namespace {
-
-std::atomic<bool> francais{false};
 
 /// Long texts would make the undo list unreadable.
 std::u16string Abrege(std::u16string texte) {
@@ -28,20 +26,8 @@ std::u16string Abrege(std::u16string texte) {
 
 } // namespace
 
-bool EstEnFrancais() {
-    return francais;
-}
-
-void MetsLangue(bool vrai) {
-    francais = vrai;
-}
-
-std::string Dis(char const* enFrancais, char const* enAnglais) {
-    return EstEnFrancais() ? enFrancais : enAnglais;
-}
-
 std::u16string NomDeCorrection(std::u16string const& avant, std::u16string const& apres) {
-    if (EstEnFrancais()) {
+    if (compagnon::ParleFrancais()) {
         return u"Correction : \u00ab\u00a0" + Abrege(avant) + u"\u00a0\u00bb en \u00ab\u00a0" +
                Abrege(apres) + u"\u00a0\u00bb";
     }

@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-namespace extension {
+namespace compagnon {
 
-/// Writes the reply of "DonneDocuments": a JSON array in UTF-8.
+/// Writes the reply of "DonneDocuments": a JSON array in UTF-8. `identifiant` in UTF-8.
 class EcritureDocuments {
   public:
     void Ajoute(std::string_view identifiant, std::u16string_view titre,
@@ -18,4 +18,4 @@ class EcritureDocuments {
     std::string json_ = "[";
 };
 
-} // namespace extension
+} // namespace compagnon
