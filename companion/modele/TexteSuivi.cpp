@@ -138,30 +138,4 @@ void TexteSuivi::NoteRefus(Intervalle plage) noexcept {
     borneSure_ = std::min(borneSure_, static_cast<std::size_t>(depart));
 }
 
-Localisation TexteSuivi::Corrige(Intervalle plage, std::u16string_view remplacement,
-                                 TextePartage& document) {
-    std::u16string_view const avant = document ? std::u16string_view(*document) : u"";
-    Localisation trouvee = Localise(plage, avant);
-    if (trouvee &&
-        avant.size() - trouvee.plage.DonneLongueur() + remplacement.size() > kPositionMax) {
-        trouvee = Refuse(Refus::HorsLimites);
-    }
-    if (!trouvee) {
-        NoteRefus(plage);
-        return trouvee;
-    }
-    bool const memeTexte = EstLeMemeTexte(DonneCroyance(), avant);
-    std::size_t const borne = borneSure_ - plage.DonneLongueur() + remplacement.size();
-    auto apres =
-        std::make_shared<std::u16string const>(Remplace(avant, trouvee.plage, remplacement));
-    if (memeTexte) {
-        croyance_ = apres; // shared, not copied
-        borneSure_ = borne;
-    } else {
-        NoteCorrection(plage, remplacement);
-    }
-    document = std::move(apres);
-    return trouvee;
-}
-
 } // namespace compagnon

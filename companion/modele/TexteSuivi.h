@@ -71,12 +71,6 @@ class TexteSuivi {
     /// ranges are refused until the text is given again.
     void NoteRefus(Intervalle plage) noexcept;
 
-    /// All in one for a document that is plain text: locates, replaces in `document`, follows. When
-    /// refused the document is untouched, and the refusal noted. Answers the range replaced, in
-    /// offsets of the document before.
-    Localisation Corrige(Intervalle plage, std::u16string_view remplacement,
-                         TextePartage& document);
-
   private:
     TextePartage croyance_;
     std::size_t borneSure_ = 0; // see NoteRefus; the belief's whole size when none was refused

@@ -3,10 +3,8 @@
 
 #include "ChainesQt.h"
 #include "coeur/MessagesTexte.h"
-
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
+#include "modele/Utf.h"
+#include "partage/EcritureDocuments.h"
 
 #include <type_traits>
 
@@ -14,27 +12,29 @@ namespace compagnon {
 
 namespace {
 
-QDBusMessage Reponse(QDBusMessage const& appel, Erreur const& erreur) {
-    return appel.createErrorReply(QString::fromLatin1(NomErreur(erreur.code)),
-                                  VersQString(DisErreur(erreur)));
+/// The reply to a call for which `travail` does the work, or the error that it met.
+template <class Travail>
+QDBusMessage ReponseA(QDBusMessage const& appel, Travail const& travail) {
+    try {
+        if constexpr (std::is_void_v<decltype(travail())>) {
+            travail();
+            return appel.createReply();
+        } else {
+            return appel.createReply(QVariant::fromValue(travail()));
+        }
+    } catch (ErreurDuService const& erreur) {
+        return appel.createErrorReply(QString::fromStdString(erreur.DonneNomDBus()),
+                                      QString::fromUtf8(erreur.what()));
+    } catch (std::exception const& erreur) {
+        ErreurDuService const interne(contrat::Erreur::Interne, erreur.what());
+        return appel.createErrorReply(QString::fromStdString(interne.DonneNomDBus()),
+                                      QString::fromUtf8(interne.what()));
+    }
 }
 
-template <class T>
-QDBusMessage Reponse(QDBusMessage const& appel, Resultat<T> const& resultat) {
-    if (!resultat) {
-        return Reponse(appel, resultat.DonneErreur());
-    }
-    if constexpr (std::is_same_v<T, Rien>) {
-        return appel.createReply();
-    } else {
-        return appel.createReply(QVariant::fromValue(*resultat));
-    }
-}
-
-std::u16string_view TexteSelection(DocumentTexte const& document) {
-    Selection const& selection = document.DonneSelection();
-    return std::u16string_view(*document.DonneTexte(selection.zone))
-        .substr(selection.plage.DonneDebut(), selection.plage.DonneLongueur());
+/// A text of the document's, or a name of the system's, as a reply by itself.
+QString Envoyable(std::u16string_view texte) {
+    return VersQString(RendsEnvoyable(texte));
 }
 
 } // namespace
@@ -44,95 +44,72 @@ ObjetBureau::ObjetBureau(Bureau& bureau, bool peutEnregistrer, QObject* parent)
     , bureau_(bureau)
     , peutEnregistrer_(peutEnregistrer) {}
 
-std::string ObjetBureau::DonneNomAppelant() const {
-    return VersUtf8(message().service());
-}
-
-template <class T>
-T ObjetBureau::Sers(std::function<Resultat<T>()> const& appel) {
-    QDBusMessage const recu = message();
-    auto const fais = [this, recu, appel] {
-        Resultat<T> resultat = appel();
-        if (bureau_.DonneAppelants().Connait(VersUtf8(recu.service()))) {
-            Q_EMIT AppelantVu(recu.service());
-        }
-        return resultat;
-    };
-    if (portier_ &&
-        portier_->Prends(recu, connection(), [recu, fais] { return Reponse(recu, fais()); })) {
-        setDelayedReply(true);
-        return T{};
+void ObjetBureau::Reponds(QDBusMessage const& appel, QDBusConnection const& connexion,
+                          std::function<QDBusMessage()> const& sers) {
+    QDBusMessage const reponse = sers();
+    if (appel.isReplyRequired()) {
+        connexion.send(reponse);
     }
-    Resultat<T> resultat = fais();
-    if (!resultat) {
-        setDelayedReply(true);
-        connection().send(Reponse(recu, resultat.DonneErreur()));
-        return T{};
-    }
-    return std::move(*resultat);
 }
 
-void ObjetBureau::Execute(std::function<Resultat<Rien>()> const& appel) {
-    Sers<Rien>(appel);
-}
-
-template <class T>
-T ObjetBureau::Demande(std::function<T(DocumentTexte const&)> const& question) {
-    return Sers<T>([this, question, qui = DonneNomAppelant()]() -> Resultat<T> {
-        Resultat<DocumentTexte*> const document = bureau_.Courant(qui);
-        if (!document) {
-            return document.DonneErreur();
+template <class Travail>
+auto ObjetBureau::Sers(Travail travail) -> decltype(travail(std::string())) {
+    setDelayedReply(true);
+    Reponds(message(), connection(), [this, appel = message(), travail] {
+        std::string const qui = VersUtf8(appel.service());
+        QDBusMessage reponse = ReponseA(appel, [&] { return travail(qui); });
+        if (bureau_.DonneAppelants().Connait(qui)) {
+            Q_EMIT AppelantVu(appel.service());
         }
-        return question(**document);
+        return reponse;
     });
+    return decltype(travail(std::string()))();
 }
 
 void ObjetBureau::ActivePourCorrecteur() {
-    Execute([this, qui = DonneNomAppelant()] { return bureau_.Active(qui); });
+    Sers([this](std::string const& qui) { bureau_.Active(qui); });
 }
 
 void ObjetBureau::ActivePourOutils() {
-    Execute([this, qui = DonneNomAppelant()] { return bureau_.Active(qui); });
+    Sers([this](std::string const& qui) { bureau_.Active(qui); });
 }
 
 void ObjetBureau::AjusteSelectionPourOutils(int deltaDebut, int deltaFin) {
-    Execute([this, qui = DonneNomAppelant(), deltaDebut, deltaFin] {
-        return bureau_.AjusteSelection(qui, deltaDebut, deltaFin);
-    });
+    Sers([=](std::string const& qui) { bureau_.AjusteSelection(qui, deltaDebut, deltaFin); });
 }
 
 void ObjetBureau::CorrigeDansTexteur(QString const& idZone, int leDebut, int laFin,
                                      QString const& laChaine, bool /*automatique*/) {
-    Execute([this, qui = DonneNomAppelant(), zone = VersUtf8(idZone),
-             plage = Intervalle{leDebut, laFin}, texte = VersUtf16(laChaine)] {
-        return bureau_.CorrigeDansTexteur(qui, zone, plage, texte);
+    Sers([=](std::string const& qui) {
+        bureau_.CorrigeDansTexteur(qui, VersUtf8(idZone), {leDebut, laFin}, VersUtf16(laChaine));
     });
 }
 
 bool ObjetBureau::DocEstMort(QString const& leId) {
-    return Sers<bool>(
-        [this, cle = VersUtf8(leId)]() -> Resultat<bool> { return bureau_.DocEstMort(cle); });
+    return Sers([=](std::string const& /*qui*/) { return bureau_.DocEstMort(VersUtf8(leId)); });
 }
 
 QString ObjetBureau::DonneCheminDocument() {
-    return Demande<QString>(
-        [](DocumentTexte const& document) { return VersQString(document.DonneChemin()); });
-}
-
-QString ObjetBureau::DonneContenuSelection() {
-    return Demande<QString>(
-        [](DocumentTexte const& document) { return VersQString(TexteSelection(document)); });
-}
-
-QString ObjetBureau::DonneContexteSelection() {
-    return Demande<QString>([](DocumentTexte const& document) {
-        return VersQString(*document.DonneTexte(document.DonneSelection().zone));
+    return Sers([this](std::string const& qui) {
+        return Envoyable(VersUtf16(VersQString(bureau_.Courant(qui).DonneChemin())));
     });
 }
 
+QString ObjetBureau::DonneContenuSelection() {
+    return Sers([this](std::string const& qui) {
+        SelectionDite const dite = bureau_.DisSelection(qui);
+        return Envoyable(std::u16string_view(dite.texte)
+                             .substr(dite.plage.DonneDebut(), dite.plage.DonneLongueur()));
+    });
+}
+
+QString ObjetBureau::DonneContexteSelection() {
+    return Sers(
+        [this](std::string const& qui) { return Envoyable(bureau_.DisSelection(qui).texte); });
+}
+
 int ObjetBureau::DonneDebutSelection() {
-    return Demande<int>(
-        [](DocumentTexte const& document) { return document.DonneSelection().plage.debut; });
+    return Sers([this](std::string const& qui) { return bureau_.DisSelection(qui).plage.debut; });
 }
 
 // The context is the whole paragraph, so positions in both are the same.
@@ -141,8 +118,7 @@ int ObjetBureau::DonneDebutSelectionDansSonContexte() {
 }
 
 int ObjetBureau::DonneFinSelection() {
-    return Demande<int>(
-        [](DocumentTexte const& document) { return document.DonneSelection().plage.fin; });
+    return Sers([this](std::string const& qui) { return bureau_.DisSelection(qui).plage.fin; });
 }
 
 int ObjetBureau::DonneFinSelectionDansSonContexte() {
@@ -150,117 +126,96 @@ int ObjetBureau::DonneFinSelectionDansSonContexte() {
 }
 
 QString ObjetBureau::DonneTitreDocument() {
-    return Demande<QString>(
-        [](DocumentTexte const& document) { return VersQString(document.DonneTitre()); });
+    return Sers([this](std::string const& qui) {
+        return Envoyable(VersUtf16(VersQString(bureau_.Courant(qui).DonneTitre())));
+    });
 }
 
-// Nothing has to be made ready here, but a caller that has named no document is told so.
 void ObjetBureau::InitialisePourCorrecteur() {
-    Demande<Rien>([](DocumentTexte const&) { return Rien{}; });
+    Sers([this](std::string const& qui) { bureau_.InitialisePour(qui); });
 }
 
 void ObjetBureau::InitialisePourOutils(bool /*estDico*/) {
-    Demande<Rien>([](DocumentTexte const&) { return Rien{}; });
+    Sers([this](std::string const& qui) { bureau_.InitialisePour(qui); });
 }
 
 void ObjetBureau::InitialiseTexteur(QString const& leId) {
-    Execute([this, qui = DonneNomAppelant(), cle = VersUtf8(leId)] {
-        return bureau_.InitialiseTexteur(qui, cle);
-    });
+    Sers([=](std::string const& qui) { bureau_.InitialiseTexteur(qui, VersUtf8(leId)); });
 }
 
 // A paragraph is one line of the file, and corrections stay inside theirs.
 bool ObjetBureau::PermetsRetourDeCharriot() {
-    return Demande<bool>([](DocumentTexte const&) { return false; });
+    return Sers([this](std::string const& qui) {
+        bureau_.Courant(qui);
+        return false;
+    });
 }
 
 bool ObjetBureau::PeutCorriger(QString const& idZone, int leDebut, int laFin,
                                QString const& laGraphieOriginale) {
-    return Sers<bool>([this, qui = DonneNomAppelant(), zone = VersUtf8(idZone),
-                       plage = Intervalle{leDebut, laFin},
-                       attendu = VersUtf16(laGraphieOriginale)] {
-        return bureau_.PeutCorriger(qui, zone, plage, attendu);
+    return Sers([=](std::string const& qui) {
+        return bureau_.PeutCorriger(qui, VersUtf8(idZone), {leDebut, laFin},
+                                    VersUtf16(laGraphieOriginale));
     });
 }
 
 void ObjetBureau::RemplaceEtReselectionne(QString const& leMot) {
-    Execute([this, qui = DonneNomAppelant(), mot = VersUtf16(leMot)] {
-        return bureau_.RemplaceEtReselectionne(qui, mot);
-    });
+    Sers([=](std::string const& qui) { bureau_.RemplaceEtReselectionne(qui, VersUtf16(leMot)); });
 }
 
-// The three below never fail: a host that lets go is not told that it had nothing to let go of.
 void ObjetBureau::RompsLienCorrecteur() {
-    Execute([]() -> Resultat<Rien> { return Rien{}; });
+    Sers([this](std::string const& qui) { bureau_.DonneAppelants().LacheZones(qui); });
 }
 
 void ObjetBureau::RompsLienTexteur() {
-    Execute([this, qui = DonneNomAppelant()]() -> Resultat<Rien> {
-        bureau_.RompsLien(qui);
-        return Rien{};
-    });
+    Sers([this](std::string const& qui) { bureau_.DonneAppelants().LacheDocument(qui); });
 }
 
 void ObjetBureau::SelectionneIntervalle(QString const& idZone, int leDebut, int laFin) {
-    Execute([this, qui = DonneNomAppelant(), zone = VersUtf8(idZone),
-             plage = Intervalle{leDebut, laFin}] {
-        return bureau_.SelectionneIntervalle(qui, zone, plage);
+    Sers([=](std::string const& qui) {
+        bureau_.SelectionneIntervalle(qui, VersUtf8(idZone), {leDebut, laFin});
     });
 }
 
+// A pause is the host's own affair: nothing is held for it here.
 void ObjetBureau::Suspends() {
-    Execute([]() -> Resultat<Rien> { return Rien{}; });
+    Sers([](std::string const& /*qui*/) {});
 }
 
 QString ObjetBureau::SynchronisePositions(QString const& leId) {
-    return Sers<QString>(
-        [this, qui = DonneNomAppelant(), identifiant = VersUtf8(leId)]() -> Resultat<QString> {
-            Resultat<std::string> const reponse = bureau_.SynchronisePositions(qui, identifiant);
-            if (!reponse) {
-                return reponse.DonneErreur();
-            }
-            return QString::fromLatin1(reponse->data(), static_cast<int>(reponse->size()));
-        });
+    return Sers([=](std::string const& qui) {
+        std::string const zones = bureau_.SynchronisePositions(qui, VersUtf8(leId));
+        return QString::fromLatin1(zones.data(), static_cast<int>(zones.size()));
+    });
 }
 
 QString ObjetBureau::DonneDocuments() {
-    QJsonArray liste;
+    EcritureDocuments liste;
     for (DocumentTexte const& document : bureau_.DonneDocuments()) {
-        liste.append(QJsonObject{
-            {QStringLiteral("id"), VersQString(bureau_.DonneIdentifiant(document))},
-            {QStringLiteral("titre"), VersQString(document.DonneTitre())},
-            {QStringLiteral("chemin"), VersQString(document.DonneChemin())},
-        });
+        liste.Ajoute(bureau_.DonneIdentifiant(document),
+                     VersUtf16(VersQString(document.DonneTitre())),
+                     VersUtf16(VersQString(document.DonneChemin())));
     }
-    return QString::fromUtf8(QJsonDocument(liste).toJson(QJsonDocument::Compact));
+    return VersQString(liste.Termine());
 }
 
 bool ObjetBureau::Enregistre(QString const& leId) {
-    auto const enregistre = [&]() -> Resultat<bool> {
-        DocumentTexte* const document = bureau_.ChercheIdentifiant(VersUtf8(leId));
-        if (!document) {
-            return Erreur{CodeErreur::IdentifiantInconnu, VersUtf8(leId), {}};
-        }
+    setDelayedReply(true);
+    connection().send(ReponseA(message(), [&] {
+        DocumentTexte& document = bureau_.ChercheIdentifiant(VersUtf8(leId));
         if (!peutEnregistrer_) {
-            return Erreur{CodeErreur::Enregistrement,
-                          Dis({"Ce bureau n'enregistre rien (--sans-enregistrer)",
-                               "This office saves nothing (--sans-enregistrer)"}),
-                          {}};
+            throw ErreurDuService(contrat::Erreur::Enregistrement,
+                                  Dis({"Ce bureau n'enregistre rien (--sans-enregistrer)",
+                                       "This office saves nothing (--sans-enregistrer)"}));
         }
-        std::optional<Ecriture> const ecriture = document->Enregistre();
+        std::optional<Ecriture> const ecriture = document.Enregistre();
         if (ecriture && ecriture->issue != IssueEcriture::Faite) {
-            return Erreur{
-                CodeErreur::Enregistrement, DisEcriture(*ecriture, document->DonneChemin()), {}};
+            throw ErreurDuService(contrat::Erreur::Enregistrement,
+                                  DisEcriture(*ecriture, document.DonneChemin()));
         }
         return ecriture.has_value();
-    };
-    Resultat<bool> const resultat = enregistre();
-    if (!resultat) {
-        setDelayedReply(true);
-        connection().send(Reponse(message(), resultat.DonneErreur()));
-        return false;
-    }
-    return *resultat;
+    }));
+    return false;
 }
 
 } // namespace compagnon

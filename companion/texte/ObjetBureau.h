@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "Portier.h"
 #include "coeur/Bureau.h"
 
+#include <QDBusConnection>
 #include <QDBusContext>
+#include <QDBusMessage>
 #include <QObject>
 #include <QString>
 
@@ -21,9 +22,6 @@ class ObjetBureau : public QObject, protected QDBusContext {
   public:
     /// `bureau` must outlive the object.
     ObjetBureau(Bureau& bureau, bool peutEnregistrer, QObject* parent = nullptr);
-
-    /// Null: none. Not owned.
-    void MetsPortier(Portier* portier) noexcept { portier_ = portier; }
 
     void ActivePourCorrecteur();
     void ActivePourOutils();
@@ -59,18 +57,20 @@ class ObjetBureau : public QObject, protected QDBusContext {
     /// A connection that the office now remembers something of, at each of its calls.
     void AppelantVu(QString const& nomUnique);
 
+  protected:
+    /// Answers one call of the 24; `sers` does the work and gives the reply, at the time it is
+    /// called. For a derived class, which may answer by itself, later, or never.
+    virtual void Reponds(QDBusMessage const& appel, QDBusConnection const& connexion,
+                         std::function<QDBusMessage()> const& sers);
+
   private:
-    template <class T>
-    T Sers(std::function<Resultat<T>()> const& appel);
-    void Execute(std::function<Resultat<Rien>()> const& appel);
-    /// A question about the document that the caller last named.
-    template <class T>
-    T Demande(std::function<T(DocumentTexte const&)> const& question);
-    std::string DonneNomAppelant() const;
+    /// Has `travail` answer the call under way, in the caller's name; what is returned here is
+    /// never sent. It is kept until the reply: what it needs of the call is copied into it.
+    template <class Travail>
+    auto Sers(Travail travail) -> decltype(travail(std::string()));
 
     Bureau& bureau_;
     bool peutEnregistrer_;
-    Portier* portier_ = nullptr;
 };
 
 } // namespace compagnon

@@ -3,7 +3,7 @@
 
 #include "ChainesQt.h"
 #include "Contrat.h"
-#include "coeur/MessagesTexte.h"
+#include "partage/Messages.h"
 
 #include <QDBusConnectionInterface>
 
@@ -14,7 +14,6 @@ namespace compagnon {
 namespace {
 
 QString const kConnexion = QStringLiteral("vocalyne-bureau-texte");
-QString const kCommande = QStringLiteral("/com/ombrel/vocalyne/commande");
 
 // A message may have 128 MiB. Left at its default of half as much, libdbus stops reading for good
 // after a single larger one; several may be on their way at once.
@@ -30,8 +29,7 @@ Publication::Publication(std::string const& instance)
 Publication::~Publication() {
     // QtDBus's own thread takes the connection down later and still calls each object that it finds
     // registered or connected there, by then perhaps destroyed.
-    connexion_.unregisterObject(kCommande);
-    connexion_.unregisterObject(objet_);
+    connexion_.unregisterObject(QStringLiteral("/"), QDBusConnection::UnregisterTree);
     connexion_.disconnect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
                           QStringLiteral("org.freedesktop.DBus.Local"),
                           QStringLiteral("Disconnected"), this, SIGNAL(BusPerdu()));
@@ -56,16 +54,13 @@ std::string Publication::Connecte() {
     return {};
 }
 
-std::string Publication::Publie(QObject* bureau, QObject* commande) {
-    bool const publies =
-        connexion_.registerObject(objet_, bureau, QDBusConnection::ExportAdaptors) &&
-        (!commande ||
-         connexion_.registerObject(kCommande, commande, QDBusConnection::ExportAdaptors));
-    if (!publies || !connexion_.isConnected()) {
+std::string Publication::Publie(QObject* bureau) {
+    if (!connexion_.registerObject(objet_, bureau, QDBusConnection::ExportAdaptors) ||
+        !connexion_.isConnected()) {
         return Dis({"Publication impossible ({1})", "Cannot publish ({1})"},
                    {VersUtf8(connexion_.lastError().message())});
     }
-    return ReprendsLeNom() ? std::string() : DisPris();
+    return connexion_.registerService(service_) ? std::string() : DisPris();
 }
 
 std::string Publication::DisPris() {
@@ -74,16 +69,6 @@ std::string Publication::DisPris() {
                 "The name {1} is taken, by process {2}. Choose another instance."},
                {VersUtf8(service_),
                 processus.isValid() ? std::to_string(processus.value()) : std::string("?")});
-}
-
-void Publication::QuitteLeNom() {
-    connexion_.interface()->unregisterService(service_);
-}
-
-bool Publication::ReprendsLeNom() {
-    QDBusReply<QDBusConnectionInterface::RegisterServiceReply> const reponse =
-        connexion_.interface()->registerService(service_);
-    return reponse.isValid() && reponse.value() == QDBusConnectionInterface::ServiceRegistered;
 }
 
 } // namespace compagnon

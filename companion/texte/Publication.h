@@ -9,7 +9,8 @@
 
 namespace compagnon {
 
-/// The office's place on the session bus: its connection, its objects, its name.
+/// The office's place on the session bus: its connection, its objects, its name. All that was
+/// registered on the connection must outlive this.
 class Publication : public QObject {
     Q_OBJECT
 
@@ -19,14 +20,12 @@ class Publication : public QObject {
 
     /// Connects to the session bus. Empty, or what went wrong, for the person.
     std::string Connecte();
-    /// Publishes `bureau` (adaptors and all) and, unless null, `commande`; then takes the name, so
-    /// that whoever sees the name can call. Empty, or what went wrong.
-    std::string Publie(QObject* bureau, QObject* commande);
+    /// Publishes `bureau`, adaptors and all; then takes the name, so that whoever sees the name can
+    /// call. Empty, or what went wrong.
+    std::string Publie(QObject* bureau);
 
     QDBusConnection DonneConnexion() const { return connexion_; }
-    void QuitteLeNom();
-    /// False when someone else has it.
-    bool ReprendsLeNom();
+    QString const& DonneService() const noexcept { return service_; }
 
   Q_SIGNALS:
     void BusPerdu();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "coeur/Appelants.h"
+#include "partage/Appelants.h"
 
 #include <QDBusConnection>
 #include <QDBusServiceWatcher>

@@ -17,3 +17,19 @@ inline compagnon::TexteSuivi Suivi(std::u16string_view texte) {
     suivi.Donne(Partage(texte));
     return suivi;
 }
+
+/// A correction as a companion makes it in a document that is plain text.
+inline compagnon::Localisation Corrige(compagnon::TexteSuivi& suivi, compagnon::Intervalle plage,
+                                       std::u16string_view remplacement,
+                                       compagnon::TextePartage& document) {
+    compagnon::Localisation const trouvee = suivi.Localise(plage, *document);
+    if (!trouvee) {
+        suivi.NoteRefus(plage);
+        return trouvee;
+    }
+    std::u16string apres = *document;
+    apres.replace(trouvee.plage.DonneDebut(), trouvee.plage.DonneLongueur(), remplacement);
+    document = Partage(apres);
+    suivi.NoteCorrection(plage, remplacement);
+    return trouvee;
+}

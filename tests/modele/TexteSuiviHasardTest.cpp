@@ -141,7 +141,7 @@ TEST(FollowedTextAtRandom, CorrectionsAmongForeignEditsOnlyEverChangeTheirOwnLet
                                    Entier(debut + hasard.Jusqua(croyance.size() - debut))};
             std::u16string const remplacement = hasard.Lettres(3);
             std::u16string const avant = *document;
-            Localisation const faite = suivi.Corrige(plage, remplacement, document);
+            Localisation const faite = Corrige(suivi, plage, remplacement, document);
             if (!faite) {
                 ASSERT_EQ(*document, avant);
                 continue;

@@ -171,8 +171,8 @@ TEST(FollowedText, ARangeMustHoldTheExpectedText) {
 TEST(FollowedText, ACorrectionChangesBeliefAndDocumentTogether) {
     TexteSuivi suivi = Suivi(u"Les chat dort");
     TextePartage document = Partage(u"Les chat dort");
-    EXPECT_EQ(suivi.Corrige({4, 8}, u"chats", document), Trouvee(4, 8));
-    EXPECT_EQ(suivi.Corrige({10, 14}, u"dorment", document), Trouvee(10, 14));
+    EXPECT_EQ(Corrige(suivi, {4, 8}, u"chats", document), Trouvee(4, 8));
+    EXPECT_EQ(Corrige(suivi, {10, 14}, u"dorment", document), Trouvee(10, 14));
     EXPECT_EQ(*document, u"Les chats dorment");
     EXPECT_EQ(suivi.DonneCroyance(), u"Les chats dorment");
 }
@@ -180,9 +180,9 @@ TEST(FollowedText, ACorrectionChangesBeliefAndDocumentTogether) {
 TEST(FollowedText, CorrectionsGoOnAroundWhatTheOtherTyped) {
     TexteSuivi suivi = Suivi(u"Les chat dort ici");
     TextePartage document = Partage(u"Oui. Les chat dort ici");
-    EXPECT_EQ(suivi.Corrige({4, 8}, u"chats", document), Trouvee(9, 13));
+    EXPECT_EQ(Corrige(suivi, {4, 8}, u"chats", document), Trouvee(9, 13));
     EXPECT_EQ(suivi.DonneCroyance(), u"Les chats dort ici");
-    EXPECT_EQ(suivi.Corrige({10, 14}, u"dorment", document), Trouvee(15, 19));
+    EXPECT_EQ(Corrige(suivi, {10, 14}, u"dorment", document), Trouvee(15, 19));
     EXPECT_EQ(*document, u"Oui. Les chats dorment ici");
     EXPECT_EQ(suivi.DonneCroyance(), u"Les chats dorment ici");
 }
@@ -191,11 +191,11 @@ TEST(FollowedText, ARefusedCorrectionChangesNoDocumentAndIsOnlySafeBeforeIt) {
     // The host may hold "un long chat dort" now, or not: only what stands before is sure.
     TexteSuivi suivi = Suivi(u"un chat dort");
     TextePartage document = Partage(u"un chXat dort");
-    EXPECT_EQ(suivi.Corrige({3, 7}, u"long chat", document), Refusee(Refus::Incertain));
+    EXPECT_EQ(Corrige(suivi, {3, 7}, u"long chat", document), Refusee(Refus::Incertain));
     EXPECT_EQ(*document, u"un chXat dort");
     EXPECT_EQ(suivi.Localise({8, 12}, *document), Refusee(Refus::Incertain));
     EXPECT_EQ(suivi.Localise({0, 2}, *document), Trouvee(0, 2));
-    EXPECT_EQ(suivi.Corrige({0, 2}, u"mon", document), Trouvee(0, 2));
+    EXPECT_EQ(Corrige(suivi, {0, 2}, u"mon", document), Trouvee(0, 2));
     EXPECT_EQ(suivi.Localise({0, 3}, *document), Trouvee(0, 3));
     EXPECT_EQ(suivi.Localise({0, 5}, *document), Refusee(Refus::Incertain));
     suivi.Donne(document);
@@ -205,11 +205,11 @@ TEST(FollowedText, ARefusedCorrectionChangesNoDocumentAndIsOnlySafeBeforeIt) {
 TEST(FollowedText, ARefusedCorrectionWithAbsurdOffsetsLeavesNothingSure) {
     TexteSuivi suivi = Suivi(u"un chat");
     TextePartage document = Partage(u"un chat");
-    EXPECT_FALSE(suivi.Corrige({INT_MIN, INT_MAX}, u"x", document));
+    EXPECT_FALSE(Corrige(suivi, {INT_MIN, INT_MAX}, u"x", document));
     EXPECT_EQ(suivi.Localise({0, 2}, *document), Refusee(Refus::Incertain));
 
     TexteSuivi auDela = Suivi(u"un chat");
-    EXPECT_FALSE(auDela.Corrige({7, 9}, u"x", document));
+    EXPECT_FALSE(Corrige(auDela, {7, 9}, u"x", document));
     EXPECT_EQ(auDela.Localise({0, 7}, *document), Trouvee(0, 7));
     EXPECT_EQ(*document, u"un chat");
 }
@@ -220,9 +220,9 @@ TEST(FollowedText, SeveralHostsOfOneTextAreFollowedEachForItself) {
     TexteSuivi second;
     premier.Donne(document);
     second.Donne(document);
-    EXPECT_TRUE(premier.Corrige({0, 2}, u"mon", document));
+    EXPECT_TRUE(Corrige(premier, {0, 2}, u"mon", document));
     EXPECT_EQ(second.DonneCroyance(), u"un chat dort");
-    EXPECT_EQ(second.Corrige({8, 12}, u"mange", document), Trouvee(9, 13));
+    EXPECT_EQ(Corrige(second, {8, 12}, u"mange", document), Trouvee(9, 13));
     EXPECT_EQ(*document, u"mon chat mange");
     EXPECT_EQ(second.Localise({0, 2}, *document), Refusee(Refus::Incertain));
 }

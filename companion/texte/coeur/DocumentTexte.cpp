@@ -4,6 +4,7 @@
 #include "modele/DecaleSelection.h"
 #include "modele/Frontieres.h"
 #include "modele/Utf.h"
+#include "partage/ErreurDuService.h"
 
 #include <algorithm>
 #include <utility>
@@ -53,34 +54,39 @@ bool DocumentTexte::Selectionne(std::size_t zone, Intervalle plage) noexcept {
     return true;
 }
 
-void DocumentTexte::SuisEdition(std::size_t zone, Intervalle plage, std::size_t longueur) noexcept {
-    if (zone == selection_.zone) {
-        selection_.plage = DecaleSelection(selection_.plage, plage, longueur);
+void DocumentTexte::VerifieInscriptible() const {
+    if (!inscriptible_) {
+        throw ErreurDuService(contrat::Erreur::LectureSeule);
     }
 }
 
-std::optional<CodeErreur> DocumentTexte::PeutRecevoir(std::size_t retirees,
-                                                      std::u16string_view texte) const noexcept {
-    if (!inscriptible_) {
-        return CodeErreur::LectureSeule;
-    }
+void DocumentTexte::VerifieRecevable(std::size_t retirees, std::u16string_view texte) const {
+    VerifieInscriptible();
     if (ContientFinDeLigne(texte) || !EstTransportable(texte)) {
-        return CodeErreur::FinDeLigne;
+        throw ErreurDuService(contrat::Erreur::FinDeLigne);
     }
     if (texte.size() > retirees && unites_ - retirees + texte.size() > kUnitesMax) {
-        return CodeErreur::TropGrand;
+        throw ErreurDuService(contrat::Erreur::TropGrand);
     }
-    return std::nullopt;
 }
 
-void DocumentTexte::MetsTexte(std::size_t zone, TextePartage texte) noexcept {
-    TextePartage& ancien = zones_[zone].paragraphe.texte;
-    unites_ = unites_ - ancien->size() + texte->size();
-    ancien = std::move(texte);
+void DocumentTexte::Remplace(std::size_t zone, Intervalle plage, std::u16string_view texte) {
+    VerifieRecevable(plage.DonneLongueur(), texte);
+    TextePartage& tenu = zones_[zone].paragraphe.texte;
+    std::u16string nouveau(*tenu, 0, plage.DonneDebut());
+    nouveau.append(texte).append(*tenu, plage.DonneFin());
+    unites_ = unites_ - tenu->size() + nouveau.size();
+    tenu = std::make_shared<std::u16string const>(std::move(nouveau));
+    if (zone == selection_.zone) {
+        selection_.plage = DecaleSelection(selection_.plage, plage, texte.size());
+    }
 }
 
-NumeroZone DocumentTexte::InsereApres(std::size_t zone, TextePartage texte,
-                                      NumeroZone& prochainNumero) {
+void DocumentTexte::InsereApres(std::size_t zone, std::u16string_view texte, NumeroZone numero) {
+    VerifieRecevable(0, texte);
+    if (zones_.size() >= kParagraphesMax) {
+        throw ErreurDuService(contrat::Erreur::TropGrand);
+    }
     Paragraphe& avant = zones_[zone].paragraphe;
     FinDeLigne const fin = avant.fin;
     if (fin == FinDeLigne::Aucune) {
@@ -88,18 +94,17 @@ NumeroZone DocumentTexte::InsereApres(std::size_t zone, TextePartage texte,
                         ? FinDeLigne::LineFeed
                         : zones_.front().paragraphe.fin;
     }
-    unites_ += texte->size();
-    NumeroZone const numero = prochainNumero++;
+    unites_ += texte.size();
     numerosCroissants_ = false;
     zones_.insert(zones_.begin() + static_cast<std::ptrdiff_t>(zone) + 1,
-                  {numero, {std::move(texte), fin}});
+                  {numero, {std::make_shared<std::u16string const>(texte), fin}});
     if (selection_.zone > zone) {
         ++selection_.zone;
     }
-    return numero;
 }
 
 void DocumentTexte::Supprime(std::size_t zone) {
+    VerifieInscriptible();
     unites_ -= DonneTexte(zone)->size();
     if (zones_.size() == 1) {
         zones_.front().paragraphe.texte = std::make_shared<std::u16string const>();

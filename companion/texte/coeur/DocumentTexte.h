@@ -4,13 +4,14 @@
 #include "EcritureSure.h"
 #include "LectureFichier.h"
 #include "Paragraphes.h"
-#include "Resultat.h"
 #include "modele/Intervalle.h"
+#include "modele/TexteSuivi.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace compagnon {
@@ -56,18 +57,16 @@ class DocumentTexte {
     /// False, and nothing changes, where the range is not one of the zone, or parts a surrogate
     /// pair.
     bool Selectionne(std::size_t zone, Intervalle plage) noexcept;
-    /// Brings the selection along after `plage` of `zone` was replaced by `longueur` units.
-    void SuisEdition(std::size_t zone, Intervalle plage, std::size_t longueur) noexcept;
 
-    /// May `retirees` units give place to `texte`? Says why not: read-only, a line end or what
-    /// cannot travel in it, the document too large.
-    std::optional<CodeErreur> PeutRecevoir(std::size_t retirees,
-                                           std::u16string_view texte) const noexcept;
-    /// The zone's whole text is `texte` now; call `SuisEdition` as well.
-    void MetsTexte(std::size_t zone, TextePartage texte) noexcept;
+    // Changes throw `ErreurDuService`, and have changed nothing then: `LectureSeule`; `FinDeLigne`
+    // for a text with a line end or what cannot travel; `TropGrand` for the document.
 
-    /// A new paragraph after this one, with the same line end.
-    NumeroZone InsereApres(std::size_t zone, TextePartage texte, NumeroZone& prochainNumero);
+    void VerifieInscriptible() const;
+    /// Puts `texte` in the place of the range; the selection follows.
+    void Remplace(std::size_t zone, Intervalle plage, std::u16string_view texte);
+
+    /// A new paragraph of that number after this one, with the same line end.
+    void InsereApres(std::size_t zone, std::u16string_view texte, NumeroZone numero);
     /// Takes a paragraph out with its line end; the last one left is only emptied.
     void Supprime(std::size_t zone);
 
@@ -78,6 +77,8 @@ class DocumentTexte {
     std::optional<Ecriture> Enregistre();
 
   private:
+    void VerifieRecevable(std::size_t retirees, std::u16string_view texte) const;
+
     std::string cle_;
     std::string chemin_;
     std::string cheminReel_;

@@ -2,7 +2,7 @@
 #include "OptionsBureau.h"
 
 #include "Contrat.h"
-#include "MessagesTexte.h"
+#include "partage/Messages.h"
 
 #include <algorithm>
 #include <getopt.h>
@@ -27,13 +27,12 @@ std::string OptionFautive(char* const argv[]) {
 } // namespace
 
 OptionsBureau LisOptions(int argc, char* argv[]) {
-    enum : int { Instance = 256, SansEnregistrer, FinAvecHote, Commande };
+    enum : int { Instance = 256, SansEnregistrer, FinAvecHote };
     static option const table[] = {{"help", no_argument, nullptr, 'h'},
                                    {"version", no_argument, nullptr, 'v'},
                                    {"instance", required_argument, nullptr, Instance},
                                    {"sans-enregistrer", no_argument, nullptr, SansEnregistrer},
                                    {"fin-avec-hote", no_argument, nullptr, FinAvecHote},
-                                   {"commande", no_argument, nullptr, Commande},
                                    {nullptr, 0, nullptr, 0}};
     OptionsBureau options;
     optind = 0; // from the start, whoever parsed before
@@ -67,9 +66,6 @@ OptionsBureau LisOptions(int argc, char* argv[]) {
         case FinAvecHote:
             options.finAvecHote = true;
             break;
-        case Commande:
-            options.commande = true;
-            break;
         case ':':
             return Mauvaise(Dis({"L'option {1} demande une valeur", "Option {1} needs a value"},
                                 {OptionFautive(argv)}));
@@ -94,7 +90,6 @@ finit à Ctrl-C.
   --sans-enregistrer  ne change jamais les fichiers
   --fin-avec-hote     finit quand le dernier hôte a quitté le bus
   --instance NOM      première partie des identifiants (lettres, chiffres, « _ »)
-  --commande          publie aussi l'interface de commande, pour les essais
   -h, --help          cette aide
   -v, --version       la version
 
@@ -108,7 +103,6 @@ identifier of each document on a line as soon as it can be called; saves and end
   --sans-enregistrer  never change the files
   --fin-avec-hote     end when the last host has left the bus
   --instance NAME     first part of the identifiers (letters, digits, "_")
-  --commande          publish the control interface too, for tests
   -h, --help          this help
   -v, --version       the version
 

@@ -15,7 +15,6 @@ struct OptionsBureau {
     std::string instance;
     bool sansEnregistrer = false;
     bool finAvecHote = false;
-    bool commande = false;
     std::vector<std::string> fichiers; ///< bytes as the system has them
 };
 

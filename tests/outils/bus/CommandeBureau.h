@@ -7,7 +7,7 @@
 
 #include <string>
 
-/// The control interface of a text office, as companion/texte/README.md describes it. A call that
+/// The control interface of a text office, as `outils/bureau/README.md` describes it. A call that
 /// the office refuses fails the test.
 class CommandeBureau {
   public:

@@ -9,7 +9,8 @@
 
 namespace {
 
-constexpr char kRefusee[] = "com.ombrel.vocalyne.Erreur.PlageRefusee";
+constexpr char kInconnue[] = "com.ombrel.vocalyne.texteurs.Erreur.ZoneInconnue";
+constexpr char kRefusee[] = "com.ombrel.vocalyne.texteurs.Erreur.PlageRefusee";
 
 class Corrections : public testing::Test {
   protected:
@@ -104,7 +105,8 @@ TEST_F(Corrections, AfterARefusalWhatFollowsIsOnlyRightOnceSynchronised) {
 }
 
 TEST_F(Corrections, AfterOneRefusedForItsLineEndWhatFollowsIsNotSureEither) {
-    EXPECT_EQ(client.Corrige(zone, 4, 8, "un\ndeux"), "com.ombrel.vocalyne.Erreur.FinDeLigne");
+    EXPECT_EQ(client.Corrige(zone, 4, 8, "un\ndeux"),
+              "com.ombrel.vocalyne.texteurs.Erreur.FinDeLigne");
     EXPECT_EQ(client.Corrige(zone, 9, 13, "dorment"), kRefusee);
     EXPECT_EQ(client.Corrige(zone, 0, 3, "Des"), "");
     EXPECT_EQ(Document(), "Des chat dort ici.\n");
@@ -113,7 +115,7 @@ TEST_F(Corrections, AfterOneRefusedForItsLineEndWhatFollowsIsNotSureEither) {
 TEST_F(Corrections, AreRefusedToACallerThatWasNeverGivenTheZone) {
     ClientBureau const autre(bureau.Instance());
     EXPECT_FALSE(autre.PeutCorriger(zone, 4, 8, "chat"));
-    EXPECT_EQ(autre.Corrige(zone, 4, 8, "chats"), kRefusee);
+    EXPECT_EQ(autre.Corrige(zone, 4, 8, "chats"), kInconnue);
     EXPECT_EQ(Document(), "Les chat dort ici.\n");
 }
 
@@ -163,10 +165,8 @@ TEST_F(Corrections, AThousandInOneZoneStayInPlaceWhileThePersonTypesBefore) {
 TEST_F(Corrections, InAZoneThatThePersonDeletedAreErrors) {
     bureau.DonneCommande().InsereZone(zone, "Deux.");
     bureau.DonneCommande().SupprimeZone(zone);
-    EXPECT_EQ(
-        client.Erreur("PeutCorriger", {QString::fromStdString(zone), 4, 8, QStringLiteral("chat")}),
-        "com.ombrel.vocalyne.Erreur.ZoneInconnue");
-    EXPECT_EQ(client.Corrige(zone, 4, 8, "chats"), "com.ombrel.vocalyne.Erreur.ZoneInconnue");
+    EXPECT_FALSE(client.PeutCorriger(zone, 4, 8, "chat"));
+    EXPECT_EQ(client.Corrige(zone, 4, 8, "chats"), kInconnue);
     EXPECT_EQ(Document(), "Deux.\n");
 }
 
@@ -180,4 +180,15 @@ TEST_F(Corrections, OtherZonesKeepTheirKeysWhenParagraphsComeAndGo) {
     EXPECT_EQ(zones[2].nom, apres);
     EXPECT_EQ(client.Corrige(apres, 0, 4, "Trois"), "");
     EXPECT_EQ(Document(), "Les chat dort ici.\nUn et demi.\nTrois.\n");
+}
+
+TEST_F(Corrections, InADocumentThatThePersonClosedAreErrorsAndItIsDead) {
+    bureau.DonneCommande().FermeDocument("doc1");
+    EXPECT_TRUE(client.Appelle("DocEstMort", {QStringLiteral("doc1")}).arguments()[0].toBool());
+    EXPECT_EQ(client.Erreur("DonneTitreDocument"),
+              "com.ombrel.vocalyne.texteurs.Erreur.DocumentFerme");
+    EXPECT_FALSE(client.PeutCorriger(zone, 4, 8, "chat"));
+    EXPECT_EQ(client.Corrige(zone, 4, 8, "chats"), kInconnue);
+    EXPECT_EQ(client.Erreur("InitialiseTexteur", {QStringLiteral("doc1")}),
+              "com.ombrel.vocalyne.texteurs.Erreur.DocumentInconnu");
 }

@@ -85,7 +85,7 @@ TEST_F(Saving, OfAnUnknownDocumentIsAnError) {
     for (std::string const& identifiant :
          {std::string("doc1"), std::string(), std::string("x~doc1"), bureau.Instance() + "~doc3"}) {
         EXPECT_EQ(Enregistre(identifiant).errorName().toStdString(),
-                  "com.ombrel.vocalyne.Erreur.IdentifiantInconnu");
+                  "com.ombrel.vocalyne.texteurs.Erreur.DocumentInconnu");
     }
 }
 
@@ -97,7 +97,8 @@ TEST_F(Saving, LeavesAFileAloneThatAnotherProgramChanged) {
     std::fputs(autre.c_str(), fichier);
     std::fclose(fichier);
     QDBusMessage const reponse = Enregistre(bureau.Identifiant());
-    EXPECT_EQ(reponse.errorName().toStdString(), "com.ombrel.vocalyne.Erreur.Enregistrement");
+    EXPECT_EQ(reponse.errorName().toStdString(),
+              "com.ombrel.vocalyne.texteurs.Erreur.Enregistrement");
     EXPECT_NE(reponse.errorMessage().indexOf(QLatin1String("a.corrige-1.txt")), -1);
     EXPECT_EQ(bureau.Finis(), 4);
     EXPECT_EQ(bureau.Contenu(), autre);
@@ -116,7 +117,7 @@ TEST_F(Saving, DoesNotHappenWhenTheOfficeIsKilledAndTheFileIsWhole) {
 TEST_F(SavingNothing, LeavesTheFilesAsTheyAre) {
     Corrige();
     EXPECT_EQ(Enregistre(bureau.Identifiant()).errorName().toStdString(),
-              "com.ombrel.vocalyne.Erreur.Enregistrement");
+              "com.ombrel.vocalyne.texteurs.Erreur.Enregistrement");
     EXPECT_EQ(bureau.DonneCommande().DonneTexte("doc1"), "Un chien.\r\nDeux.\n");
     EXPECT_EQ(bureau.Finis(), 0);
     EXPECT_EQ(bureau.Contenu(), "Un chat.\r\nDeux.\n");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
-#include "outils/bus/BureauDeTest.h"
+#include "outils/bus/BureauTexte.h"
 #include "outils/bus/BusPrive.h"
 #include "outils/bus/ClientBureau.h"
 
@@ -12,10 +12,11 @@
 
 namespace {
 
-constexpr char kAucunDocument[] = "com.ombrel.vocalyne.Erreur.AucunDocument";
-constexpr char kIdentifiantInconnu[] = "com.ombrel.vocalyne.Erreur.IdentifiantInconnu";
-constexpr char kZoneInconnue[] = "com.ombrel.vocalyne.Erreur.ZoneInconnue";
-constexpr char kSelectionImpossible[] = "com.ombrel.vocalyne.Erreur.SelectionImpossible";
+constexpr char kAucunDocument[] = "com.ombrel.vocalyne.texteurs.Erreur.AucunDocument";
+constexpr char kDocumentInconnu[] = "com.ombrel.vocalyne.texteurs.Erreur.DocumentInconnu";
+constexpr char kZoneInconnue[] = "com.ombrel.vocalyne.texteurs.Erreur.ZoneInconnue";
+constexpr char kPlageRefusee[] = "com.ombrel.vocalyne.texteurs.Erreur.PlageRefusee";
+constexpr char kSelectionImpossible[] = "com.ombrel.vocalyne.texteurs.Erreur.SelectionImpossible";
 
 QString Q(std::string const& texte) {
     return QString::fromStdString(texte);
@@ -35,9 +36,18 @@ class OfficeMethods : public testing::Test {
         EXPECT_EQ(client.Erreur("SelectionneIntervalle", {Q(zones.at(zone).nom), debut, fin}), "");
     }
     std::string Selection() { return client.Texte("DonneContenuSelection"); }
+    /// The whole text as it stands now, told to another caller.
+    std::string Document() {
+        std::string texte;
+        for (ZoneServie const& zone :
+             ClientBureau(bureau.Instance()).Synchronise(bureau.Identifiant())) {
+            texte += zone.texte + '\n';
+        }
+        return texte;
+    }
 
     BusPrive bus;
-    BureauDeTest bureau;
+    BureauTexte bureau;
     ClientBureau client;
     std::vector<ZoneServie> zones;
 };
@@ -131,20 +141,22 @@ TEST_F(OfficeMethods, TheSelectionIsReplacedAndTheResultSelected) {
     Selectionne(0, 4, 8);
     EXPECT_EQ(client.Erreur("RemplaceEtReselectionne", {QStringLiteral("félins")}), "");
     EXPECT_EQ(Selection(), "félins");
-    EXPECT_EQ(bureau.DonneCommande().DonneTexte("doc1"), "Les félins dort.\nUn \U0001F600 la.\n");
+    EXPECT_EQ(Document(), "Les félins dort.\nUn \U0001F600 la.\n");
     EXPECT_EQ(client.Erreur("RemplaceEtReselectionne", {QString()}), "");
     EXPECT_EQ(Selection(), "");
-    EXPECT_EQ(bureau.DonneCommande().DonneTexte("doc1"), "Les  dort.\nUn \U0001F600 la.\n");
+    EXPECT_EQ(Document(), "Les  dort.\nUn \U0001F600 la.\n");
 }
 
 TEST_F(OfficeMethods, AReplacementWithALineEndIsRefused) {
     Selectionne(0, 4, 8);
     for (char const* const mot : {"a\nb", "a\rb", "\r\n"}) {
         EXPECT_EQ(client.Erreur("RemplaceEtReselectionne", {QLatin1String(mot)}),
-                  "com.ombrel.vocalyne.Erreur.FinDeLigne");
-        EXPECT_EQ(client.Corrige(zones[1].nom, 0, 2, mot), "com.ombrel.vocalyne.Erreur.FinDeLigne");
+                  "com.ombrel.vocalyne.texteurs.Erreur.FinDeLigne");
+        client.Synchronise(bureau.Identifiant());
+        EXPECT_EQ(client.Corrige(zones[1].nom, 0, 2, mot),
+                  "com.ombrel.vocalyne.texteurs.Erreur.FinDeLigne");
     }
-    EXPECT_EQ(bureau.DonneCommande().DonneTexte("doc1"), "Les chat dort.\nUn \U0001F600 la.\n");
+    EXPECT_EQ(Document(), "Les chat dort.\nUn \U0001F600 la.\n");
 }
 
 TEST_F(OfficeMethods, TheSelectionFollowsCorrectionsInItsZone) {
@@ -161,31 +173,30 @@ TEST_F(OfficeMethods, SelectingAnImpossibleRangeIsAnErrorAndChangesNothing) {
     Selectionne(0, 4, 8);
     for (auto const& [debut, fin] : {std::pair{-1, 2}, {0, 15}, {8, 4}, {INT_MIN, INT_MAX}}) {
         EXPECT_EQ(client.Erreur("SelectionneIntervalle", {Q(zones[0].nom), debut, fin}),
-                  "com.ombrel.vocalyne.Erreur.PlageRefusee");
+                  kPlageRefusee);
     }
-    EXPECT_EQ(client.Erreur("SelectionneIntervalle", {Q(zones[1].nom), 3, 4}),
-              "com.ombrel.vocalyne.Erreur.PlageRefusee");
+    EXPECT_EQ(client.Erreur("SelectionneIntervalle", {Q(zones[1].nom), 3, 4}), kPlageRefusee);
     EXPECT_EQ(Selection(), "chat");
 }
 
 TEST_F(OfficeMethods, UnknownDocumentsAndZonesAreErrorsWithAMessage) {
     for (char const* const cle : {"doc2", "", "moi~doc1"}) {
         QDBusMessage const reponse = client.Appelle("InitialiseTexteur", {QLatin1String(cle)});
-        EXPECT_EQ(reponse.errorName().toStdString(), kIdentifiantInconnu);
+        EXPECT_EQ(reponse.errorName().toStdString(), kDocumentInconnu);
         EXPECT_FALSE(reponse.errorMessage().isEmpty());
     }
     for (std::string const& identifiant :
          {std::string("doc1"), bureau.Instance() + "~", bureau.Instance() + "~doc2",
           bureau.Instance(), std::string("~doc1"), std::string(), bureau.Identifiant() + "~doc1",
           "x" + bureau.Identifiant()}) {
-        EXPECT_EQ(client.Erreur("SynchronisePositions", {Q(identifiant)}), kIdentifiantInconnu)
+        EXPECT_EQ(client.Erreur("SynchronisePositions", {Q(identifiant)}), kDocumentInconnu)
             << identifiant;
     }
     for (std::string const& zone :
          {std::string(), std::string("z"), std::string("z0"), std::string("z3"), "0" + zones[0].nom,
           zones[0].nom + " ", std::string("z01"), std::string("z-1"),
           std::string("z99999999999999999999999"), std::string("Z1")}) {
-        EXPECT_EQ(client.Erreur("PeutCorriger", {Q(zone), 0, 0, QString()}), kZoneInconnue) << zone;
+        EXPECT_FALSE(client.PeutCorriger(zone, 0, 0, "")) << zone;
         EXPECT_EQ(client.Corrige(zone, 0, 0, "a"), kZoneInconnue) << zone;
         EXPECT_EQ(client.Erreur("SelectionneIntervalle", {Q(zone), 0, 0}), kZoneInconnue) << zone;
     }
@@ -231,8 +242,42 @@ TEST_F(OfficeMethods, ArgumentsOfTheWrongTypeAreAnErrorAndNotACrash) {
 TEST_F(OfficeMethods, HavingLetGoOfTheDocumentItMustBeNamedAgain) {
     EXPECT_EQ(client.Erreur("RompsLienTexteur"), "");
     EXPECT_EQ(client.Erreur("DonneTitreDocument"), kAucunDocument);
-    EXPECT_FALSE(client.PeutCorriger(zones[0].nom, 4, 8, "chat")); // names it, believes nothing
+    EXPECT_FALSE(client.PeutCorriger(zones[0].nom, 4, 8, "chat")); // no zone of this caller's
+    EXPECT_EQ(client.Erreur("DonneTitreDocument"), kAucunDocument);
+    client.Synchronise(bureau.Identifiant());
+    EXPECT_TRUE(client.PeutCorriger(zones[0].nom, 4, 8, "chat"));
+}
+
+TEST_F(OfficeMethods, HavingLetGoOfTheCorrectorItMustSynchroniseBeforeItCorrects) {
+    EXPECT_EQ(client.Erreur("RompsLienCorrecteur"), "");
     EXPECT_EQ(client.Texte("DonneTitreDocument"), "lettre.txt");
+    EXPECT_FALSE(client.PeutCorriger(zones[0].nom, 4, 8, "chat"));
+    EXPECT_EQ(client.Corrige(zones[0].nom, 4, 8, "chats"), kZoneInconnue);
+    client.Synchronise(bureau.Identifiant());
+    EXPECT_EQ(client.Corrige(zones[0].nom, 4, 8, "chats"), "");
+}
+
+TEST_F(OfficeMethods, TheSelectionIsReplacedOnlyIfItIsTheOneThatTheCallerWasTold) {
+    Selectionne(0, 4, 8);
+    EXPECT_EQ(client.Texte("DonneContexteSelection"), "Les chat dort.");
+    ClientBureau const autre(bureau.Instance());
+    autre.Synchronise(bureau.Identifiant());
+    EXPECT_EQ(autre.Erreur("SelectionneIntervalle", {Q(zones[1].nom), 0, 2}), "");
+    EXPECT_EQ(client.Erreur("RemplaceEtReselectionne", {QStringLiteral("félins")}), kPlageRefusee);
+    EXPECT_EQ(Document(), "Les chat dort.\nUn \U0001F600 la.\n");
+    EXPECT_EQ(Selection(), "Un"); // told now
+    EXPECT_EQ(client.Erreur("RemplaceEtReselectionne", {QStringLiteral("Le")}), "");
+    EXPECT_EQ(Document(), "Les chat dort.\nLe \U0001F600 la.\n");
+}
+
+TEST_F(OfficeMethods, ToolsThatStartAnewReplaceTheSelectionAsItStands) {
+    Selectionne(0, 4, 8);
+    ClientBureau const autre(bureau.Instance());
+    autre.Synchronise(bureau.Identifiant());
+    EXPECT_EQ(autre.Erreur("SelectionneIntervalle", {Q(zones[1].nom), 0, 2}), "");
+    EXPECT_EQ(client.Erreur("InitialisePourOutils", {true}), "");
+    EXPECT_EQ(client.Erreur("RemplaceEtReselectionne", {QStringLiteral("Le")}), "");
+    EXPECT_EQ(Selection(), "Le");
 }
 
 TEST_F(OfficeMethods, ALongTextMakesTheWholeWayThereAndBack) {
@@ -263,7 +308,7 @@ class SeveralDocuments : public testing::Test {
     }
 
     BusPrive bus;
-    BureauDeTest bureau{{{"un.txt", "Un."}, {"deux été.txt", "Deux."}, {"trois.txt", "Trois."}}};
+    BureauTexte bureau{{{"un.txt", "Un."}, {"deux été.txt", "Deux."}, {"trois.txt", "Trois."}}};
     ClientBureau client{bureau.Instance()};
 };
 
@@ -309,6 +354,14 @@ TEST_F(SeveralDocuments, TheOneMeantIsTheLastThatThisConnectionNamed) {
     EXPECT_EQ(autre.Texte("DonneTitreDocument"), "deux été.txt");
 }
 
+TEST_F(SeveralDocuments, WhatACallerWasGivenOfOneStaysWhenItIsGivenAnother) {
+    std::string const zone1 = client.Synchronise(bureau.Identifiant(0)).at(0).nom;
+    std::string const zone2 = client.Synchronise(bureau.Identifiant(1)).at(0).nom;
+    EXPECT_EQ(client.Erreur("RompsLienTexteur"), ""); // of the second
+    EXPECT_TRUE(client.PeutCorriger(zone1, 0, 2, "Un"));
+    EXPECT_FALSE(client.PeutCorriger(zone2, 0, 4, "Deux"));
+}
+
 TEST_F(SeveralDocuments, EachKeepsItsOwnSelectionAndText) {
     std::string const zone1 = client.Synchronise(bureau.Identifiant(0)).at(0).nom;
     std::string const zone2 = client.Synchronise(bureau.Identifiant(1)).at(0).nom;
@@ -318,24 +371,28 @@ TEST_F(SeveralDocuments, EachKeepsItsOwnSelectionAndText) {
     client.Initialise("doc1");
     EXPECT_EQ(client.Texte("DonneContenuSelection"), "Un");
     EXPECT_EQ(client.Corrige(zone2, 0, 4, "2"), "");
-    EXPECT_EQ(bureau.DonneCommande().DonneTexte("doc1"), "Un.");
-    EXPECT_EQ(bureau.DonneCommande().DonneTexte("doc2"), "2.");
+    EXPECT_EQ(bureau.Finis(), 0);
+    EXPECT_EQ(bureau.Contenu(0), "Un.");
+    EXPECT_EQ(bureau.Contenu(1), "2.");
 }
 
-TEST_F(SeveralDocuments, AClosedOneIsDeadAndItsZonesAreUnknown) {
-    std::string const zone = client.Synchronise(bureau.Identifiant(1)).at(0).nom;
-    bureau.DonneCommande().FermeDocument("doc2");
-    EXPECT_TRUE(client.Appelle("DocEstMort", {QStringLiteral("doc2")}).arguments()[0].toBool());
-    EXPECT_EQ(client.Erreur("DonneTitreDocument"), kIdentifiantInconnu);
-    EXPECT_EQ(client.Erreur("PeutCorriger", {Q(zone), 0, 1, QString()}), kZoneInconnue);
-    EXPECT_EQ(Documents().size(), 2);
-    client.Initialise("doc1");
-    EXPECT_EQ(client.Texte("DonneTitreDocument"), "un.txt");
+TEST(OfficeWithAByteOrderMarkInALine, KeepsTheOffsetsBehindIt) {
+    BusPrive bus;
+    BureauTexte const bureau({{"marque.txt", "un\n\uFEFFdeux\n"}});
+    ClientBureau const client(bureau.Instance());
+    std::vector<ZoneServie> const zones = client.Synchronise(bureau.Identifiant());
+    ASSERT_EQ(zones.size(), 2U);
+    EXPECT_EQ(zones[1].texte, "\uFEFFdeux");
+    EXPECT_EQ(client.Erreur("SelectionneIntervalle", {Q(zones[1].nom), 1, 5}), "");
+    // A reader as ours would drop the mark from a bare reply, and its text be one unit short.
+    EXPECT_EQ(client.Texte("DonneContexteSelection"), "\adeux");
+    EXPECT_EQ(client.Texte("DonneContenuSelection"), "deux");
+    EXPECT_EQ(client.Entier("DonneDebutSelectionDansSonContexte"), 1);
 }
 
 TEST(OfficeWithAnEmptyFile, ServesOneEmptyZoneInWhichTextCanBePut) {
     BusPrive bus;
-    BureauDeTest bureau({{"vide.txt", ""}});
+    BureauTexte bureau({{"vide.txt", ""}});
     ClientBureau const client(bureau.Instance());
     std::vector<ZoneServie> const zones = client.Synchronise(bureau.Identifiant());
     ASSERT_EQ(zones.size(), 1U);
@@ -353,7 +410,7 @@ TEST(OfficeWithManyZones, ServesAHundredThousandOfThem) {
     for (int i = 0; i < 100000; ++i) {
         texte += "Paragraphe.\n";
     }
-    BureauDeTest bureau({{"grand.txt", texte}});
+    BureauTexte bureau({{"grand.txt", texte}});
     ClientBureau const client(bureau.Instance());
     std::vector<ZoneServie> const zones = client.Synchronise(bureau.Identifiant());
     ASSERT_EQ(zones.size(), 100000U);

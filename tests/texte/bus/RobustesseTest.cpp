@@ -87,8 +87,8 @@ TEST(OfficeUnderRandomCalls, AnswersEachAndItsSelectionIsAlwaysOneOfItsText) {
         if (reponse.type() == QDBusMessage::ReplyMessage) {
             ++reussis;
         } else {
-            ASSERT_EQ(reponse.errorName().toStdString().substr(0, 27),
-                      "com.ombrel.vocalyne.Erreur.")
+            ASSERT_EQ(reponse.errorName().toStdString().substr(0, 36),
+                      "com.ombrel.vocalyne.texteurs.Erreur.")
                 << methode << ": " << reponse.errorMessage().toStdString();
             ASSERT_FALSE(reponse.errorMessage().isEmpty());
         }

@@ -111,7 +111,7 @@ TEST_F(OfficeSession, StaysReachableAfterAMessageLargerThanLibdbusReadsByDefault
     EXPECT_EQ(client.Erreur("InitialiseTexteur", {enorme}).substr(0, 20), "com.ombrel.vocalyne.");
     client.Initialise("doc1");
     EXPECT_EQ(client.Erreur("RemplaceEtReselectionne", {enorme}),
-              "com.ombrel.vocalyne.Erreur.TropGrand");
+              "com.ombrel.vocalyne.texteurs.Erreur.TropGrand");
     EXPECT_EQ(client.Texte("DonneContexteSelection"), "Un chat.");
 }
 

@@ -28,7 +28,6 @@ TEST(OfficeOptions, FilesAndOptionsMayStandInAnyOrder) {
     EXPECT_EQ(options.instance, "moi");
     EXPECT_TRUE(options.finAvecHote);
     EXPECT_FALSE(options.sansEnregistrer);
-    EXPECT_FALSE(options.commande);
     EXPECT_EQ(options.fichiers, (std::vector<std::string>{"a.txt", "b.txt"}));
 }
 
@@ -49,7 +48,7 @@ TEST(OfficeOptions, AWrongOneIsNamed) {
           {{"a", "--bizarre"}, "--bizarre"},
           {{"-x", "a"}, "-x"},
           {{"a", "--instance"}, "--instance"},
-          {{"--commande=oui", "a"}, "--commande=oui"},
+          {{"--fin-avec-hote=oui", "a"}, "--fin-avec-hote=oui"},
           {{"--instance", "7", "a"}, "\"7\""},
           {{"--instance=", "a"}, "\"\""},
           {{"--instance", "a~b", "a"}, "\"a~b\""},

@@ -8,8 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <csignal>
-
 namespace {
 
 class Misbehaviour : public testing::Test {
@@ -180,19 +178,13 @@ TEST_F(Misbehaviour, WhatThePersonTypesMovesTheSelection) {
     EXPECT_EQ(client.Texte("DonneContenuSelection"), "chat");
 }
 
-TEST(ControlInterface, IsNotThereUnlessAskedFor) {
+TEST(ControlInterface, IsNotThereInTheOfficeThatIsInstalled) {
     BusPrive bus;
-    DossierTemporaire const dossier;
-    Processus bureau({CheminBureauTexte(), dossier.Ecris("a.txt", "a").string()});
-    std::string const identifiant = bureau.LisLigne().value_or("");
-    std::string const instance = identifiant.substr(0, identifiant.find('~'));
-    LienBus const commande(
-        QString::fromStdString("com.ombrel.vocalyne.texteurs.OpenOffice." + instance),
-        QStringLiteral("/com/ombrel/vocalyne/commande"),
-        QStringLiteral("com.ombrel.vocalyne.bureau.commande"));
+    BureauTexte const bureau({{"a.txt", "a"}});
+    LienBus const commande(QString::fromStdString(bureau.Service()),
+                           QStringLiteral("/com/ombrel/vocalyne/commande"),
+                           QStringLiteral("com.ombrel.vocalyne.bureau.commande"));
     EXPECT_EQ(commande.Appelle(QStringLiteral("Retablis")).errorName().toStdString(),
               "org.freedesktop.DBus.Error.UnknownObject");
-    EXPECT_EQ(ClientBureau(instance).Erreur("DocEstMort", {QStringLiteral("doc1")}), "");
-    bureau.Signale(SIGTERM);
-    EXPECT_EQ(bureau.Attends(), 0);
+    EXPECT_EQ(ClientBureau(bureau.Instance()).Erreur("DocEstMort", {QStringLiteral("doc1")}), "");
 }

@@ -8,8 +8,6 @@
 #include <csignal>
 #include <unistd.h>
 
-namespace compagnon {
-
 namespace {
 
 using Comment = Dereglements::Comment;
@@ -85,7 +83,7 @@ void Dereglements::Retablis() {
     frappes_.clear();
 }
 
-bool Dereglements::TapeAvant(QString const& methode, std::string zone, Intervalle plage,
+bool Dereglements::TapeAvant(QString const& methode, std::string zone, compagnon::Intervalle plage,
                              std::u16string texte) {
     if (frappes_.size() >= kFrappesMax) {
         return false;
@@ -114,7 +112,11 @@ void Dereglements::TapeCeQuiAttend(QString const& methode) {
         return attente.methode == methode;
     });
     if (frappe != frappes_.end()) {
-        bureau_.Tape(frappe->zone, frappe->plage, frappe->texte);
+        try {
+            personne_.Tape(frappe->zone, frappe->plage, frappe->texte);
+        } catch (compagnon::ErreurDuService const&) {
+            // Its place is gone meanwhile: the person types into nothing.
+        }
         frappes_.erase(frappe);
     }
 }
@@ -191,5 +193,3 @@ void Dereglements::Applique(Regle const& regle, QDBusMessage const& appel,
     }
     }
 }
-
-} // namespace compagnon

@@ -2,34 +2,37 @@
 #include "ObjetCommande.h"
 
 #include "ChainesQt.h"
-#include "coeur/MessagesTexte.h"
 
-namespace compagnon {
+using compagnon::Bureau;
+using compagnon::DocumentTexte;
+using compagnon::ErreurDuService;
+using compagnon::VersQString;
+using compagnon::VersUtf16;
+using compagnon::VersUtf8;
 
 ObjetCommande::ObjetCommande(Bureau& bureau, Dereglements& dereglements, QObject* parent)
     : QObject(parent)
     , bureau_(bureau)
+    , personne_(bureau)
     , dereglements_(dereglements) {}
 
-void ObjetCommande::Refuse(Erreur const& erreur) {
-    sendErrorReply(QString::fromLatin1(NomErreur(erreur.code)), VersQString(DisErreur(erreur)));
-}
-
-template <class T>
-T ObjetCommande::Rends(Resultat<T> resultat) {
-    if (!resultat) {
-        Refuse(resultat.DonneErreur());
-        return T{};
+template <class Travail>
+auto ObjetCommande::Fais(Travail const& travail) -> decltype(travail()) {
+    try {
+        return travail();
+    } catch (ErreurDuService const& erreur) {
+        sendErrorReply(QString::fromStdString(erreur.DonneNomDBus()),
+                       QString::fromUtf8(erreur.what()));
+        return decltype(travail())();
     }
-    return std::move(*resultat);
 }
 
-DocumentTexte* ObjetCommande::Document(QString const& cle) {
+DocumentTexte& ObjetCommande::Document(QString const& cle) {
     DocumentTexte* const document = bureau_.Cherche(VersUtf8(cle));
     if (!document) {
-        Refuse({CodeErreur::IdentifiantInconnu, VersUtf8(cle), {}});
+        throw ErreurDuService(contrat::Erreur::DocumentInconnu, VersUtf8(cle));
     }
-    return document;
+    return *document;
 }
 
 void ObjetCommande::Deregle(QString const& methode, QString const& comment, QString const& detail,
@@ -37,8 +40,7 @@ void ObjetCommande::Deregle(QString const& methode, QString const& comment, QStr
     if (!dereglements_.Ajoute(methode, comment, detail, fois)) {
         sendErrorReply(
             QDBusError::InvalidArgs,
-            VersQString(Dis({"Dérèglement inconnu, ou détail qui ne convient pas",
-                             "Unknown way to misbehave, or a detail that does not fit"})));
+            QStringLiteral("an unknown way to misbehave, or a detail that does not fit"));
     }
 }
 
@@ -55,7 +57,7 @@ void ObjetCommande::ReprendsLeNom() {
 }
 
 void ObjetCommande::Tape(QString const& idZone, int debut, int fin, QString const& texte) {
-    Rends(bureau_.Tape(VersUtf8(idZone), {debut, fin}, VersUtf16(texte)));
+    Fais([&] { personne_.Tape(VersUtf8(idZone), {debut, fin}, VersUtf16(texte)); });
 }
 
 void ObjetCommande::TapeAvant(QString const& methode, QString const& idZone, int debut, int fin,
@@ -66,37 +68,34 @@ void ObjetCommande::TapeAvant(QString const& methode, QString const& idZone, int
 }
 
 QString ObjetCommande::InsereZone(QString const& idZone, QString const& texte) {
-    return VersQString(Rends(bureau_.InsereApres(VersUtf8(idZone), VersUtf16(texte))));
+    return VersQString(
+        Fais([&] { return personne_.InsereApres(VersUtf8(idZone), VersUtf16(texte)); }));
 }
 
 void ObjetCommande::SupprimeZone(QString const& idZone) {
-    Rends(bureau_.Supprime(VersUtf8(idZone)));
+    Fais([&] { personne_.Supprime(VersUtf8(idZone)); });
 }
 
 void ObjetCommande::MetsSelection(QString const& idZone, int debut, int fin) {
-    Rends(bureau_.Selectionne(VersUtf8(idZone), {debut, fin}));
+    Fais([&] { personne_.Selectionne(VersUtf8(idZone), {debut, fin}); });
 }
 
 void ObjetCommande::FermeDocument(QString const& leId) {
-    if (Document(leId)) {
-        bureau_.Ferme(VersUtf8(leId));
-    }
+    Fais([&] { personne_.Ferme(VersUtf8(leId)); });
 }
 
 QString ObjetCommande::DonneTexte(QString const& leId) {
-    DocumentTexte const* const document = Document(leId);
-    return document ? VersQString(document->DonneOctets()) : QString();
+    return Fais([&] { return VersQString(Document(leId).DonneOctets()); });
 }
 
 QString ObjetCommande::DonneSelection(QString const& leId, int& debut, int& fin) {
-    DocumentTexte const* const document = Document(leId);
-    if (!document) {
-        return {};
-    }
-    Selection const& selection = document->DonneSelection();
-    debut = selection.plage.debut;
-    fin = selection.plage.fin;
-    return VersQString(Bureau::CleDeZone(document->DonneZones()[selection.zone].numero));
+    return Fais([&] {
+        DocumentTexte const& document = Document(leId);
+        compagnon::Selection const& selection = document.DonneSelection();
+        debut = selection.plage.debut;
+        fin = selection.plage.fin;
+        return VersQString(Bureau::CleDeZone(document.DonneZones()[selection.zone].numero));
+    });
 }
 
 QString ObjetCommande::DonneJournal() {
@@ -116,5 +115,3 @@ int ObjetCommande::AttendsAppels(QString const& methode, int nombre) {
 int ObjetCommande::DonneNombreAppelants() {
     return static_cast<int>(bureau_.DonneAppelants().Nombre());
 }
-
-} // namespace compagnon

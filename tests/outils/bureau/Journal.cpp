@@ -7,8 +7,6 @@
 
 #include <algorithm>
 
-namespace compagnon {
-
 namespace {
 
 // Cut when they come in, so that a flood of long texts takes no memory.
@@ -76,5 +74,3 @@ void Journal::Reponds() {
         });
     attentes_.erase(reste, attentes_.end());
 }
-
-} // namespace compagnon

@@ -8,8 +8,6 @@
 
 #include <vector>
 
-namespace compagnon {
-
 /// The calls received, in order, and those who wait for a number of them. Bounded.
 class Journal {
   public:
@@ -40,5 +38,3 @@ class Journal {
     QHash<QString, int> nombres_;
     std::vector<Attente> attentes_;
 };
-
-} // namespace compagnon

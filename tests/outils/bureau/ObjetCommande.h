@@ -2,11 +2,10 @@
 #pragma once
 
 #include "Dereglements.h"
+#include "Personne.h"
 
 #include <QDBusContext>
 #include <QObject>
-
-namespace compagnon {
 
 /// The object of the control interface; its operations are named and described in the interface's
 /// XML, from which the adaptor that calls them is generated.
@@ -15,7 +14,7 @@ class ObjetCommande : public QObject, protected QDBusContext {
 
   public:
     /// Both must outlive the object.
-    ObjetCommande(Bureau& bureau, Dereglements& dereglements, QObject* parent = nullptr);
+    ObjetCommande(compagnon::Bureau& bureau, Dereglements& dereglements, QObject* parent = nullptr);
 
     void Deregle(QString const& methode, QString const& comment, QString const& detail, int fois);
     void Retablis();
@@ -40,13 +39,12 @@ class ObjetCommande : public QObject, protected QDBusContext {
     void NomAReprendre();
 
   private:
-    template <class T>
-    T Rends(Resultat<T> resultat);
-    void Refuse(Erreur const& erreur);
-    DocumentTexte* Document(QString const& cle);
+    /// Does it, or answers with the error that it met.
+    template <class Travail>
+    auto Fais(Travail const& travail) -> decltype(travail());
+    compagnon::DocumentTexte& Document(QString const& cle);
 
-    Bureau& bureau_;
+    compagnon::Bureau& bureau_;
+    Personne personne_;
     Dereglements& dereglements_;
 };
-
-} // namespace compagnon

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "Programme.h"
+
+#include "ObjetBureau.h"
+#include "Publication.h"
+#include "Signaux.h"
+#include "VeilleAppelants.h"
+#include "coeur/Bureau.h"
+#include "coeur/MessagesTexte.h"
+#include "coeur/OptionsBureau.h"
+#include "documentsadaptor.h"
+#include "proxyadaptor.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <filesystem>
+#include <iostream>
+#include <random>
+
+namespace compagnon {
+
+namespace {
+
+enum Code { kTout = 0, kFichier = 1, kOption = 2, kBus = 3, kEnregistrement = 4 };
+
+void Avertis(std::string const& message) {
+    std::cerr << "vocalyne-bureau-texte: " << message << std::endl;
+}
+
+/// Nobody else's, nor one of our own of another day: a process number comes back.
+std::string InstanceNouvelle() {
+    static constexpr char kLettres[] = "abcdefghijklmnopqrstuvwxyz";
+    std::random_device source;
+    std::string instance = "texte_" + std::to_string(::getpid()) + "_";
+    for (int i = 0; i < 6; ++i) {
+        instance += kLettres[source() % 26];
+    }
+    return instance;
+}
+
+/// All files or none: a person who mistypes one name is told before anything is served.
+bool OuvreTous(Bureau& bureau, std::vector<std::string> const& fichiers) {
+    bool tous = true;
+    std::vector<LectureFichier> lues;
+    for (std::string const& chemin : fichiers) {
+        LectureFichier lecture = LisFichier(chemin);
+        std::error_code sansErreur;
+        std::string const absolu = std::filesystem::absolute(chemin, sansErreur).string();
+        auto const memeFichier = [&](LectureFichier const& autre) {
+            return autre.peripherique == lecture.peripherique && autre.numero == lecture.numero;
+        };
+        if (lecture.probleme != ProblemeFichier::Aucun) {
+            Avertis(DisProbleme(lecture, chemin));
+            tous = false;
+        } else if (std::any_of(lues.begin(), lues.end(), memeFichier)) {
+            Avertis(Dis({"{1} : donné deux fois", "{1}: given twice"}, {chemin}));
+            tous = false;
+        } else {
+            LectureFichier identite;
+            identite.peripherique = lecture.peripherique;
+            identite.numero = lecture.numero;
+            lues.push_back(identite);
+            if (!lecture.inscriptible) {
+                Avertis(Dis({"{1} : en lecture seule, rien n'y sera corrigé",
+                             "{1}: read-only, nothing will be corrected in it"},
+                            {chemin}));
+            }
+            bureau.Ouvre(absolu, std::move(lecture));
+        }
+    }
+    return tous;
+}
+
+bool EnregistreTous(Bureau& bureau) {
+    bool tous = true;
+    for (DocumentTexte& document : bureau.DonneDocuments()) {
+        std::optional<Ecriture> const ecriture = document.Enregistre();
+        if (!ecriture) {
+            continue;
+        }
+        if (ecriture->issue == IssueEcriture::Faite) {
+            Avertis(Dis({"{1} : enregistré", "{1}: saved"}, {document.DonneChemin()}));
+        } else {
+            Avertis(DisEcriture(*ecriture, document.DonneChemin()));
+            tous = false;
+        }
+    }
+    return tous;
+}
+
+int Sers(OptionsBureau const& options, Bureau& bureau, FabriqueDObjet const& fabrique) {
+    std::unique_ptr<ObjetBureau> objet; // goes after its publication
+    Publication publication(bureau.DonneInstance());
+    std::string erreur = publication.Connecte();
+    if (!erreur.empty()) {
+        Avertis(erreur);
+        return kBus;
+    }
+    objet = fabrique(bureau, !options.sansEnregistrer, publication);
+    new ProxyAdaptor(objet.get()); // owned by the object, as all adaptors are
+    new DocumentsAdaptor(objet.get());
+    VeilleAppelants veille(publication.DonneConnexion(), bureau.DonneAppelants());
+    Signaux signaux;
+    QObject::connect(objet.get(), &ObjetBureau::AppelantVu, &veille, &VeilleAppelants::Surveille);
+    QObject::connect(&signaux, &Signaux::FinDemandee, [] { QCoreApplication::exit(kTout); });
+    QObject::connect(&publication, &Publication::BusPerdu, [] {
+        Avertis(Dis({"Le bus de session a disparu", "The session bus is gone"}));
+        QCoreApplication::exit(kBus);
+    });
+    if (options.finAvecHote) {
+        QObject::connect(&veille, &VeilleAppelants::DernierParti,
+                         [] { QCoreApplication::exit(kTout); });
+    }
+    erreur = publication.Publie(objet.get());
+    if (!erreur.empty()) {
+        Avertis(erreur);
+        return kBus;
+    }
+    for (DocumentTexte const& document : bureau.DonneDocuments()) {
+        std::cout << bureau.DonneIdentifiant(document) << '\n';
+    }
+    std::cout.flush();
+
+    int const code = QCoreApplication::exec();
+    if (!options.sansEnregistrer && !EnregistreTous(bureau)) {
+        return kEnregistrement;
+    }
+    return code;
+}
+
+} // namespace
+
+int Programme(int argc, char* argv[], FabriqueDObjet const& fabrique) {
+    OptionsBureau const options = LisOptions(argc, argv);
+    switch (options.action) {
+    case Action::Aide:
+        std::cout << DonneAide();
+        return kTout;
+    case Action::Version:
+        std::cout << "vocalyne-bureau-texte " VOCALYNE_VERSION "\n";
+        return kTout;
+    case Action::Mauvaise:
+        Avertis(options.erreur);
+        std::cerr << DonneAide();
+        return kOption;
+    case Action::Sers:
+        break;
+    }
+    Signaux::Bloque();
+    Bureau bureau(options.instance.empty() ? InstanceNouvelle() : options.instance);
+    if (!OuvreTous(bureau, options.fichiers)) {
+        return kFichier;
+    }
+    QCoreApplication application(argc, argv);
+    return Sers(options, bureau, fabrique);
+}
+
+} // namespace compagnon
