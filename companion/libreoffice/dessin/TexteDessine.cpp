@@ -31,13 +31,15 @@ std::size_t Depart(PlanDePortions const& plan, std::size_t portion) {
     return position;
 }
 
-/// The engine gives letters put in where a portion became empty the format of another one.
-bool VideUnePortion(PlanDePortions const& plan,
-                    std::vector<compagnon::EtapeEdition> const& etapes) {
-    return plan.DonnePortions().size() > 1 &&
-           std::any_of(etapes.begin(), etapes.end(), [](compagnon::EtapeEdition const& etape) {
-               return !etape.EstInsertion() && etape.debut == 0 && etape.fin == etape.source.size();
-           });
+/// The engine gives letters put in where a portion became empty the format of another one. Where no
+/// letter is put in, none can get a wrong one.
+bool PerdUnFormat(PlanDePortions const& plan, std::vector<compagnon::EtapeEdition> const& etapes) {
+    auto const vide = [](compagnon::EtapeEdition const& etape) {
+        return !etape.EstInsertion() && etape.debut == 0 && etape.fin == etape.source.size();
+    };
+    return plan.DonnePortions().size() > 1 && std::any_of(etapes.begin(), etapes.end(), vide) &&
+           std::any_of(etapes.begin(), etapes.end(),
+                       [](compagnon::EtapeEdition const& etape) { return !etape.ajout.empty(); });
 }
 
 /// The paragraphs of these texts are zones of their own: one is never parted in two.
@@ -142,7 +144,7 @@ TexteDessine::Prepare(std::vector<ParagrapheLu> const& lus, std::size_t rang, st
         return std::nullopt;
     }
     auto etapes = plan.Prepare(debut, debut + avant.size(), apres);
-    if (etapes && (VideUnePortion(plan, *etapes) || OuvreUneLigne(*etapes))) {
+    if (etapes && (PerdUnFormat(plan, *etapes) || OuvreUneLigne(*etapes))) {
         return std::nullopt;
     }
     return etapes;

@@ -199,6 +199,17 @@ class Correction(Cas):
         self.annule()
         self.assertEqual((forme.String, parties_grasses(forme)), ("un chat noir\ndeux", ["chat"]))
 
+    def test_a_word_with_a_format_of_its_own_and_a_tab_can_be_taken_out(self):
+        forme = self.forme("un petit\tchat noir")
+        plage(forme, 9, 13).CharWeight = 150.0
+        plage(forme, 3, 8).CharPosture = ITALIQUE
+        self.corrige("petit", "")
+        self.assertEqual((forme.String, parties_grasses(forme)), ("un \tchat noir", ["chat"]))
+        self.corrige("\t", "")
+        self.assertEqual((forme.String, parties_grasses(forme)), ("un chat noir", ["chat"]))
+        self.annule(2)
+        self.assertEqual((forme.String, parties_grasses(forme)), ("un petit\tchat noir", ["chat"]))
+
     def test_offsets_behind_emoji_and_fields_are_exact(self):
         forme = self.forme("\U0001f600 a  faute")
         forme.insertTextContent(
