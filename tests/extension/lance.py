@@ -34,8 +34,8 @@ def options():
                                       formatter_class=argparse.RawDescriptionHelpFormatter)
     analyse.add_argument("--hote", metavar="BUILD",
                          help='also installs that build\'s host and plug-in, in "prefixe"')
-    analyse.add_argument("--avec", metavar="FILE", action="append", default=[],
-                         help="also copies this file into the folder; may be given again")
+    analyse.add_argument("--avec", metavar="PATH", action="append", default=[],
+                         help="also copies this file or folder there; may be given again")
     analyse.add_argument("--programme", action="store_true",
                          help="MODULE is a Python program with its arguments, not a test module")
     analyse.add_argument("oxt", type=pathlib.Path, metavar="OXT")
@@ -54,8 +54,12 @@ def main():
     ici = pathlib.Path(__file__).resolve().parent
     with tempfile.TemporaryDirectory(prefix="vocalyne-bureau-") as dossier:
         travail = pathlib.Path(dossier)
-        for source in [*ici.rglob("*.py"), *voulu.avec]:
-            shutil.copy(source, travail)
+        for source in [*ici.rglob("*.py"), *map(pathlib.Path, voulu.avec)]:
+            if source.is_dir():
+                shutil.copytree(source, travail / source.name,
+                                ignore=shutil.ignore_patterns("__pycache__"))
+            else:
+                shutil.copy(source, travail)
         shutil.copy(voulu.oxt, travail / "vocalyne-libreoffice.oxt")
         if voulu.hote:
             # Where the office's user can run them, whoever the build belongs to.
