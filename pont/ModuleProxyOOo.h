@@ -81,7 +81,8 @@ class ModuleProxyOOo : public virtual ImplAgentTexteur {
 
   protected:
     /// Lets go of the proxy: every operation then gives its neutral answer. Zones made before must
-    /// be gone.
+    /// be gone. For an agent that derives from this one; the bridge itself keeps the link as long
+    /// as the agent lives.
     void LibereProxy();
     VocalyneOpenOfficeProxyQDBUS* DonneProxy() const noexcept { return proxy_.get(); }
 

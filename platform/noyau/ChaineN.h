@@ -18,10 +18,6 @@ class VOCALYNE_NOYAU ChaineN {
     /// `longueur` times the unit `unite`; the empty string when `longueur` is below 1.
     ChaineN(int longueur, char16_t unite);
 
-    /// From bytes, through the converter kept for `codage` (see LibereConvertisseurPourCodage).
-    /// `longueur` bytes, or up to the NUL when negative. Not decodable: U+FFFD.
-    ChaineN(char const* octets, UniChaine::eCodage codage, int longueur = -1);
-
     explicit ChaineN(QString texte) noexcept
         : texte_(std::move(texte)) {}
 
@@ -34,20 +30,15 @@ class VOCALYNE_NOYAU ChaineN {
     /// Changes one unit; a position outside the string changes nothing.
     void MetsUnite(int position, char16_t unite);
 
-    /// Up to `longueur` units from `debut`; what lies outside the string is left out.
-    ChaineN Extrais(int debut, int longueur) const;
-
     /// As UniChaine::Remplace: false and no change for a start outside or a negative length.
     bool Remplace(int debut, int longueur, ChaineN const& texte);
 
     QString const& VersQString() const noexcept { return texte_; }
 
-    /// Releases the converter that the byte constructor keeps between calls. Called when a
-    /// connector is unloaded; the next conversion makes a new one. Safe on any thread.
+    /// Releases what the library keeps for converting between encodings. This one keeps nothing of
+    /// its own (Qt has its codecs, for as long as the process lives), so nothing is done; the
+    /// host's own library does, and a connector that is unloaded asks for it. Any thread.
     static void LibereConvertisseurPourCodage();
-
-    /// Is a converter being kept now? For tests and diagnosis.
-    static bool ConvertisseurEstTenu();
 
     friend bool operator==(ChaineN const& a, ChaineN const& b) noexcept {
         return a.texte_ == b.texte_;

@@ -26,7 +26,7 @@ struct PlageAttribut {
 /// (text without a run has attribute 0). Runs set one after the other are not merged, even where
 /// they touch and are equal: what was set can be read back as it was set.
 ///
-/// `C` is a string with `Longueur()`, `Extrais`, `Remplace` and `MetsUnite` (`ChaineN`). Setting
+/// `C` is a string with `Longueur()`, `Remplace` and `MetsUnite` (`ChaineN`). Setting
 /// runs in document order costs amortised constant time each; elsewhere a binary search and a move
 /// of the runs behind. Copying copies the runs and shares the text. Distinct objects may be used on
 /// distinct threads; one object on one thread at a time. Throws only std::bad_alloc.
@@ -51,13 +51,6 @@ class ChaineTemplateAvecAttributs {
 
     /// The runs, in text order; the reference lives until the object changes.
     Plages const& DonnePlages() const noexcept { return plages_; }
-
-    /// The attribute at a position, 0 where none was set or outside the text.
-    std::uint16_t DonneAttribut(int position) const noexcept {
-        auto const plage = PremiereFinissantApres(position);
-        return plage != plages_.end() && plage->debut <= position ? plage->attribut
-                                                                  : std::uint16_t{0};
-    }
 
     /// Gives `longueur` units from `debut` the attribute, in place of what they had; 0 clears.
     /// What lies outside the text is left out; a length below 1 sets nothing.

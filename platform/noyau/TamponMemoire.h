@@ -17,15 +17,11 @@ class VOCALYNE_NOYAU TamponMemoire {
     /// Appends `taille` bytes.
     void Ajoute(char const* octets, std::size_t taille);
 
-    /// Empties the buffer and keeps its room.
-    void Vide() noexcept { octets_.clear(); }
-
     /// The bytes, valid until the buffer changes; not ended by a NUL. Null may be returned when
     /// the buffer is empty.
     char const* DonneOctets() const noexcept { return octets_.data(); }
     /// In bytes.
     std::size_t DonneTaille() const noexcept { return octets_.size(); }
-    std::size_t DonneCapacite() const noexcept { return octets_.capacity(); }
 
   private:
     std::vector<char> octets_;

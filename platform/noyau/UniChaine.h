@@ -11,8 +11,7 @@
 ///
 /// Every index and length counts code units. A unit may be anything, U+0000 and half of a surrogate
 /// pair included: the string never repairs what it holds. An operation that is given positions uses
-/// them as they stand, also in the middle of a pair; one that chooses a position itself (`Abrege`)
-/// never splits a pair.
+/// them as they stand, also in the middle of a pair.
 ///
 /// Copies share their text until one of them changes (as QString does), so passing by value is
 /// cheap. Distinct objects may be used on distinct threads; one object on one thread at a time.
@@ -23,14 +22,13 @@ class VOCALYNE_NOYAU UniChaine {
     enum eCodage : int {
         kCodageLitteral = -997, ///< narrow literals of the program's sources (UTF-8)
         kCodageUtf8 = -998,     ///< UTF-8 from outside
-        kCodageLatin1 = -999,   ///< ISO 8859-1
     };
 
     UniChaine() noexcept = default;
 
     /// From `longueur` bytes of `octets`, or up to its NUL when `longueur` is negative. A null
-    /// pointer gives the empty string. Bytes that do not decode become U+FFFD; an unknown encoding
-    /// is read as UTF-8.
+    /// pointer gives the empty string. Bytes that do not decode become U+FFFD. Every encoding is
+    /// read as UTF-8.
     UniChaine(char const* octets, eCodage codage, int longueur = -1);
 
     /// From `longueur` code units; a null pointer or a length below 1 gives the empty string.
@@ -47,27 +45,14 @@ class VOCALYNE_NOYAU UniChaine {
     int Longueur() const noexcept { return texte_.size(); }
     bool EstVide() const noexcept { return texte_.isEmpty(); }
 
-    /// The unit at `position`, or 0 when `position` is outside [0, Longueur()).
-    char16_t DonneUnite(int position) const noexcept;
-
     /// Up to `longueur` units from `debut`; what lies outside the string is left out.
     UniChaine Extrais(int debut, int longueur) const;
-
-    /// First place of `motif` at or after `depuis`, or -1. The empty string is found at `depuis`
-    /// when that lies in [0, Longueur()].
-    int Trouve(UniChaine const& motif, int depuis = 0) const noexcept;
 
     void Ajoute(UniChaine const& texte);
 
     /// Replaces `longueur` units from `debut` by `texte`. A length that runs past the end is cut
     /// there. A start outside [0, Longueur()] or a negative length changes nothing and gives false.
     bool Remplace(int debut, int longueur, UniChaine const& texte);
-
-    /// Keeps at most `longueurMax` units from the start; keeps one less rather than half of a
-    /// surrogate pair.
-    void Abrege(int longueurMax);
-
-    void Vide() { texte_.clear(); }
 
     /// UTF-8 bytes, U+0000 kept; half of a pair standing alone becomes "?".
     std::string VersUtf8() const;

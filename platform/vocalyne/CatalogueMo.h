@@ -1,27 +1,22 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
 #include <locale>
 #include <string>
 #include <vector>
 
-/// A gettext catalog (.mo) as bytes.
+/// A gettext catalog (.mo) as bytes, which come with a library: nothing else is read.
 ///
-/// Boost.Locale follows most offsets of a catalog without looking whether they lie in it, and so
-/// reads outside of one that is cut short or damaged. This class looks first.
+/// So what stands in them is looked at no further than whether it is a catalog at all, lest a file
+/// put in by mistake take the place of one that serves. Boost.Locale follows a catalog's offsets
+/// without looking; whoever can put wrong ones into a library can put wrong code into it as well.
+/// One object on one thread at a time.
 class CatalogueMo {
   public:
     CatalogueMo() = default;
-    explicit CatalogueMo(std::vector<char> octets)
-        : octets_(std::move(octets)) {}
 
-    /// The catalog at a resource path; no bytes when there is none.
+    /// The catalog at a resource path (":/…"); no bytes when there is none.
     static CatalogueMo DepuisRessource(std::string const& chemin);
-
-    /// Does every table, identifier and translation lie in the catalog, ended as it must be?
-    bool EstSain() const;
 
     bool EstVide() const noexcept { return octets_.empty(); }
 
@@ -31,13 +26,5 @@ class CatalogueMo {
     std::locale FaisLocale() const;
 
   private:
-    static constexpr std::size_t kMotTailleHachage =
-        20; ///< place of a word of the header, in bytes
-
-    std::uint32_t Mot(std::size_t position) const;
-    bool TableEstSaine(std::uint32_t position, std::uint32_t nombre) const;
-    bool EnteteEstSaine(std::uint32_t traductions) const;
-    bool HachageEstSain() const;
-
     std::vector<char> octets_;
 };

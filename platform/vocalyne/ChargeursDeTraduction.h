@@ -18,8 +18,6 @@ class ChargeursDeTraduction {
     /// Runs every loader whose code is still there and forgets the others.
     void Execute();
 
-    int DonneNombre() const noexcept { return static_cast<int>(chargeurs_.size()); }
-
   private:
     using Fonction = void (*)();
 

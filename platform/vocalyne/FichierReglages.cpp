@@ -37,9 +37,7 @@ bool FichierReglages::Ecris(Changements const& changements) {
     for (auto const& [cle, valeur] : changements) {
         // QSettings keeps what it wrote in a cache that lives as long as the process.
         if (valeur) {
-            ecriture.setValue(CopieDurable(cle), valeur->type() == QVariant::String
-                                                     ? CopieDurable(valeur->toString())
-                                                     : *valeur);
+            ecriture.setValue(CopieDurable(cle), *valeur);
         } else {
             ecriture.remove(cle);
         }

@@ -13,15 +13,16 @@
 /// rewritten when something in it would be lost by that. One object on one thread at a time.
 class FichierReglages {
   public:
-    /// What to write: a value for a key, or nothing to take the key out.
-    using Changements = std::map<QString, std::optional<QVariant>>;
+    /// What to write: a number for a key, or nothing to take the key out.
+    using Changements = std::map<QString, std::optional<int>>;
 
     FichierReglages(QString const& chemin, QSettings::Format format);
 
     /// The value of a key. `relis` looks whether the file changed since it was last read.
     std::optional<QVariant> Lis(QString const& cle, bool relis);
 
-    /// Writes the changes at once and keeps the file's other keys. False when it cannot be
+    /// Writes the changes at once (QSettings does so under a lock file and through QSaveFile, so
+    /// that the file is never half of one) and keeps the file's other keys. False when it cannot be
     /// written, or stands there and cannot be read whole; the file is then left as it was.
     bool Ecris(Changements const& changements);
 

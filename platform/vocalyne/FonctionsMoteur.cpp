@@ -12,7 +12,7 @@ bool vocalyneFaisLocale(CatalogueMo const& catalogue, std::locale& locale) {
         locale = catalogue.FaisLocale();
         return true;
     } catch (std::exception const&) {
-        // Sound as a file, but in an encoding or with a plural rule that Boost does not know.
+        // In an encoding or with a plural rule that Boost does not know.
         return false;
     }
 }

@@ -3,22 +3,13 @@
 
 #include <boost/locale/gnu_gettext.hpp>
 
-#include <algorithm>
-
 std::locale CatalogueMo::FaisLocale() const {
     boost::locale::gnu_gettext::messages_info infos;
     infos.language = "C";
     infos.encoding = "UTF-8";
     infos.paths.emplace_back();
     infos.domains.emplace_back("catalogue");
-    infos.callback = [this](std::string const&, std::string const&) {
-        auto octets = octets_;
-        // Without its hash table Boost converts every message into one of its own: slow, but sure.
-        if (!HachageEstSain()) {
-            std::fill_n(octets.begin() + kMotTailleHachage, sizeof(std::uint32_t), '\0');
-        }
-        return octets;
-    };
+    infos.callback = [this](std::string const&, std::string const&) { return octets_; };
     auto* const messages = boost::locale::gnu_gettext::create_messages_facet<char>(infos);
     return messages != nullptr ? std::locale(std::locale::classic(), messages)
                                : std::locale::classic();

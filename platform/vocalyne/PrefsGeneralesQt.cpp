@@ -3,27 +3,23 @@
 
 #include "FichierReglages.h"
 
+#include <map>
+#include <optional>
+
 struct PrefsGeneralesQt::Contenu {
     FichierReglages fichier;
-    ePrefsGenAcces acces;
     std::map<QString, std::optional<QVariant>> lues; ///< what `conserve` kept, absences too
-    FichierReglages::Changements aEcrire;
 };
 
 PrefsGeneralesQt::PrefsGeneralesQt(UniChaine const& chemin, ePrefsGenMode /*mode*/,
-                                   ePrefsGenAcces acces, QSettings::Format format)
-    : contenu_(new Contenu{FichierReglages(chemin.VersQString(), format), acces, {}, {}}) {}
+                                   ePrefsGenAcces /*acces*/, QSettings::Format format)
+    : contenu_(new Contenu{FichierReglages(chemin.VersQString(), format), {}}) {}
 
-PrefsGeneralesQt::~PrefsGeneralesQt() {
-    Enregistre();
-}
+PrefsGeneralesQt::~PrefsGeneralesQt() = default;
 
 QVariant PrefsGeneralesQt::Donne(UniChaine const& cle, QVariant const& defaut,
                                  bool conserve) const {
     QString const& nom = cle.VersQString();
-    if (auto const mise = contenu_->aEcrire.find(nom); mise != contenu_->aEcrire.end()) {
-        return mise->second.value_or(defaut);
-    }
     auto lue = contenu_->lues.find(nom);
     if (lue != contenu_->lues.end() && conserve) {
         return lue->second.value_or(defaut);
@@ -33,23 +29,4 @@ QVariant PrefsGeneralesQt::Donne(UniChaine const& cle, QVariant const& defaut,
         contenu_->lues[nom] = valeur;
     }
     return valeur.value_or(defaut);
-}
-
-bool PrefsGeneralesQt::Mets(UniChaine const& cle, QVariant const& valeur) {
-    if (contenu_->acces != kPrefsGenLectureEcriture || cle.EstVide()) {
-        return false;
-    }
-    contenu_->aEcrire[cle.VersQString()] = valeur;
-    return true;
-}
-
-bool PrefsGeneralesQt::Enregistre() {
-    if (!contenu_->fichier.Ecris(contenu_->aEcrire)) {
-        return false;
-    }
-    for (auto const& [cle, valeur] : contenu_->aEcrire) {
-        contenu_->lues.erase(cle);
-    }
-    contenu_->aEcrire.clear();
-    return true;
 }

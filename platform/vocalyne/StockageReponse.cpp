@@ -38,7 +38,7 @@ class StockeurReglages final : public StockeurReponse {
         return estEntier ? std::make_optional(reponse) : std::nullopt;
     }
     bool Mets(UniChaine const& dialogue, int reponse) override {
-        return fichier_.Ecris({{Cle(dialogue), QVariant(reponse)}});
+        return fichier_.Ecris({{Cle(dialogue), reponse}});
     }
     void Oublie(UniChaine const& dialogue) override {
         if (fichier_.Lis(Cle(dialogue), true)) {

@@ -25,7 +25,8 @@ class VOCALYNE_OUTILS StockeurReponse {
     /// The answer remembered for a dialogue, if any.
     virtual std::optional<int> Donne(UniChaine const& dialogue) const = 0;
     /// Remembers an answer; false when it could not be kept (a settings file that cannot be
-    /// written, or is damaged: see PrefsGeneralesQt::Enregistre).
+    /// written, or is damaged: writing would drop what QSettings does not understand, so it is left
+    /// as it was).
     virtual bool Mets(UniChaine const& dialogue, int reponse) = 0;
     /// Forgets a dialogue's answer.
     virtual void Oublie(UniChaine const& dialogue) = 0;

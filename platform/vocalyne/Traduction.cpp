@@ -90,7 +90,7 @@ void InitLocaleAvecQRC(DomaineDeTraduction** domaine, UniChaine const& chemin, e
         return;
     }
     auto catalogue = CatalogueMo::DepuisRessource(chemin.VersUtf8());
-    if (!catalogue.EstSain()) {
+    if (catalogue.EstVide()) {
         return;
     }
     std::lock_guard<std::mutex> const garde(DonneRegistre().verrou);

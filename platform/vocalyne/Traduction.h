@@ -27,7 +27,8 @@ VOCALYNE_OUTILS void AjouterAuxDomainesDeTraduction(std::function<void()> charge
 /// The first call for a domain makes the domain and writes its address to `*domaine`; it serves the
 /// messages' own identifiers (French text) until a catalog is loaded. The catalog is loaded when
 /// `langue` is the display language, or whatever the language when `quelleQueSoitLaLangue`. A
-/// catalog that is missing or that cannot be read leaves the domain as it was. The bytes are
+/// resource that is missing, or that is no catalog, leaves the domain as it was; a path that is no
+/// resource's (":/…") is not read. The bytes are
 /// copied: the resource may go away afterwards.
 VOCALYNE_OUTILS void InitLocaleAvecQRC(DomaineDeTraduction** domaine, UniChaine const& chemin,
                                        eLangue langue, bool quelleQueSoitLaLangue);

@@ -50,7 +50,7 @@ TEST(AlertsInEnglish, SayThatTheConnectorIsNotUpToDate) {
     Parle(kLangueAnglais);
     auto const info = AlerteDe([] { AlerteConnecteurPasAJour({}, U(u"Writer")); });
     EXPECT_EQ(U(u"The Vocalyne connector for Writer is not up to date."), info.DonneTexte());
-    EXPECT_NE(-1, info.DonneInformation().Trouve(U(u"connector installer")));
+    EXPECT_NE(-1, Trouve(info.DonneInformation(), u"connector installer"));
 }
 
 TEST(AlertsInEnglish, SayThatACallIsImpossible) {
@@ -103,10 +103,10 @@ TEST(AlertsInBothLanguages, NameTheApplicationOnce) {
             auto const info = AlerteDe(alerte);
             auto tout = info.DonneTexte();
             tout.Ajoute(info.DonneInformation());
-            auto const place = tout.Trouve(U(u"#nom#"));
+            auto const place = Trouve(tout, u"#nom#");
             EXPECT_NE(-1, place);
-            EXPECT_EQ(-1, tout.Trouve(U(u"#nom#"), place + 1));
-            EXPECT_EQ(-1, tout.Trouve(U(u"{")));
+            EXPECT_EQ(-1, Trouve(tout, u"#nom#", place + 1));
+            EXPECT_EQ(-1, Trouve(tout, u"{"));
         }
     }
 }

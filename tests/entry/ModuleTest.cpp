@@ -4,7 +4,6 @@
 #include "ModuleTexteur.h"
 
 #include "Catalogues.h"
-#include "ChaineN.h"
 #include "StockageReponse.h"
 #include "domaineTexteur.h"
 #include "outils/Textes.h"
@@ -75,13 +74,6 @@ TEST_F(Module, CleanUpReleasesEveryStorerOnceAndEmptiesTheirMap) {
     LibereModule();
     EXPECT_EQ(2, destructions);
     EXPECT_TRUE(stockeurs.empty());
-}
-
-TEST_F(Module, CleanUpReleasesTheStringLibrarysConverter) {
-    sdd::ChaineN const chaine("é", UniChaine::kCodageUtf8);
-    ASSERT_TRUE(sdd::ChaineN::ConvertisseurEstTenu());
-    LibereModule();
-    EXPECT_FALSE(sdd::ChaineN::ConvertisseurEstTenu());
 }
 
 TEST_F(Module, CleanUpDeletesTheApplicationThatTheModuleHadMade) {

@@ -3,6 +3,15 @@
 
 #include <iomanip>
 
+std::uint16_t AttributEn(TexteAvecAttributs const& texte, int position) {
+    for (auto const& plage : texte.DonnePlages()) {
+        if (plage.debut <= position && position < plage.fin) {
+            return plage.attribut;
+        }
+    }
+    return 0;
+}
+
 UniChaine Bourre(int longueur) {
     return sdd::T(sdd::ChaineN(longueur, u'\x07'));
 }
@@ -10,7 +19,7 @@ UniChaine Bourre(int longueur) {
 void PrintTo(UniChaine const& texte, std::ostream* sortie) {
     *sortie << texte.Longueur() << " units \"";
     for (int i = 0; i < texte.Longueur(); ++i) {
-        auto const unite = static_cast<unsigned>(texte.DonneUnite(i));
+        auto const unite = static_cast<unsigned>(texte.VersQString().at(i).unicode());
         if (unite >= ' ' && unite < 0x7F) {
             *sortie << static_cast<char>(unite);
         } else {

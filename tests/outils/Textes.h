@@ -4,6 +4,7 @@
 #include "InterfaceZoneDeTexte.h"
 #include "UniChaine.h"
 
+#include <cstdint>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -21,6 +22,14 @@ inline TexteAvecAttributs A(std::u16string_view unites) {
 /// The text alone.
 inline UniChaine TexteDe(TexteAvecAttributs const& texte) {
     return sdd::T(texte.DonneTexte());
+}
+
+/// The attribute at a position, 0 where no run holds it.
+std::uint16_t AttributEn(TexteAvecAttributs const& texte, int position);
+
+/// The first place of `motif` at or after `depuis`, or -1.
+inline int Trouve(UniChaine const& texte, std::u16string_view motif, int depuis = 0) {
+    return texte.VersQString().indexOf(U(motif).VersQString(), depuis);
 }
 
 /// `longueur` times the filler that stands for text that was not read.

@@ -108,7 +108,7 @@ TEST(LibreOfficeZone, ItsAgentSeesTheTextBeforeTheHostDoes) {
             : InterfaceTexteur(U(u"essai~doc"))
             , AgentEssai(U(u"essai~doc")) {}
         void TraiteTexteLu(TexteAvecAttributs& texte) override {
-            EXPECT_EQ(9, texte.DonneAttribut(0)) << "with its styles";
+            EXPECT_EQ(9, texte.DonnePlages().at(0).attribut) << "with its styles";
             texte.MetsUnite(0, u'!');
         }
     };

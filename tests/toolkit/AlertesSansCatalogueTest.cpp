@@ -42,9 +42,9 @@ TEST(ConnectorAlerts, AnOldConnectorIsSaidInTheMainTextWithTheAdviceBelow) {
     auto const info = AlerteDe([] { AlerteConnecteurPasAJour(U(u"never read"), U(u"Writer")); });
     EXPECT_EQ(U(u"Le connecteur d’Vocalyne installé dans Writer n’est pas à jour."),
               info.DonneTexte());
-    EXPECT_NE(-1, info.DonneInformation().Trouve(
-                      U(u"«\u00A0Installation dans vos logiciels\u00A0» du menu Aide")));
-    EXPECT_EQ(-1, info.DonneInformation().Trouve(U(u"never read")));
+    EXPECT_NE(-1, Trouve(info.DonneInformation(),
+                         u"«\u00A0Installation dans vos logiciels\u00A0» du menu Aide"));
+    EXPECT_EQ(-1, Trouve(info.DonneInformation(), u"never read"));
 }
 
 TEST(ConnectorAlerts, AnImpossibleCallIsSaidInTheMainTextWithTheAdviceBelow) {
@@ -81,9 +81,9 @@ TEST(ConnectorAlerts, ApplicationNamesAreTakenAsTheyAre) {
 TEST(ConnectorAlerts, AnApplicationNameThatIsNoTextIsStillShown) {
     char16_t const moitie[] = {u'a', 0xD83D, u'b'};
     auto info = AlerteDe([&] { AlerteConnecteurRequis(UniChaine(moitie, 3)); });
-    EXPECT_NE(-1, info.DonneTexte().Trouve(U(u"pour a?b n"))) << "half of a pair becomes \"?\"";
+    EXPECT_NE(-1, Trouve(info.DonneTexte(), u"pour a?b n")) << "half of a pair becomes \"?\"";
     info = AlerteDe([] { AlerteConnecteurRequis(UniChaine(u"a\0b", 3)); });
-    EXPECT_NE(-1, info.DonneTexte().Trouve(U(u" nécessite l’installation")));
+    EXPECT_NE(-1, Trouve(info.DonneTexte(), u" nécessite l’installation"));
 }
 
 } // namespace

@@ -42,7 +42,7 @@ class ConnecteurEssai : public ConnecteurMuet {
     std::vector<std::string> ordre;     ///< the bounds' operations, in the order of their calls
 
     TexteAvecAttributs Extrait(int debut, int fin) const {
-        TexteAvecAttributs extrait(document.DonneTexte().Extrais(debut, fin - debut));
+        TexteAvecAttributs extrait(sdd::T(TexteDe(document).Extrais(debut, fin - debut)));
         for (auto const& plage : document.DonnePlages()) {
             extrait.MetsAttribut(plage.debut - debut, plage.Longueur(), plage.attribut);
         }

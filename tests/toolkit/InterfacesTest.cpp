@@ -61,7 +61,7 @@ TEST(InterfaceTexteur, ReservedQuestionsAnswerZeroUntilAConnectorAnswersOtherwis
 TEST(InterfaceTexteur, KeepsACopyOfTheIdentifierAndStartsInStateZero) {
     auto identificateur = U(u"instance~document");
     TexteurSeul texteur(identificateur);
-    identificateur.Vide();
+    identificateur = UniChaine();
     EXPECT_EQ(U(u"instance~document"), texteur.DonneIdentificateur());
     EXPECT_EQ(0, texteur.DonneEtat());
 }

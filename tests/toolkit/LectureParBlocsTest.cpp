@@ -134,7 +134,7 @@ TEST(ZoneFilling, AttributesOfTheBlocksStandAtTheirPlaceInTheZone) {
     auto const seconde = zones.DonneZone(1)->DonneTexte();
     EXPECT_EQ(connecteur.Extrait(0, 4), premiere);
     for (int i = 0; i < 12; ++i) {
-        EXPECT_EQ(connecteur.document.DonneAttribut(i + 4), seconde.DonneAttribut(i)) << i;
+        EXPECT_EQ(AttributEn(connecteur.document, i + 4), AttributEn(seconde, i)) << i;
     }
 }
 

@@ -78,12 +78,6 @@ class Modele {
         return plages;
     }
 
-    std::uint16_t DonneAttribut(int position) const {
-        return position >= 0 && position < Longueur()
-                   ? cases_[static_cast<std::size_t>(position)].attribut
-                   : std::uint16_t{0};
-    }
-
     QString DonneTexte() const {
         QString texte;
         for (auto const& c : cases_) {
@@ -170,9 +164,6 @@ TEST_P(AttributedStringAgainstAModel, AnswersAlikeAfterEveryOperation) {
         }
         ASSERT_EQ(modele.DonneTexte(), chaine.DonneTexte().VersQString());
         ASSERT_EQ(modele.DonnePlages(), chaine.DonnePlages()) << "round " << tour;
-        for (int i = -2; i < modele.Longueur() + 2; ++i) {
-            ASSERT_EQ(modele.DonneAttribut(i), chaine.DonneAttribut(i));
-        }
     }
 }
 

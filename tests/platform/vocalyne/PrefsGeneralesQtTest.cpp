@@ -19,10 +19,8 @@ class Settings : public testing::Test {
   protected:
     Settings() { dossier_.CedeAPersonne(); }
 
-    /// Opens the file; null when nothing is to be written.
-    static std::unique_ptr<PrefsGeneralesQt> Ouvre(UniChaine const& chemin,
-                                                   ePrefsGenAcces acces = kPrefsGenLecture) {
-        return std::make_unique<PrefsGeneralesQt>(chemin, kPrefsGenDirect, acces,
+    static std::unique_ptr<PrefsGeneralesQt> Ouvre(UniChaine const& chemin) {
+        return std::make_unique<PrefsGeneralesQt>(chemin, kPrefsGenDirect, kPrefsGenLecture,
                                                   QSettings::NativeFormat);
     }
     static int Langue(UniChaine const& chemin) {
@@ -55,15 +53,12 @@ TEST_F(Settings, AMissingKeyReadsAsTheDefault) {
 TEST_F(Settings, ReadingAMissingFileCreatesNothing) {
     EXPECT_EQ(0, Langue(chemin_));
     EXPECT_EQ(0, Langue(Chemin("sous/dossier/vocalyne.conf")));
-    Ouvre(chemin_, kPrefsGenLectureEcriture)->Donne(U("a"), QVariant(), false);
+    Ouvre(chemin_)->Donne(U("a"), QVariant(), false);
     EXPECT_TRUE(dossier_.Noms().empty());
 }
 
-TEST_F(Settings, AnEmptyPathHasNoKeysAndCannotBeWritten) {
-    auto const prefs = Ouvre(UniChaine(), kPrefsGenLectureEcriture);
-    EXPECT_EQ(QVariant(3), prefs->Donne(U("a"), QVariant(3), true));
-    EXPECT_TRUE(prefs->Mets(U("a"), QVariant(1)));
-    EXPECT_FALSE(prefs->Enregistre());
+TEST_F(Settings, AnEmptyPathHasNoKeys) {
+    EXPECT_EQ(QVariant(3), Ouvre(UniChaine())->Donne(U("a"), QVariant(3), true));
 }
 
 TEST_F(Settings, ADirectoryOrBytesInTheFilesPlaceReadAsHavingNoKeys) {
@@ -82,62 +77,11 @@ TEST_F(Settings, AValueThatIsNoNumberReadsAsZero) {
     EXPECT_EQ(0, Langue(chemin_));
 }
 
-TEST_F(Settings, AnUnreadableFileReadsAsHavingNoKeysAndIsNotReplaced) {
+TEST_F(Settings, AnUnreadableFileReadsAsHavingNoKeys) {
     dossier_.Ecris("vocalyne.conf", "[g]\na=1\n");
-    DossierTemporaire::Interdit interdit(dossier_.Chemin("vocalyne.conf"));
-    auto const prefs = Ouvre(chemin_, kPrefsGenLectureEcriture);
+    DossierTemporaire::Interdit const interdit(dossier_.Chemin("vocalyne.conf"));
+    auto const prefs = Ouvre(chemin_);
     EXPECT_EQ(QVariant(5), prefs->Donne(U("g/a"), QVariant(5), true));
-    EXPECT_TRUE(prefs->Mets(U("g/a"), QVariant(2)));
-    EXPECT_FALSE(prefs->Enregistre());
-    interdit.Leve();
-    EXPECT_EQ("[g]\na=1\n", dossier_.Lis("vocalyne.conf"));
-}
-
-TEST_F(Settings, WritingKeepsEveryOtherKey) {
-    dossier_.Ecris("vocalyne.conf", "sansGroupe=1\n[Autre]\ncl\\xe9=\\x20ac\nliste=a, b\n"
-                                    "[Adaptateurs2]\nx=@ByteArray(ab)\n");
-    {
-        auto const prefs = Ouvre(chemin_, kPrefsGenLectureEcriture);
-        EXPECT_TRUE(prefs->Mets(U(kCleLangue), QVariant(1)));
-    }
-    auto const prefs = Ouvre(chemin_);
-    EXPECT_EQ(1, Langue(chemin_));
-    EXPECT_EQ(QStringLiteral("1"), prefs->Donne(U("sansGroupe"), QVariant(), true));
-    EXPECT_EQ(QStringList({QStringLiteral("a"), QStringLiteral("b")}),
-              prefs->Donne(U("Autre/liste"), QVariant(), true));
-    EXPECT_EQ(QByteArray("ab"), prefs->Donne(U("Adaptateurs2/x"), QVariant(), true));
-    auto const contenu = dossier_.Lis("vocalyne.conf");
-    EXPECT_NE(std::string::npos, contenu.find("20ac")) << contenu;
-}
-
-TEST_F(Settings, AFileThatDoesNotParseIsNotRewritten) {
-    std::string const contenu = "[g]\na=1\nthis is no setting\n";
-    dossier_.Ecris("vocalyne.conf", contenu);
-    auto const lecture = Ouvre(chemin_);
-    lecture->Donne(U("g/a"), QVariant(), true);
-    auto const prefs = Ouvre(chemin_, kPrefsGenLectureEcriture);
-    EXPECT_TRUE(prefs->Mets(U("g/b"), QVariant(2)));
-    EXPECT_FALSE(prefs->Enregistre());
-    EXPECT_EQ(contenu, dossier_.Lis("vocalyne.conf"));
-}
-
-TEST_F(Settings, WhatWasSetIsReadBackBeforeItIsWritten) {
-    auto const prefs = Ouvre(chemin_, kPrefsGenLectureEcriture);
-    EXPECT_TRUE(prefs->Mets(U("g/a"), QVariant(4)));
-    EXPECT_EQ(QVariant(4), prefs->Donne(U("g/a"), QVariant(), true));
-    EXPECT_EQ(QVariant(4), prefs->Donne(U("g/a"), QVariant(), false));
-    EXPECT_TRUE(dossier_.Noms().empty());
-    EXPECT_TRUE(prefs->Enregistre());
-    EXPECT_FALSE(dossier_.Noms().empty());
-    EXPECT_EQ(4, prefs->Donne(U("g/a"), QVariant(), true).toInt());
-}
-
-TEST_F(Settings, NothingIsSetWhereTheFileWasOpenedForReading) {
-    dossier_.Ecris("vocalyne.conf", "[g]\na=1\n");
-    auto const prefs = Ouvre(chemin_);
-    EXPECT_FALSE(prefs->Mets(U("g/a"), QVariant(2)));
-    EXPECT_TRUE(prefs->Enregistre()); // there is nothing to write
-    EXPECT_EQ("[g]\na=1\n", dossier_.Lis("vocalyne.conf"));
 }
 
 TEST_F(Settings, AKeptValueStaysAndTheOtherFollowsTheFile) {
@@ -149,27 +93,6 @@ TEST_F(Settings, AKeptValueStaysAndTheOtherFollowsTheFile) {
     EXPECT_EQ(1, prefs->Donne(U("g/a"), QVariant(), true).toInt());
     EXPECT_EQ(20, prefs->Donne(U("g/b"), QVariant(), true).toInt());
     EXPECT_EQ(20, prefs->Donne(U("g/a"), QVariant(), false).toInt());
-}
-
-TEST_F(Settings, WhatAnotherProcessWroteMeanwhileIsKept) {
-    dossier_.Ecris("vocalyne.conf", "[g]\na=1\n");
-    auto const prefs = Ouvre(chemin_, kPrefsGenLectureEcriture);
-    EXPECT_EQ(1, prefs->Donne(U("g/a"), QVariant(), true).toInt());
-    EXPECT_TRUE(prefs->Mets(U("g/b"), QVariant(2)));
-    dossier_.Ecris("vocalyne.conf", "[g]\na=30\nc=300\n");
-    EXPECT_TRUE(prefs->Enregistre());
-    auto const relu = Ouvre(chemin_);
-    EXPECT_EQ(30, relu->Donne(U("g/a"), QVariant(), true).toInt());
-    EXPECT_EQ(2, relu->Donne(U("g/b"), QVariant(), true).toInt());
-    EXPECT_EQ(300, relu->Donne(U("g/c"), QVariant(), true).toInt());
-}
-
-TEST_F(Settings, APlaceThatCannotBeWrittenIsReported) {
-    dossier_.Ecris("fichier", "x");
-    auto const prefs = Ouvre(Chemin("fichier/vocalyne.conf"), kPrefsGenLectureEcriture);
-    EXPECT_TRUE(prefs->Mets(U("g/a"), QVariant(1)));
-    EXPECT_FALSE(prefs->Enregistre());
-    EXPECT_EQ("x", dossier_.Lis("fichier"));
 }
 
 } // namespace

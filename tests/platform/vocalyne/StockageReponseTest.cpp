@@ -86,9 +86,24 @@ TEST_F(RememberedAnswers, NamesThatASettingsKeyCannotHoldAreKeptApart) {
 }
 
 TEST_F(RememberedAnswers, TheSettingsFileKeepsWhatElseStandsInIt) {
-    dossier_.Ecris("vocalyne.conf", "[Adaptateurs2]\nlangue=2\n");
+    dossier_.Ecris("vocalyne.conf", "sansGroupe=1\n[Adaptateurs2]\nlangue=2\nx=@ByteArray(ab)\n"
+                                    "[Autre]\ncl\\xe9=\\x20ac\nliste=a, b\n");
     EXPECT_TRUE(Fais(DDialogue::kStockeurReglages).Mets(U("a"), 1));
-    EXPECT_NE(std::string::npos, dossier_.Lis("vocalyne.conf").find("[Adaptateurs2]\nlangue=2\n"));
+    auto const contenu = dossier_.Lis("vocalyne.conf");
+    for (auto const* ligne :
+         {"sansGroupe=1", "langue=2", "x=@ByteArray(ab)", "20ac", "liste=a, b"}) {
+        EXPECT_NE(std::string::npos, contenu.find(ligne)) << ligne << " in " << contenu;
+    }
+}
+
+TEST_F(RememberedAnswers, WhatAnotherProcessWroteMeanwhileIsKept) {
+    dossier_.Ecris("vocalyne.conf", "[g]\na=1\n");
+    auto& stockeur = Fais(DDialogue::kStockeurReglages);
+    EXPECT_EQ(std::nullopt, stockeur.Donne(U("a")));
+    dossier_.Ecris("vocalyne.conf", "[g]\na=30\nc=300\n");
+    EXPECT_TRUE(stockeur.Mets(U("a"), 1));
+    auto const contenu = dossier_.Lis("vocalyne.conf");
+    EXPECT_NE(std::string::npos, contenu.find("a=30\nc=300\n")) << contenu;
 }
 
 TEST_F(RememberedAnswers, AnAnswerThatIsNoNumberIsNone) {
@@ -99,10 +114,27 @@ TEST_F(RememberedAnswers, AnAnswerThatIsNoNumberIsNone) {
     EXPECT_EQ(std::nullopt, stockeur.Donne(U("a")));
 }
 
+TEST_F(RememberedAnswers, AFileThatIsDamagedIsNotRewritten) {
+    std::string const contenu = "[g]\na=1\nthis is no setting\n";
+    dossier_.Ecris("vocalyne.conf", contenu);
+    auto& stockeur = Fais(DDialogue::kStockeurReglages);
+    EXPECT_EQ(std::nullopt, stockeur.Donne(U("a")));
+    EXPECT_FALSE(stockeur.Mets(U("a"), 1));
+    EXPECT_EQ(contenu, dossier_.Lis("vocalyne.conf"));
+}
+
 TEST_F(RememberedAnswers, AnAnswerThatCannotBeKeptIsReported) {
-    dossier_.Ecris("vocalyne.conf", "no setting at all\n");
-    EXPECT_FALSE(Fais(DDialogue::kStockeurReglages).Mets(U("a"), 1));
-    EXPECT_EQ("no setting at all\n", dossier_.Lis("vocalyne.conf"));
+    dossier_.CedeAPersonne();
+    dossier_.Ecris("vocalyne.conf", "[g]\na=1\n");
+    {
+        DossierTemporaire::Interdit const interdit(dossier_.Chemin("vocalyne.conf"));
+        EXPECT_FALSE(Fais(DDialogue::kStockeurReglages).Mets(U("a"), 1));
+    }
+    EXPECT_EQ("[g]\na=1\n", dossier_.Lis("vocalyne.conf"));
+    StockageReponse::Initialise(DDialogue::kStockeurReglages, Chemin("vocalyne.conf/x"),
+                                QSettings::NativeFormat);
+    EXPECT_FALSE(
+        StockageReponse::laListeStockeurDefaut.at(DDialogue::kStockeurReglages)->Mets(U("a"), 1));
 }
 
 } // namespace

@@ -2,7 +2,9 @@
 #include "Traduction.h"
 #include "InitialisationGenerale.h"
 
+#include <QFile>
 #include <QResource>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -120,6 +122,23 @@ TEST_F(Translation, AMissingOrWrongCatalogLeavesTheDomainAsItWas) {
     }
     EXPECT_EQ(kAnglais, domaine->second);
     InitLocaleAvecQRC(nullptr, kAnglais, kLangueAnglais, true);
+}
+
+TEST_F(Translation, AWrongCatalogTakesNoPlaceFromOneThatWaits) {
+    DomaineDeTraduction* domaine = nullptr;
+    OffreLesDeux(&domaine);
+    InitLocaleAvecQRC(&domaine, UniChaine(QStringLiteral(":/essai/faux.mo")), kLangueAnglais, true);
+    EXPECT_EQ(kAnglais, domaine->second);
+    EXPECT_EQ("Open", Tr(domaine, kOuvrir));
+}
+
+TEST_F(Translation, AFileThatIsNoResourceIsNotRead) {
+    QTemporaryDir const dossier;
+    QString const chemin = dossier.filePath(QStringLiteral("en.mo"));
+    ASSERT_TRUE(QFile::copy(kAnglais.VersQString(), chemin));
+    DomaineDeTraduction* domaine = nullptr;
+    InitLocaleAvecQRC(&domaine, UniChaine(chemin), kLangueAnglais, true);
+    EXPECT_EQ("Ouvrir", Tr(domaine, kOuvrir));
 }
 
 TEST_F(Translation, TheCatalogServesAfterItsResourceIsGone) {
