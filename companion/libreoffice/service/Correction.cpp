@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Correction.h"
 
-#include "commun/ChainesUno.h"
+#include "EtapeAnnulable.h"
+#include "RaisonDeRefuser.h"
 #include "commun/NomDeCorrection.h"
 #include "modele/EditionMinimale.h"
 #include "modele/Utf.h"
+#include "partage/ErreurDuService.h"
 
-#include <com/sun/star/document/XUndoManagerSupplier.hpp>
-
-using namespace com::sun::star;
 using compagnon::ErreurDuService;
 using compagnon::Intervalle;
 using compagnon::PlanDePortions;
@@ -17,33 +16,6 @@ using contrat::Erreur;
 namespace extension {
 
 namespace {
-
-/// Groups what happens during its life into one step of the document's undo list.
-class EtapeAnnulable {
-  public:
-    EtapeAnnulable(DocumentOuvert const& document, std::u16string const& nom) {
-        uno::Reference<document::XUndoManagerSupplier> const source(document.DonneModele(),
-                                                                    uno::UNO_QUERY);
-        if (source.is()) {
-            pile_ = source->getUndoManager();
-            pile_->enterUndoContext(EnUno(nom));
-        }
-    }
-    EtapeAnnulable(EtapeAnnulable const&) = delete;
-    EtapeAnnulable& operator=(EtapeAnnulable const&) = delete;
-    ~EtapeAnnulable() {
-        try {
-            if (pile_.is()) {
-                pile_->leaveUndoContext();
-            }
-        } catch (uno::Exception const&) {
-            pile_.clear(); // the document goes: nobody will undo in it
-        }
-    }
-
-  private:
-    uno::Reference<document::XUndoManager> pile_;
-};
 
 /// Throws where `apres` would put in a letter that the zone cannot take. What both texts have stays
 /// as it is; the filler of a field that is moved about is the field's affair.
@@ -58,28 +30,6 @@ void VerifieLettres(ZoneOuverte const& zone, std::u16string_view avant, std::u16
 }
 
 } // namespace
-
-std::optional<Erreur> RaisonDeRefuser(DocumentOuvert const& document,
-                                      DialogueModal const& dialogue) {
-    if (document.EstEnLectureSeule()) {
-        return Erreur::LectureSeule;
-    }
-    if (dialogue.EstOuvert()) {
-        return Erreur::DialogueOuvert;
-    }
-    return std::nullopt;
-}
-
-std::optional<Erreur> RaisonDeRefuser(DocumentOuvert const& document, DialogueModal const& dialogue,
-                                      ZoneOuverte& zone) {
-    if (auto const raison = RaisonDeRefuser(document, dialogue)) {
-        return raison;
-    }
-    if (zone.EstProtegee()) {
-        return Erreur::Protege;
-    }
-    return zone.EstEnFrappe() ? std::make_optional(Erreur::Frappe) : std::nullopt;
-}
 
 bool PeutCorriger(DocumentOuvert const& document, DialogueModal const& dialogue, ZoneOuverte& zone,
                   compagnon::TexteSuivi const& croyance, Intervalle plage,

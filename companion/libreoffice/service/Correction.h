@@ -4,22 +4,12 @@
 #include "DialogueModal.h"
 #include "document/DocumentOuvert.h"
 #include "modele/TexteSuivi.h"
-#include "partage/ErreurDuService.h"
 
-#include <optional>
 #include <string>
 
 namespace extension {
 
-/// Why nothing in the document may be changed now, whatever the range: read-only, or a dialogue
-/// waits for the person. Nothing when it may. Main thread, as all here.
-std::optional<contrat::Erreur> RaisonDeRefuser(DocumentOuvert const& document,
-                                               DialogueModal const& dialogue);
-/// Why nothing in this zone of it may be changed now: the same, protected, or being typed in.
-std::optional<contrat::Erreur> RaisonDeRefuser(DocumentOuvert const& document,
-                                               DialogueModal const& dialogue, ZoneOuverte& zone);
-
-/// May the range of the host's, holding `attendu`, be corrected now?
+/// May the range of the host's, holding `attendu`, be corrected now? Main thread, as all here.
 bool PeutCorriger(DocumentOuvert const& document, DialogueModal const& dialogue, ZoneOuverte& zone,
                   compagnon::TexteSuivi const& croyance, compagnon::Intervalle plage,
                   std::u16string const& attendu);

@@ -72,21 +72,6 @@ std::shared_ptr<DocumentOuvert> Ouvre(uno::Reference<frame::XModel> const& model
 
 } // namespace
 
-void ClesVivantes::Ajoute(std::string const& cle) {
-    std::lock_guard<std::mutex> const verrou(mutex_);
-    cles_.insert(cle);
-}
-
-void ClesVivantes::Retire(std::string const& cle) {
-    std::lock_guard<std::mutex> const verrou(mutex_);
-    cles_.erase(cle);
-}
-
-bool ClesVivantes::Contient(std::string const& cle) const {
-    std::lock_guard<std::mutex> const verrou(mutex_);
-    return cles_.count(cle) > 0;
-}
-
 DocumentsOuverts::DocumentsOuverts(uno::Reference<uno::XComponentContext> const& contexte)
     : bureau_(contexte->getServiceManager()->createInstanceWithContext("com.sun.star.frame.Desktop",
                                                                        contexte),

@@ -1,30 +1,17 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
+#include "ClesVivantes.h"
 #include "document/DocumentOuvert.h"
 
 #include <com/sun/star/frame/XDesktop.hpp>
 #include <com/sun/star/uno/XComponentContext.hpp>
 
 #include <memory>
-#include <mutex>
-#include <set>
 #include <string>
 #include <vector>
 
 namespace extension {
-
-/// The keys of the documents that are open; any thread. Shared, as a document may close last.
-class ClesVivantes {
-  public:
-    void Ajoute(std::string const& cle);
-    void Retire(std::string const& cle);
-    bool Contient(std::string const& cle) const;
-
-  private:
-    mutable std::mutex mutex_;
-    std::set<std::string> cles_;
-};
 
 /// The documents open in this office that have text to proof and a window. Main thread only.
 class DocumentsOuverts {

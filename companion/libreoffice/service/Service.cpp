@@ -2,6 +2,7 @@
 #include "Service.h"
 
 #include "Correction.h"
+#include "RaisonDeRefuser.h"
 #include "modele/EcrivainZones.h"
 #include "partage/EcritureDocuments.h"
 #include "partage/ErreurDuService.h"
@@ -99,11 +100,8 @@ std::u16string Service::DonneCheminDocument(std::string const& appelant) {
 
 bool Service::PermetsRetourDeCharriot(std::string const& appelant) {
     std::shared_ptr<DocumentOuvert> const document = DocumentDe(appelant);
-    if (RaisonDeRefuser(*document, dialogue_)) {
-        return false;
-    }
     auto const lue = document->DonneSelection();
-    return lue && lue->zone->PermetsRetour() && !lue->zone->EstProtegee();
+    return lue && lue->zone->PermetsRetour() && !RaisonDeRefuser(*document, dialogue_, *lue->zone);
 }
 
 std::string Service::SynchronisePositions(std::string const& appelant, std::string const& leId) {

@@ -264,22 +264,36 @@ class Refus(Cas):
         self.e.cadre("protege").ContentProtected = True
         self.refuse(self.zone("protege"), "protege", "x")
 
+    def en_lecture_seule(self):
+        """The document as it stands, opened once more, for reading alone; and a client on it."""
+        copie = f"file://{banc.DOSSIER}/lecture_seule.odt"
+        self.doc.storeToURL(copie, ())
+        return banc.document_et_client(self, BUS, BUREAU, copie, banc.pv("ReadOnly", True))
+
     def test_a_read_only_document(self):
         self.texte.setString("un mot")
-        url = f"file://{banc.DOSSIER}/lecture_seule.odt"
-        self.doc.storeAsURL(url, ())
-        doc = BUREAU.ouvre(url, banc.pv("ReadOnly", True))
-        self.addCleanup(lambda: doc.close(True))
-        client = banc.Client(BUS)
-        client.id = next(d["id"] for d in client.documents() if "lecture" in d["titre"]
-                         and d["id"] != self.client.id)
-        client.InitialiseTexteur(client.id.split("~")[1])
+        doc, client = self.en_lecture_seule()
         zone = client.zones()[0]
         self.assertFalse(client.peut(zone, "mot"))
         self.assertFalse(client.PermetsRetourDeCharriot())
         with self.assertRaises(banc.Appel):
             client.corrige(zone, "mot", "maux")
         self.assertEqual(doc.Text.String, "un mot")
+
+    def test_of_several_reasons_the_same_one_is_told_whatever_the_way(self):
+        self.texte.setString("un mot\rsuite")
+        self.e.section(0, 6, IsProtected=True)
+        for (_, client), raison in (((self.doc, self.client), "Protege"),
+                                    (self.en_lecture_seule(), "LectureSeule")):
+            with self.subTest(raison=raison):
+                zone = client.zones()[0]
+                client.SelectionneIntervalle(zone.nom, 3, 6)
+                for corrige in (lambda: client.CorrigeDansTexteur(zone.nom, 3, 60, "\a", False),
+                                lambda: client.RemplaceEtReselectionne("\a")):
+                    with self.assertRaises(banc.Appel) as refus:
+                        corrige()
+                    self.assertEqual(refus.exception.nom, raison)
+                self.assertFalse(client.PermetsRetourDeCharriot())
 
     def test_a_range_that_no_longer_holds_what_the_host_believes(self):
         self.texte.setString("un chat noir")
