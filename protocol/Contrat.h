@@ -73,10 +73,11 @@ inline constexpr std::size_t kLimiteReponse = kLimiteMessage - (std::size_t{64} 
 /// takes three bytes.
 inline constexpr std::size_t kUnitesArgumentMax = std::size_t{40} << 20;
 
-/// How long the plug-in waits for the two calls that have a time of their own, in milliseconds.
-inline constexpr int kDelaiDocEstMortMs = 1'500; // asked often: it must not hold up the host
-inline constexpr int kDelaiInitialisationMs =
-    240'000; // an office may be starting, or ask something
+// How long the plug-in waits for a reply, in milliseconds.
+/// For "DocEstMort", asked often: it must not hold up the host.
+inline constexpr int kDelaiDocEstMortMs = 1'500;
+/// For "InitialiseTexteur": an office may be starting, or ask its person something.
+inline constexpr int kDelaiInitialisationMs = 240'000;
 /// For the others: what D-Bus libraries take by default.
 inline constexpr int kDelaiOrdinaireMs = 25'000;
 

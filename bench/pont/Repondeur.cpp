@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Repondeur.h"
 
+#include "Contrat.h"
 #include "DocumentDeZones.h"
 
 #include <QCoreApplication>
@@ -24,10 +25,9 @@ QString Repondeur::SynchronisePositions(QString const& leId) {
 int Reponds(QString const& instance) {
     auto bus = QDBusConnection::sessionBus();
     Repondeur repondeur;
-    if (!bus.registerObject(QStringLiteral("/com/ombrel/vocalyne/texteurs/OpenOffice/") + instance,
-                            &repondeur, QDBusConnection::ExportAllSlots) ||
-        !bus.registerService(QStringLiteral("com.ombrel.vocalyne.texteurs.OpenOffice.") +
-                             instance)) {
+    if (!bus.registerObject(QLatin1String(contrat::kPrefixeChemin) + instance, &repondeur,
+                            QDBusConnection::ExportAllSlots) ||
+        !bus.registerService(QLatin1String(contrat::kPrefixeService) + instance)) {
         std::fputs("the bench's companion cannot be published on the session bus\n", stderr);
         return 1;
     }
