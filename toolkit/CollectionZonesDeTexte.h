@@ -52,6 +52,32 @@ class CollectionZonesDeTexte {
         entrees_.push_back({&zone, nullptr, proprietaire});
     }
 
+    /// Puts an owned zone at `rang`, in front of the one that stands there; below 0 it comes first,
+    /// beyond the end last. Null is ignored.
+    void InserePossedee(int rang, std::unique_ptr<InterfaceZoneDeTexte> zone) {
+        if (zone) {
+            auto* const adresse = zone.get();
+            entrees_.insert(DonnePlace(rang), {adresse, std::move(zone), nullptr});
+        }
+    }
+
+    /// The same with a zone that stays the property of `proprietaire`.
+    void InsereEmpruntee(int rang, InterfaceZoneDeTexte& zone, void const* proprietaire) {
+        entrees_.insert(DonnePlace(rang), {&zone, nullptr, proprietaire});
+    }
+
+    /// Takes the zone at `rang` out. An owned one is the caller's from now on; null for a borrowed
+    /// one, which stays its owner's, and for a rank that is not there.
+    std::unique_ptr<InterfaceZoneDeTexte> Retire(int rang) {
+        if (DonneZone(rang) == nullptr) {
+            return nullptr;
+        }
+        auto const place = DonnePlace(rang);
+        auto zone = std::move(place->possedee);
+        entrees_.erase(place);
+        return zone;
+    }
+
     /// Takes out the zones borrowed from `proprietaire`; the others keep their order.
     void RetireEmpruntees(void const* proprietaire) {
         auto const reste =
@@ -70,5 +96,10 @@ class CollectionZonesDeTexte {
         std::unique_ptr<InterfaceZoneDeTexte> possedee;
         void const* proprietaire;
     };
+
+    std::vector<Entree>::iterator DonnePlace(int rang) {
+        return entrees_.begin() + std::clamp(rang, 0, DonneNombre());
+    }
+
     std::vector<Entree> entrees_;
 };

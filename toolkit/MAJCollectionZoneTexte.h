@@ -27,11 +27,12 @@ class MAJCollectionZoneTexte {
     virtual int DonneNombreZones() = 0;
     /// Does the zone at `rang` of the collection still tell the document's text?
     virtual bool EstAJour(int rang) = 0;
-    /// Makes the zone at `rang` of the document; null when it cannot be read.
+    /// Makes the zone at `rang` of the document, the caller's; null when it cannot be read.
     virtual InterfaceZoneDeTexte* CreeZone(int rang) = 0;
-    /// Puts a zone in the collection at `rang`.
+    /// Puts a zone in the collection at `rang`: `InserePossedee`, so that it dies with its entry.
     virtual void InsereZone(int rang, InterfaceZoneDeTexte* zone) = 0;
-    /// Takes the zone at `rang` out of the collection and returns it.
+    /// Takes the zone at `rang` out of the collection and returns it (what the collection's
+    /// `Retire` releases), the caller's from now on; null when the collection does not own it.
     virtual InterfaceZoneDeTexte* RetireZone(int rang) = 0;
 
     /// Deletes a zone; null is ignored.

@@ -11,6 +11,7 @@
 #include <memory>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -22,12 +23,17 @@ ConnecteurMuet& Agent() {
 /// Counts the zones that stand.
 class ZoneComptee : public ImplZoneDeTexteTEMP {
   public:
-    ZoneComptee()
-        : ImplZoneDeTexteTEMP(&Agent(), 0, 0) {
+    explicit ZoneComptee(int longueur = 0)
+        : ImplZoneDeTexteTEMP(&Agent(), 0, longueur)
+        , longueur_(longueur) {
         ++vivantes;
     }
     ~ZoneComptee() override { --vivantes; }
+    int DonneLongueur() override { return longueur_; }
     static inline int vivantes = 0;
+
+  private:
+    int longueur_;
 };
 
 TEST(ZoneCollection, StartsEmpty) {
@@ -93,6 +99,52 @@ TEST(ZoneCollection, TakesOutOneOwnersBorrowedZonesAndKeepsTheOrderOfTheOthers) 
     EXPECT_EQ(2, zones.DonneNombre());
 }
 
+TEST(ZoneCollection, TakesAZoneInAtARankAndAtTheNearestWhereThereIsNone) {
+    ZoneComptee empruntee;
+    CollectionZonesDeTexte zones;
+    auto const insere = [&](int rang) {
+        auto zone = std::make_unique<ZoneComptee>();
+        auto* const adresse = zone.get();
+        zones.InserePossedee(rang, std::move(zone));
+        return adresse;
+    };
+    auto* const b = insere(5);
+    auto* const a = insere(0);
+    auto* const d = insere(INT_MAX);
+    zones.InsereEmpruntee(2, empruntee, &Agent());
+    auto* const premiere = insere(INT_MIN);
+    zones.InserePossedee(0, nullptr);
+    ASSERT_EQ(5, zones.DonneNombre());
+    InterfaceZoneDeTexte* const attendues[] = {premiere, a, b, &empruntee, d};
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_EQ(attendues[i], zones.DonneZone(i)) << i;
+        EXPECT_EQ(i != 3, zones.Possede(i)) << i;
+    }
+    zones.RetireEmpruntees(&Agent());
+    EXPECT_EQ(4, zones.DonneNombre());
+}
+
+TEST(ZoneCollection, LetsGoOfAZoneAtARank) {
+    ZoneComptee empruntee;
+    CollectionZonesDeTexte zones;
+    zones.AjoutePossedee(std::make_unique<ZoneComptee>());
+    zones.AjouteEmpruntee(empruntee, &Agent());
+    zones.AjoutePossedee(std::make_unique<ZoneComptee>());
+    auto* const premiere = zones.DonneZone(0);
+    auto* const derniere = zones.DonneZone(2);
+    for (int const rang : {-1, 3, INT_MIN, INT_MAX}) {
+        EXPECT_EQ(nullptr, zones.Retire(rang)) << rang;
+    }
+    EXPECT_EQ(3, zones.DonneNombre());
+    auto const retiree = zones.Retire(0);
+    EXPECT_EQ(premiere, retiree.get());
+    EXPECT_EQ(3, ZoneComptee::vivantes) << "it is the caller's now";
+    EXPECT_EQ(nullptr, zones.Retire(0)) << "a borrowed one stays its owner's";
+    ASSERT_EQ(1, zones.DonneNombre());
+    EXPECT_EQ(derniere, zones.DonneZone(0));
+    EXPECT_EQ(3, ZoneComptee::vivantes);
+}
+
 TEST(ZoneCollection, MovesWithItsZonesAndIsNotCopied) {
     static_assert(!std::is_copy_constructible_v<CollectionZonesDeTexte>);
     static_assert(!std::is_copy_assignable_v<CollectionZonesDeTexte>);
@@ -143,6 +195,69 @@ TEST(CollectionUpdater, KeepsTheThreeValuesItIsBuiltWith) {
     EXPECT_EQ(&Agent(), &maj.DonneAgent());
     EXPECT_EQ(&zones, &maj.DonneCollection());
     EXPECT_EQ(7, maj.DonnePremiereZone());
+}
+
+/// What a connector makes of the updater that knows its document: a list of texts.
+class MiseAJourDeTextes : public UtilInterfaceAgentTexteur::MAJCollectionZoneTexte {
+  public:
+    MiseAJourDeTextes(CollectionZonesDeTexte& zones, std::vector<int> longueurs)
+        : MAJCollectionZoneTexte(Agent(), zones, 0)
+        , longueurs_(std::move(longueurs)) {}
+
+    int DonneNombreZones() override { return static_cast<int>(longueurs_.size()); }
+    bool EstAJour(int rang) override {
+        auto* const zone = DonneCollection().DonneZone(rang);
+        return zone != nullptr && rang < DonneNombreZones() &&
+               zone->DonneLongueur() == longueurs_[static_cast<std::size_t>(rang)];
+    }
+    InterfaceZoneDeTexte* CreeZone(int rang) override {
+        auto zone = std::make_unique<ZoneComptee>(longueurs_[static_cast<std::size_t>(rang)]);
+        return zone.release();
+    }
+    void InsereZone(int rang, InterfaceZoneDeTexte* zone) override {
+        DonneCollection().InserePossedee(rang, std::unique_ptr<InterfaceZoneDeTexte>(zone));
+    }
+    InterfaceZoneDeTexte* RetireZone(int rang) override {
+        return DonneCollection().Retire(rang).release();
+    }
+
+    /// Leaves the zones that are right, makes the others anew.
+    void Fais() {
+        for (int rang = 0; rang < DonneNombreZones(); ++rang) {
+            if (!EstAJour(rang)) {
+                DetruisZone(RetireZone(rang));
+                InsereZone(rang, CreeZone(rang));
+            }
+        }
+        while (DonneCollection().DonneNombre() > DonneNombreZones()) {
+            DetruisZone(RetireZone(DonneCollection().DonneNombre() - 1));
+        }
+    }
+
+  private:
+    std::vector<int> longueurs_;
+};
+
+TEST(CollectionUpdater, CanBeWrittenAgainstACollection) {
+    {
+        CollectionZonesDeTexte zones;
+        MiseAJourDeTextes(zones, {3, 5, 7}).Fais();
+        ASSERT_EQ(3, zones.DonneNombre());
+        auto* const premiere = zones.DonneZone(0);
+        auto* const derniere = zones.DonneZone(2);
+        MiseAJourDeTextes(zones, {3, 6, 7, 9}).Fais();
+        ASSERT_EQ(4, zones.DonneNombre());
+        EXPECT_EQ(premiere, zones.DonneZone(0)) << "what is right stays";
+        EXPECT_EQ(derniere, zones.DonneZone(2));
+        EXPECT_EQ(6, zones.DonneZone(1)->DonneLongueur());
+        EXPECT_EQ(9, zones.DonneZone(3)->DonneLongueur());
+        EXPECT_EQ(4, ZoneComptee::vivantes);
+        MiseAJourDeTextes(zones, {3}).Fais();
+        EXPECT_EQ(1, zones.DonneNombre());
+        EXPECT_EQ(1, ZoneComptee::vivantes);
+        EXPECT_TRUE(zones.Possede(0));
+    }
+    EXPECT_EQ(0, ZoneComptee::vivantes);
 }
 
 TEST(CollectionUpdater, DeletesAZoneAndIgnoresNull) {
