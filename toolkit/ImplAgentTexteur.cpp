@@ -61,8 +61,7 @@ bool ImplAgentTexteur::SynchronisePositions(CollectionZonesDeTexte& zones) {
     if (!LisBornes(bornes)) {
         return false;
     }
-    zones_.Construis(*this, bornes, zones);
-    return true;
+    return zones_.Construis(*this, bornes, zones);
 }
 
 bool ImplAgentTexteur::DonneZones(CollectionZonesDeTexte& zones) {

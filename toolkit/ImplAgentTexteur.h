@@ -28,8 +28,9 @@ class ImplAgentTexteur : public virtual InterfaceAgentTexteur {
     UniChaine DonneCheminDocument() override { return {}; }
     void DonneImageApplication(ImageCommune& image) override;
     UniChaine DonneChaineAgent7() override { return {}; }
-    /// True when the bounds could be read, also for an empty document (no zone). Exceptions of the
-    /// connector's reading operations do not leave it.
+    /// True when bounds and text could be read, also for an empty document (no zone). Exceptions of
+    /// the connector's reading operations do not leave it: false, with the zones that were read
+    /// whole before in the collection.
     bool SynchronisePositions(CollectionZonesDeTexte& zones) override;
     bool DonneZones(CollectionZonesDeTexte& zones) override;
     UniChaine DonneNomApplication() override;
@@ -51,7 +52,17 @@ class ImplAgentTexteur : public virtual InterfaceAgentTexteur {
     bool Requete33() override { return true; }
     int RemplaceEtReselectionne(UniChaine const& texte) override;
 
-    // Extension points, in slot order.
+    // Extension points, in slot order. An exception that one throws never ends as half a zone or
+    // as text that the document does not hold:
+    // - `DonneFinZone`, while zones are made: the zone ends at the text's length.
+    // - `PrepareLecture`, the length and the selection's bounds: `SynchronisePositions` answers
+    //   false and makes no zone; `DonneContexte` goes on with bounds of 0.
+    // - `DonneTexteAvecAttributs`, `TraiteTexteLu`, `DonneTailleBloc`, `RemplaceEspacesInsecables`,
+    //   while zones are read: `SynchronisePositions` answers false; the zone being read is
+    //   dropped, those before it stay.
+    // - In everything else, and in the same operations when something else calls them (the
+    //   context, the routines), it goes as it is to the host that called, and nothing further is
+    //   done: zones are not moved after a replacement that threw, and outs keep what they held.
 
     /// The characters with a special meaning in zone text: a constant, NUL-terminated byte
     /// sequence. 0x07 stands for text that was not read.

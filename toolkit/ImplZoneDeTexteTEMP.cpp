@@ -56,25 +56,20 @@ void ImplZoneDeTexteTEMP::Remplis() {
     texte_.MetsTexte(sdd::ChaineN(longueur, kNonLu));
     texte_.MetsAttribut(0, longueur, 0);
     for (int pos = debut_; pos < fin_;) {
-        int place = 0;
-        try {
-            // A block size may be anything, also one that leaves no room for a character.
-            auto const finBloc = static_cast<int>(std::clamp<std::int64_t>(
-                std::int64_t{pos} + agent_->DonneTailleBloc() - 1, pos, fin_));
-            if (pos < finBloc) {
-                auto bloc = agent_->DonneTexteAvecAttributs(pos, finBloc);
-                agent_->NormaliseTexteLu(bloc);
-                bloc.CoupeA(finBloc - pos);
-                place = bloc.Longueur();
-                texte_.Remplace(pos - debut_, place, bloc);
-            }
-        } catch (...) {
-            // A block that cannot be read ends the reading: the filler keeps the positions right.
+        // A block size may be anything, also one that leaves no room for a character.
+        auto const finBloc = static_cast<int>(
+            std::clamp<std::int64_t>(std::int64_t{pos} + agent_->DonneTailleBloc() - 1, pos, fin_));
+        if (pos == finBloc) {
             return;
         }
+        auto bloc = agent_->DonneTexteAvecAttributs(pos, finBloc);
+        agent_->NormaliseTexteLu(bloc);
+        bloc.CoupeA(finBloc - pos);
+        int const place = bloc.Longueur();
         if (place == 0) {
             return;
         }
+        texte_.Remplace(pos - debut_, place, bloc);
         pos += place;
     }
 }

@@ -37,8 +37,9 @@ class ImplZoneDeTexteTEMP : public InterfaceZoneDeTexte {
 
     /// Stores the selection, relative, unchanged.
     void MetsSelection(int debut, int fin);
-    /// Reads the text from the agent, block by block. Text that could not be read stays as 0x07
-    /// filler, so that the zone always has its full length.
+    /// Reads the text from the agent, block by block. Text that the agent does not give stays as
+    /// 0x07 filler, so that the zone always has its full length. What the agent's operations throw
+    /// goes to the caller, with the blocks before it in place.
     void Remplis();
     /// Follows a replacement that ended at `fin` (before it) in the zone that ended at `finZone`
     /// and made the document `delta` longer.

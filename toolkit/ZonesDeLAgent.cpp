@@ -6,6 +6,7 @@
 #include "ImplZoneDeTexteTEMP.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -19,6 +20,16 @@ int DonneFinZoneBornee(ImplAgentTexteur& agent, int position, int longueur) {
     }
 }
 
+bool Remplis(ImplZoneDeTexteTEMP& zone) {
+    try {
+        zone.Remplis();
+        return true;
+    } catch (...) {
+        // Handed out, its filler would pass for the document's text.
+        return false;
+    }
+}
+
 } // namespace
 
 ZonesDeLAgent::ZonesDeLAgent() = default;
@@ -29,19 +40,22 @@ void ZonesDeLAgent::Vide() noexcept {
     zones_.clear();
 }
 
-void ZonesDeLAgent::Construis(ImplAgentTexteur& agent, BornesDuTexte const& bornes,
+bool ZonesDeLAgent::Construis(ImplAgentTexteur& agent, BornesDuTexte const& bornes,
                               CollectionZonesDeTexte& collection) {
     for (int pos = 0; pos < bornes.longueur;) {
         int const fin = DonneFinZoneBornee(agent, pos, bornes.longueur);
-        auto& zone = *zones_.emplace_back(std::make_unique<ImplZoneDeTexteTEMP>(&agent, pos, fin));
-        collection.AjouteEmpruntee(zone, &agent);
+        auto zone = std::make_unique<ImplZoneDeTexteTEMP>(&agent, pos, fin);
         if (pos <= bornes.debutSelection && bornes.debutSelection < fin &&
             pos <= bornes.finSelection && bornes.finSelection <= fin) {
-            zone.MetsSelection(bornes.debutSelection - pos, bornes.finSelection - pos);
+            zone->MetsSelection(bornes.debutSelection - pos, bornes.finSelection - pos);
         }
-        zone.Remplis();
+        if (!Remplis(*zone)) {
+            return false;
+        }
+        collection.AjouteEmpruntee(*zones_.emplace_back(std::move(zone)), &agent);
         pos = fin;
     }
+    return true;
 }
 
 void ZonesDeLAgent::Decale(int fin, int finZone, int delta) {

@@ -31,8 +31,9 @@ class ZonesDeLAgent {
     /// Cuts the whole text where the agent's `DonneFinZone` says, fills each zone from the agent,
     /// and appends it to `collection`, borrowed from `agent`, which must outlive the zones. A
     /// boundary that cannot be had, or that does not lie behind the zone's start, is the text's
-    /// end. The selection goes to the zone that holds it whole.
-    void Construis(ImplAgentTexteur& agent, BornesDuTexte const& bornes,
+    /// end. The selection goes to the zone that holds it whole. False when the agent throws while
+    /// a zone is filled: that zone is dropped, and none is made behind it.
+    bool Construis(ImplAgentTexteur& agent, BornesDuTexte const& bornes,
                    CollectionZonesDeTexte& collection);
 
     /// Follows a replacement that ended at `fin` in the zone that ended at `finZone`, and made the

@@ -35,6 +35,8 @@ class ConnecteurEssai : public ConnecteurMuet {
         return Extrait(debut, fin);
     };
     std::function<void(TexteAvecAttributs&)> traite = [](TexteAvecAttributs&) {};
+    std::function<int()> donneTailleBloc = [this] { return tailleBloc; };
+    std::function<bool()> remplaceInsecables = [this] { return insecables; };
     std::function<int(int, int)> selectionne; ///< the generic default where none is given
 
     std::vector<Intervalle> lectures;   ///< what was asked of `DonneTexteAvecAttributs`
@@ -79,8 +81,8 @@ class ConnecteurEssai : public ConnecteurMuet {
         return selectionne ? selectionne(debut, fin)
                            : ConnecteurMuet::SelectionneDansTexteur(debut, fin);
     }
-    int DonneTailleBloc() override { return tailleBloc; }
-    bool RemplaceEspacesInsecables() override { return insecables; }
+    int DonneTailleBloc() override { return donneTailleBloc(); }
+    bool RemplaceEspacesInsecables() override { return remplaceInsecables(); }
 };
 
 /// What a connector that fails throws.

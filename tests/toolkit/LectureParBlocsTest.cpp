@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <functional>
 #include <vector>
 
 namespace {
@@ -107,19 +108,58 @@ TEST(ZoneFilling, ABlockCutInTheMiddleOfAPairKeepsItsHalf) {
     EXPECT_EQ(A(u"a\U0001F600b"), ZoneUnique(connecteur));
 }
 
-TEST(ZoneFilling, AReadThatThrowsLeavesFillerAndTheOtherZonesAreStillRead) {
+TEST(ZoneFilling, WhateverThrowsWhileAZoneIsReadAnswersFalseAndTheZonesBeforeItStay) {
+    std::vector<std::function<void(ConnecteurEssai&)>> const cas{
+        [](ConnecteurEssai& c) {
+            c.lis = [&c](int debut, int fin) {
+                if (debut == 4) {
+                    Echoue();
+                }
+                return c.Extrait(debut, fin);
+            };
+        },
+        [](ConnecteurEssai& c) {
+            c.traite = [](TexteAvecAttributs& texte) {
+                if (TexteDe(texte) == U(u"e")) {
+                    throw 42; // not even a std::exception
+                }
+            };
+        },
+        [](ConnecteurEssai& c) {
+            c.donneTailleBloc = [&c]() -> int { return c.lectures.size() < 4 ? 2 : (Echoue(), 0); };
+        },
+        [](ConnecteurEssai& c) {
+            c.remplaceInsecables = [&c] {
+                return c.lectures.size() < 5 ? false : (Echoue(), false);
+            };
+        },
+    };
+    for (auto const& casse : cas) {
+        ConnecteurEssai connecteur(u"abcdefghi");
+        connecteur.Bornes() = {3, 6, 9};
+        connecteur.donneTailleBloc = [] { return 2; };
+        casse(connecteur);
+        CollectionZonesDeTexte zones;
+        EXPECT_FALSE(connecteur.SynchronisePositions(zones));
+        EXPECT_EQ(std::vector<UniChaine>{U(u"abc")}, TextesDe(zones));
+        EXPECT_GE(5U, connecteur.lectures.size()) << "nothing is read behind it";
+    }
+}
+
+TEST(ZoneFilling, AConnectorThatCanReadAgainGivesEveryZoneAgain) {
     ConnecteurEssai connecteur(u"abcdef");
     connecteur.Bornes() = {3, 6};
-    connecteur.tailleBloc = 2;
-    connecteur.lis = [&](int debut, int fin) {
-        if (debut == 1) {
+    bool casse = true;
+    connecteur.traite = [&](TexteAvecAttributs& /*texte*/) {
+        if (casse && connecteur.lectures.size() == 2) {
             Echoue();
         }
-        return connecteur.Extrait(debut, fin);
     };
     CollectionZonesDeTexte zones;
+    EXPECT_FALSE(connecteur.SynchronisePositions(zones));
+    casse = false;
     EXPECT_TRUE(connecteur.SynchronisePositions(zones));
-    EXPECT_EQ((std::vector<UniChaine>{U(u"a\x07\x07"), U(u"def")}), TextesDe(zones));
+    EXPECT_EQ((std::vector<UniChaine>{U(u"abc"), U(u"def")}), TextesDe(zones));
 }
 
 TEST(ZoneFilling, AttributesOfTheBlocksStandAtTheirPlaceInTheZone) {
