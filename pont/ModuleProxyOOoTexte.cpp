@@ -75,8 +75,9 @@ int ModuleProxyOOo::RemplaceEtReselectionne(UniChaine const& texte) {
     if (!proxy_ || !connexionSession::PeutVoyager(texte)) {
         return 0;
     }
-    auto const appel = proxy_->RemplaceEtReselectionne(texte.VersQString());
-    return reponseProxy::EstPartie(appel) ? texte.Longueur() : 0;
+    bool const envoye = reponseProxy::Envoie(
+        *proxy_, [&] { return proxy_->RemplaceEtReselectionne(texte.VersQString()); });
+    return envoye ? texte.Longueur() : 0;
 }
 
 UniChaine ModuleProxyOOo::DonneContexteSelection() {

@@ -5,6 +5,7 @@
 
 #include <QDBusAbstractInterface>
 #include <QDBusConnection>
+#include <QDBusError>
 
 #include <algorithm>
 #include <chrono>
@@ -89,8 +90,16 @@ bool Attends(QDBusAbstractInterface& proxy, QDBusPendingCall const& appel) {
                             std::max(delai - attendu, milliseconds(1)));
 }
 
+bool EstConnecte(QDBusAbstractInterface const& proxy) {
+    return proxy.connection().isConnected();
+}
+
 bool EstPartie(QDBusPendingCall const& appel) {
-    return !(appel.isFinished() && appel.isError());
+    if (!appel.isFinished() || !appel.isError()) {
+        return true;
+    }
+    // What comes over the bus names its sender, and only a call that left can be given up waiting.
+    return !appel.reply().service().isEmpty() || appel.error().type() == QDBusError::NoReply;
 }
 
 } // namespace reponseProxy

@@ -47,8 +47,18 @@ Valeur Lis(QDBusAbstractInterface& proxy, QDBusPendingCall const& appel) {
     return Attends(proxy, appel) ? DonneArgument<Valeur>(appel) : Valeur();
 }
 
-/// Did the call leave? False when the bus library refused it at once: no bus, or names that no bus
-/// can have. What becomes of it later is never looked at.
+/// Is the proxy's bus connection up?
+bool EstConnecte(QDBusAbstractInterface const& proxy);
+
+/// Was the call queued? False when this side refused it: no connection, or names that no bus can
+/// have. An error that came back, however soon, is an answer: the call had left.
 bool EstPartie(QDBusPendingCall const& appel);
+
+/// Sends what nobody waits for: `appelle` makes the call. True once its message is queued on a
+/// connected bus; what becomes of it is never looked at. Without a connection nothing is called.
+template <class Appel>
+bool Envoie(QDBusAbstractInterface const& proxy, Appel const& appelle) {
+    return EstConnecte(proxy) && EstPartie(appelle());
+}
 
 } // namespace reponseProxy

@@ -29,10 +29,12 @@ bool ZoneDeTexteOOoProxy::CorrigeDansTexteur(int debut, int fin, UniChaine const
     if (!EstReliee() || !connexionSession::PeutVoyager(texte)) {
         return false;
     }
-    auto const appel =
-        proxy_->CorrigeDansTexteur(nom_.VersQString(), debut, fin, texte.VersQString(), drapeau);
+    bool const envoyee = reponseProxy::Envoie(*proxy_, [&] {
+        return proxy_->CorrigeDansTexteur(nom_.VersQString(), debut, fin, texte.VersQString(),
+                                          drapeau);
+    });
     texte_.Remplace(debut, positions::Difference(fin, debut), texte);
-    return reponseProxy::EstPartie(appel);
+    return envoyee;
 }
 
 TexteAvecAttributs ZoneDeTexteOOoProxy::DonneTexte() {
@@ -64,5 +66,6 @@ bool ZoneDeTexteOOoProxy::SelectionneIntervalle(int debut, int fin) {
     if (!EstReliee()) {
         return false;
     }
-    return reponseProxy::EstPartie(proxy_->SelectionneIntervalle(nom_.VersQString(), debut, fin));
+    return reponseProxy::Envoie(
+        *proxy_, [&] { return proxy_->SelectionneIntervalle(nom_.VersQString(), debut, fin); });
 }

@@ -28,9 +28,11 @@ class ZoneDeTexteOOoProxy : public InterfaceZoneDeTexte {
     /// Always true, on purpose: the companion decides when a range is corrected.
     bool AccepteIntervalles(int debut1, int fin1, int debut2, int fin2) override;
     /// Sends the correction without waiting, and replaces in the zone's own copy at once. True once
-    /// it is sent. Selection and style runs stay as they were, on purpose: they are right again
-    /// after the next synchronisation. A text that the bus cannot carry unchanged (U+0000, half of
-    /// a surrogate pair, over 40 Mi units) is neither sent nor replaced: false.
+    /// it is queued on a connected bus, whatever the companion answers: after false nothing was
+    /// sent, and only then may the host try again. Selection and style runs stay as they were, on
+    /// purpose: they are right again after the next synchronisation. A text that the bus cannot
+    /// carry unchanged (U+0000, half of a surrogate pair, over 40 Mi units) is neither sent nor
+    /// replaced: false.
     bool CorrigeDansTexteur(int debut, int fin, UniChaine const& texte, bool drapeau) override;
     int DonneDebutSelection() override { return debutSel_; }
     int DonneFinSelection() override { return finSel_; }
@@ -42,7 +44,7 @@ class ZoneDeTexteOOoProxy : public InterfaceZoneDeTexte {
     /// The interval as it is: the companion adjusts nothing.
     void AjusteIntervalle(int debut, int fin, int* debutAjuste, int* finAjustee,
                           bool drapeau) override;
-    /// True once the request is sent.
+    /// True once the request is queued on a connected bus, whatever the companion answers.
     bool SelectionneIntervalle(int debut, int fin) override;
 
     UniChaine const& DonneNom() const noexcept { return nom_; }

@@ -9,7 +9,7 @@
 #include <vector>
 
 /// What the proxies of this program sent: AppelsNotes.cpp stands in for QtDBus's sending operation,
-/// so that no bus is needed and nothing leaves.
+/// so that nothing leaves and nobody has to answer.
 namespace appelsNotes {
 
 struct Appel {

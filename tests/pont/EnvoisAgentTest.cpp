@@ -5,6 +5,7 @@
 #include "VocalyneOpenOfficeProxyQDBUS.h"
 #include "outils/AlertesNotees.h"
 #include "outils/Textes.h"
+#include "outils/bus/BusPrive.h"
 
 #include <gtest/gtest.h>
 
@@ -28,6 +29,7 @@ class AgentSends : public testing::Test {
     AgentSends() { appelsNotes::Prends(); }
     ~AgentSends() override { appelsNotes::Leve(false); }
 
+    BusPrive bus_; // only what could leave counts as sent
     AgentEssai agent_{U(u"inst~doc3")};
     InterfaceAgentTexteur& hote_ = agent_;
 };

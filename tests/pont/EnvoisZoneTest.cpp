@@ -4,6 +4,7 @@
 #include "AppelsNotes.h"
 #include "ZoneDeTexteOOoProxy.h"
 #include "outils/Textes.h"
+#include "outils/bus/BusPrive.h"
 
 #include <gtest/gtest.h>
 
@@ -32,6 +33,7 @@ class ZoneSends : public testing::Test {
     }
     ~ZoneSends() override { appelsNotes::Refuse(false); }
 
+    BusPrive bus_; // only what could leave counts as sent
     AgentEssai agent_{U(u"inst~doc")};
     ZoneDeTexteOOoProxy zone_{agent_.DonneProxy(), &agent_, U(u"0123456789"), U(u"le nom é"), 4, 6};
 };
