@@ -27,6 +27,9 @@ void AlerteExtensionRequise() {
 
 ModuleProxyOOo::ModuleProxyOOo(UniChaine const& identificateur)
     : InterfaceTexteur(identificateur) {
+    if (!connexionSession::PeutVoyager(identificateur)) {
+        return;
+    }
     auto const bus = QDBusConnection::sessionBus();
     connexionSession::AccepteGrandesReponses(bus);
     IdentificateurDocument const id(identificateur);

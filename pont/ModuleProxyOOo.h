@@ -19,7 +19,9 @@ class ModuleProxyOOo : public virtual ImplAgentTexteur {
   public:
     /// Binds to the companion named by the instance part of `identificateur` ("instance~document").
     /// Calls nothing on it and does not test whether it is there. An instance part that no bus name
-    /// can hold makes every call fail at once.
+    /// can hold makes every call fail at once. An identifier that the bus would change on the way
+    /// (U+0000, half of a surrogate pair) could name another document: the agent has no proxy, so
+    /// nothing is ever sent and it cannot be initialised.
     explicit ModuleProxyOOo(UniChaine const& identificateur);
     /// Sends nothing: breaking the links is the host's explicit request.
     ~ModuleProxyOOo() override;
@@ -70,8 +72,9 @@ class ModuleProxyOOo : public virtual ImplAgentTexteur {
     int AjusteSelectionPourOutils(int debut, int fin) override;
     UniChaine DonneContexte(int* debut, int* fin) override;
     bool Requete33() override { return true; }
-    /// Answers the length of the text once it is sent, 0 otherwise. A text that the bus cannot
-    /// carry unchanged (U+0000, half of a surrogate pair, over 40 Mi units) is not sent.
+    /// Answers the length of the text once it is queued on a connected bus, 0 otherwise. A text
+    /// that the bus cannot carry unchanged (U+0000, half of a surrogate pair, over 40 Mi units) is
+    /// not sent.
     int RemplaceEtReselectionne(UniChaine const& texte) override;
 
     // Own operations, after those of the interfaces. They need a proxy; `DonneContexte` tests it.

@@ -55,6 +55,21 @@ TEST_F(AgentWithoutAProxy, LeavesTheContextsBoundsAsTheCallerSetThem) {
     EXPECT_EQ(12, fin);
 }
 
+TEST(AgentOfAnIdentifierThatTheBusWouldChange, HasNoProxyAndCannotBeInitialised) {
+    char16_t const moitie[] = {u'a', u'~', 0xDE00};
+    for (auto const& identificateur : {UniChaine(u"essai~do\0c", 10), UniChaine(u"es\0sai~doc", 10),
+                                       UniChaine(u"essai~doc\0", 10), UniChaine(moitie, 3)}) {
+        AgentEssai agent(identificateur);
+        EXPECT_EQ(nullptr, agent.DonneProxy());
+        EXPECT_EQ(identificateur, agent.DonneIdentificateur());
+        UniChaine message;
+        EXPECT_FALSE(agent.InitialiseTexteur(U(u"VCLSalFrame:OpenOffice.org 4.0"), message, 0));
+        EXPECT_TRUE(agent.DocEstMort());
+        CollectionZonesDeTexte zones;
+        EXPECT_FALSE(agent.SynchronisePositions(zones));
+    }
+}
+
 TEST_F(AgentWithoutAProxy, TakesEveryRequestWithoutHarm) {
     for (int const mode : {0, 1, 2, 3, -1}) {
         hote_.InitialisePour(mode);

@@ -72,6 +72,14 @@ TEST_F(AgentCreationOverABus, WithoutACompanionGivesNoneAtOnceAndSaysNothing) {
     EXPECT_TRUE(alertes.Donne().empty());
 }
 
+TEST_F(AgentCreationOverABus, AnIdentifierThatTheBusWouldChangeGivesNoneAndSendsNothing) {
+    auto const identifiant = bureau.Identifiant() + std::string("\0c", 2);
+    EXPECT_EQ(greffon.Cree("VCLSalFrame:OpenOffice.org 4.0", identifiant), nullptr);
+    EXPECT_EQ(bureau.DonneCommande().DonneMethodes(), "");
+    EXPECT_EQ(bureau.DonneCommande().DonneNombreAppelants(), 0);
+    EXPECT_TRUE(alertes.Donne().empty());
+}
+
 TEST_F(AgentCreationOverABus, ACompanionThatRefusesGivesNone) {
     bureau.DonneCommande().Deregle("InitialiseTexteur", "erreur", "true");
     EXPECT_EQ(greffon.Cree("VCLSalFrame:OpenOffice.org 4.0", bureau.Identifiant()), nullptr);

@@ -59,7 +59,7 @@ TEST_F(BridgeIdentifiers, AnInstanceThatNoNameCanHoldIsRefusedQuickly) {
     for (auto const& etrange : Etranges()) {
         AgentDeTest impossible(Unites(etrange + u"~doc1"));
         DemandeTout(impossible);
-        EXPECT_FALSE(impossible.DocEstMort());
+        EXPECT_EQ(impossible.DocEstMort(), !impossible.EstLie());
         EXPECT_EQ(S(impossible.DonneTitreDocument()), "");
     }
     EXPECT_LT(std::chrono::steady_clock::now() - depart, std::chrono::seconds(20));
@@ -78,4 +78,20 @@ TEST_F(BridgeIdentifiers, ADocumentThatTheCompanionDoesNotKnowIsRefusedQuickly) 
     EXPECT_LT(std::chrono::steady_clock::now() - depart, std::chrono::seconds(20));
     EXPECT_TRUE(agent.Initialise());
     EXPECT_EQ(S(agent.DonneTitreDocument()), "lettre.txt");
+}
+
+TEST_F(BridgeIdentifiers, OneThatTheBusWouldChangeOpensNoOtherDocument) {
+    using namespace std::string_literals;
+    auto const instance = Uc(bureau.Instance()).VersQString().toStdU16String();
+    auto const moitie = static_cast<char16_t>(0xD83D);
+    ASSERT_TRUE(agent.Initialise()) << "what is left of each is an identifier that serves";
+    bureau.DonneCommande().VideJournal();
+    for (auto const& identificateur :
+         {instance + u"~doc1\0c"s, instance + u"~doc1\0"s, instance + u"\0b~doc1"s,
+          instance + u"~doc1~\0"s, instance + u"~doc1~" + moitie}) {
+        AgentDeTest autre(Unites(identificateur));
+        DemandeTout(autre);
+        autre.RemplaceEtReselectionne(Uc("mot"));
+    }
+    EXPECT_EQ(bureau.DonneCommande().DonneMethodes(), "");
 }
