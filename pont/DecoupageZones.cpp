@@ -1,138 +1,82 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "DecoupageZones.h"
 
-#include <cstring>
+using Verdict = ParcoursJson::Verdict;
 
 namespace {
 
-// Zone, list of runs, run: deeper nesting is for the parser to judge.
-constexpr int kProfondeurMax = 8;
-
-/// Reads a document from left to right. Every operation that finds something else than it looks for
-/// says so by false, and the reading ends there.
-class Lecteur {
-  public:
-    explicit Lecteur(std::string_view document)
-        : ici_(document.data())
-        , fin_(document.data() + document.size()) {}
-
-    bool EstALaFin() {
-        PasseBlancs();
-        return ici_ == fin_;
-    }
-
-    bool Prends(char attendu) {
-        PasseBlancs();
-        if (ici_ == fin_ || *ici_ != attendu) {
-            return false;
-        }
-        ++ici_;
-        return true;
-    }
-
-    bool PrendsTexte(std::string_view attendu) {
-        PasseBlancs();
-        if (std::string_view(ici_, Reste()).substr(0, attendu.size()) != attendu) {
-            return false;
-        }
-        ici_ += attendu.size();
-        return true;
-    }
-
-    bool PrendsObjet(std::string_view& objet) {
-        PasseBlancs();
-        auto const* const debut = ici_;
-        if (!Prends('{')) {
-            return false;
-        }
-        for (int profondeur = 1; profondeur > 0;) {
-            if (ici_ == fin_) {
-                return false;
-            }
-            char const c = *ici_++;
-            if (c == '"') {
-                if (!PasseFinDeTexte()) {
-                    return false;
-                }
-            } else if (c == '{' || c == '[') {
-                if (++profondeur > kProfondeurMax) {
-                    return false;
-                }
-            } else if (c == '}' || c == ']') {
-                --profondeur;
-            } else if (c == '/') {
-                return false; // a comment: quotes and braces in it mean nothing
-            }
-        }
-        objet = std::string_view(debut, static_cast<std::size_t>(ici_ - debut));
-        return true;
-    }
-
-  private:
-    std::size_t Reste() const { return static_cast<std::size_t>(fin_ - ici_); }
-
-    void PasseBlancs() {
-        while (ici_ != fin_ && (*ici_ == ' ' || *ici_ == '\t' || *ici_ == '\n' || *ici_ == '\r')) {
-            ++ici_;
-        }
-    }
-
-    /// From inside a text to behind its closing quote.
-    bool PasseFinDeTexte() {
-        for (;;) {
-            auto const* const guillemet = static_cast<char const*>(std::memchr(ici_, '"', Reste()));
-            if (guillemet == nullptr) {
-                return false;
-            }
-            // Texts in Base64 hold no backslash: this looks at each character once.
-            if (std::memchr(ici_, '\\', static_cast<std::size_t>(guillemet - ici_)) != nullptr) {
-                return PasseFinDeTexteEchappe();
-            }
-            ici_ = guillemet + 1;
-            return true;
-        }
-    }
-
-    bool PasseFinDeTexteEchappe() {
-        while (ici_ != fin_) {
-            char const c = *ici_++;
-            if (c == '"') {
-                return true;
-            }
-            if (c == '\\' && ici_ != fin_) {
-                ++ici_;
-            }
-        }
-        return false;
-    }
-
-    char const* ici_;
-    char const* fin_;
-};
+bool EstObjet(std::string_view valeur) {
+    return valeur.front() == '{';
+}
 
 } // namespace
 
-std::optional<std::vector<std::string_view>> DecoupeZones(std::string_view document) {
-    Lecteur lecteur(document);
-    if (!lecteur.Prends('{') || !lecteur.PrendsTexte("\"Zones\"") || !lecteur.Prends(':') ||
-        !lecteur.Prends('[')) {
-        return std::nullopt;
+DecoupageZones::DecoupageZones(std::string_view document, lectureJson::AnalyseurJson& analyseur)
+    : forme_(Parcours(ParcoursJson(document), analyseur)) {}
+
+DecoupageZones::Forme DecoupageZones::Parcours(ParcoursJson parcours,
+                                               lectureJson::AnalyseurJson& analyseur) {
+    if (!parcours.Prends('{')) {
+        return Forme::Autre;
     }
-    std::vector<std::string_view> zones;
-    if (!lecteur.Prends(']')) {
+    if (!parcours.Prends('}')) {
         do {
-            std::string_view objet;
-            if (!lecteur.PrendsObjet(objet)) {
-                return std::nullopt;
+            std::string_view cle;
+            if (!parcours.PrendsCle(cle)) {
+                return Forme::Autre;
             }
-            zones.push_back(objet);
-        } while (lecteur.Prends(','));
-        if (!lecteur.Prends(']')) {
-            return std::nullopt;
+            bool const sontLesZones = cle == "Zones";
+            if (sontLesZones && parcours.Prends('[')) {
+                zones_ = parcours;
+                enReste_ = !parcours.Prends(']');
+                auto const forme = enReste_ ? PasseZones(parcours, analyseur) : Forme::Lisible;
+                if (forme != Forme::Lisible) {
+                    return forme;
+                }
+                continue;
+            }
+            std::string_view valeur;
+            std::size_t valeurs = 0;
+            if (parcours.PrendsValeur(valeur, valeurs) != Verdict::Juste) {
+                return Forme::Autre;
+            }
+            enReste_ = enReste_ && !sontLesZones;
+        } while (parcours.Prends(','));
+        if (!parcours.Prends('}')) {
+            return Forme::Autre;
         }
     }
-    if (!lecteur.Prends('}') || !lecteur.EstALaFin()) {
-        return std::nullopt;
+    return parcours.EstALaFin() ? Forme::Lisible : Forme::Autre;
+}
+
+/// From in front of the array's first element to behind its closing bracket.
+DecoupageZones::Forme DecoupageZones::PasseZones(ParcoursJson& parcours,
+                                                 lectureJson::AnalyseurJson& analyseur) {
+    std::size_t nombre = 0;
+    do {
+        std::string_view valeur;
+        std::size_t valeurs = 0;
+        auto const verdict = parcours.PrendsValeur(valeur, valeurs);
+        if (verdict == Verdict::Perdue) {
+            return Forme::Autre;
+        }
+        nombre += static_cast<std::size_t>(EstObjet(valeur));
+        if (nombre > kZonesMax || valeurs > lectureJson::kValeursMax ||
+            (verdict == Verdict::Douteuse && !analyseur.Analyse(valeur))) {
+            return Forme::Refusee;
+        }
+    } while (parcours.Prends(','));
+    return parcours.Prends(']') ? Forme::Lisible : Forme::Autre;
+}
+
+bool DecoupageZones::Suivante(std::string_view& zone) {
+    while (enReste_) {
+        std::size_t valeurs = 0;
+        zones_.PrendsValeur(zone, valeurs);
+        enReste_ = zones_.Prends(',');
+        if (EstObjet(zone)) {
+            return true;
+        }
     }
-    return zones;
+    return false;
 }

@@ -5,15 +5,26 @@
 
 namespace lectureJson {
 
-Json::Value Analyse(std::string const& octets) {
+std::size_t CompteValeurs(std::string_view octets) {
+    std::size_t marques = 1;
+    for (char const c : octets) {
+        marques += static_cast<std::size_t>(c == ',' || c == ':' || c == '[' || c == '{');
+    }
+    return marques;
+}
+
+Document Analyse(std::string const& octets) {
+    if (CompteValeurs(octets) > kValeursMax) {
+        return {false, {}};
+    }
     AnalyseurJson analyseur;
     try {
-        analyseur.Analyse(octets);
+        bool const entier = analyseur.Analyse(octets);
+        return {entier, std::move(analyseur.DonneRacine())};
     } catch (Json::Exception const&) {
         // Too deeply nested: nothing in it can be a zone.
-        return {};
+        return {false, {}};
     }
-    return std::move(analyseur.DonneRacine());
 }
 
 Json::Value const& Membre(Json::Value const& objet, char const* cle) {

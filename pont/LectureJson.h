@@ -7,12 +7,21 @@
 #include <json/reader.h>
 #include <json/value.h>
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 // How the readers of zone documents take what JsonCpp parsed. They are lenient about everything but
 // integers: whatever is missing or is no object reads as null, whatever is no text as empty.
 namespace lectureJson {
+
+/// More values than a tree may have, which takes 160 bytes for each: a style run is four of them,
+/// and no zone has half a million runs.
+inline constexpr std::size_t kValeursMax = 2 * 1024 * 1024;
+
+/// The number of values in a document, or up to twice as much: by its marks alone, so that one with
+/// too many is known before anything is built. Marks inside texts count too.
+std::size_t CompteValeurs(std::string_view octets);
 
 /// Parses one document after the other; cheaper than a parser for each.
 class AnalyseurJson {
@@ -21,7 +30,8 @@ class AnalyseurJson {
     /// Json::Exception for nesting beyond the parser's depth.
     bool Analyse(std::string_view octets) {
         // By pointers: given a std::string, the reader would keep a copy of the whole document.
-        return lecteur_.parse(octets.data(), octets.data() + octets.size(), racine_, true);
+        // Without the comments: it collects them at a cost that grows with their square.
+        return lecteur_.parse(octets.data(), octets.data() + octets.size(), racine_, false);
     }
     /// Valid until the next document.
     Json::Value& DonneRacine() noexcept { return racine_; }
@@ -35,9 +45,15 @@ class AnalyseurJson {
     Json::Value racine_;
 };
 
-/// Parses the UTF-8 bytes. Whether it worked is deliberately not told: what the parser left in the
-/// root is used. Nesting beyond the parser's depth gives null.
-Json::Value Analyse(std::string const& octets);
+/// What became of a document parsed as a whole.
+struct Document {
+    bool entier;        ///< it parsed from end to end
+    Json::Value racine; ///< what the parser left, in both cases
+};
+
+/// Parses the UTF-8 bytes. Nesting beyond the parser's depth, or more than `kValeursMax` values,
+/// gives null, and not whole.
+Document Analyse(std::string const& octets);
 
 /// A member, or null when `objet` is no object or has none of that name. The reference lives as
 /// long as `objet`.

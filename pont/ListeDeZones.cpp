@@ -5,7 +5,9 @@
 #include "DecoupageZones.h"
 #include "LectureJson.h"
 
-#include <optional>
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
 
 namespace {
 
@@ -26,27 +28,23 @@ ZoneRecue LisZone(Json::Value const& element) {
     return zone;
 }
 
-/// The zones of a document that can be taken apart and is right throughout, read one by one: the
-/// parser's tree of a whole long document takes three times its size, and is slow to walk.
-std::optional<std::vector<ZoneRecue>> LisUneParUne(std::string const& octets) {
-    auto const morceaux = DecoupeZones(octets);
-    if (!morceaux) {
-        return std::nullopt;
+/// The zones of a document that its parts do not tell: the parser's tree of the whole.
+void LisEnEntier(std::string const& octets, std::function<void(ZoneRecue&&)> const& recois) {
+    auto const document = lectureJson::Analyse(octets);
+    auto const& zones = lectureJson::Membre(document.racine, "Zones");
+    if (!document.entier || !lectureJson::EstListe(zones)) {
+        return;
     }
-    std::vector<ZoneRecue> zones;
-    zones.reserve(morceaux->size());
-    lectureJson::AnalyseurJson analyseur;
-    try {
-        for (auto const& morceau : *morceaux) {
-            if (!analyseur.Analyse(morceau)) {
-                return std::nullopt;
-            }
-            zones.push_back(LisZone(analyseur.DonneRacine()));
+    auto const estObjet = [](Json::Value const& element) { return element.isObject(); };
+    if (std::count_if(zones.begin(), zones.end(), estObjet) >
+        static_cast<std::ptrdiff_t>(kZonesMax)) {
+        return;
+    }
+    for (auto const& element : zones) {
+        if (estObjet(element)) {
+            recois(LisZone(element));
         }
-    } catch (Json::Exception const&) {
-        return std::nullopt; // what is wrong, and where, comes out when the whole is read
     }
-    return zones;
 }
 
 } // namespace
@@ -55,18 +53,18 @@ void LisListeDeZones(std::string const& octets, std::function<void(ZoneRecue&&)>
     if (octets.empty()) {
         return;
     }
-    if (auto lues = LisUneParUne(octets)) {
-        for (auto& zone : *lues) {
-            recois(std::move(zone));
-        }
+    // Zone by zone wherever that goes: the parser's tree of a whole long document takes three times
+    // its size, and is slow to walk.
+    lectureJson::AnalyseurJson analyseur;
+    DecoupageZones decoupage(octets, analyseur);
+    if (decoupage.DonneForme() == DecoupageZones::Forme::Autre) {
+        LisEnEntier(octets, recois);
+    }
+    if (decoupage.DonneForme() != DecoupageZones::Forme::Lisible) {
         return;
     }
-    auto const racine = lectureJson::Analyse(octets);
-    auto const& zones = lectureJson::Membre(racine, "Zones");
-    if (!lectureJson::EstListe(zones)) {
-        return;
-    }
-    for (auto const& element : zones) {
-        recois(LisZone(element));
+    for (std::string_view morceau; decoupage.Suivante(morceau);) {
+        analyseur.Analyse(morceau);
+        recois(LisZone(analyseur.DonneRacine()));
     }
 }

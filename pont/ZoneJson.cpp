@@ -56,7 +56,8 @@ TexteAvecAttributs JsonVersChaineAttribuee(UniChaine const& json, UniChaine& nom
     if (json.EstVide()) {
         return texte;
     }
-    auto const racine = lectureJson::Analyse(json.VersUtf8());
+    // Whether all of it parsed does not matter here: what the parser left is used.
+    auto const racine = lectureJson::Analyse(json.VersUtf8()).racine;
     std::string tampon;
     nom = DecodeTexteJson(lectureJson::Texte(racine, "Nom", tampon));
     texte.MetsTexte(sdd::T(DecodeTexteJson(lectureJson::Texte(racine, "Texte", tampon))));

@@ -118,16 +118,19 @@ TEST(ZoneReader, StylesThatAreNoListGiveAZoneWithoutRuns) {
     }
 }
 
-TEST(ZoneReader, ElementsAndRunsThatAreNoObjectsReadAsEmptyOnes) {
-    auto const zones = LisTout(Liste(R"(null,3,"abc",true,[],[{"Nom":"bg=="}],{})")).zones;
-    ASSERT_EQ(7U, zones.size());
-    for (auto const& zone : zones) {
-        EXPECT_TRUE(zone.nom.EstVide());
-        EXPECT_TRUE(zone.texte.EstVide());
-        EXPECT_EQ(0, zone.debutSel);
-        EXPECT_EQ(0, zone.finSel);
-        EXPECT_TRUE(zone.styles.empty());
+TEST(ZoneReader, AnElementThatIsNoObjectIsNoZone) {
+    auto const autres = R"(null,3,"abc",true,[],[{"Nom":"bg=="}])"s;
+    for (auto const& devant : {""s, "/**/"s}) { // zone by zone, and as a whole
+        EXPECT_TRUE(LisTout(devant + Liste(autres)).zones.empty());
+        auto const zones =
+            LisTout(devant + Liste(autres + ',' + Zone("n", "t") + ',' + autres + ",{}")).zones;
+        ASSERT_EQ(2U, zones.size());
+        EXPECT_EQ(U(u"t"), zones[0].texte);
+        EXPECT_TRUE(zones[1].nom.EstVide());
     }
+}
+
+TEST(ZoneReader, ARunThatIsNoObjectReadsAsAnEmptyOne) {
     auto const plages = LisTout(Liste(R"({"InfosStyle":[null,3,"abc",[1,2],{}]})")).zones;
     ASSERT_EQ(1U, plages.size());
     EXPECT_EQ(std::vector<contrat::PlageDeStyle>(5, {0, 0, 0}), plages[0].styles);
