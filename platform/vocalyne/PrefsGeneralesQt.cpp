@@ -11,14 +11,13 @@ struct PrefsGeneralesQt::Contenu {
     std::map<QString, std::optional<QVariant>> lues; ///< what `conserve` kept, absences too
 };
 
-PrefsGeneralesQt::PrefsGeneralesQt(UniChaine const& chemin, ePrefsGenMode /*mode*/,
+// By value, as their names in the library tell.
+// NOLINTBEGIN(performance-unnecessary-value-param)
+PrefsGeneralesQt::PrefsGeneralesQt(UniChaine chemin, ePrefsGenMode /*mode*/,
                                    ePrefsGenAcces /*acces*/, QSettings::Format format)
     : contenu_(new Contenu{FichierReglages(chemin.VersQString(), format), {}}) {}
 
-PrefsGeneralesQt::~PrefsGeneralesQt() = default;
-
-QVariant PrefsGeneralesQt::Donne(UniChaine const& cle, QVariant const& defaut,
-                                 bool conserve) const {
+QVariant PrefsGeneralesQt::Donne(UniChaine cle, QVariant defaut, bool conserve) const {
     QString const& nom = cle.VersQString();
     auto lue = contenu_->lues.find(nom);
     if (lue != contenu_->lues.end() && conserve) {
@@ -30,3 +29,6 @@ QVariant PrefsGeneralesQt::Donne(UniChaine const& cle, QVariant const& defaut,
     }
     return valeur.value_or(defaut);
 }
+// NOLINTEND(performance-unnecessary-value-param)
+
+PrefsGeneralesQt::~PrefsGeneralesQt() = default;

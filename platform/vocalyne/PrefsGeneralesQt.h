@@ -19,11 +19,14 @@ enum ePrefsGenAcces : int {
 
 /// Settings shared by the host and its connectors, in one Qt settings file. Reading never creates
 /// the file. One object on one thread at a time.
+///
+/// The constructor and `Donne` take their strings by value: the names that connectors are linked
+/// with say so.
 class VOCALYNE_OUTILS PrefsGeneralesQt {
   public:
     /// Opens the file at `chemin` (kept as given, not cleaned). A missing or unreadable file reads
     /// as having no keys; in a damaged one, the lines that are no settings are passed over.
-    PrefsGeneralesQt(UniChaine const& chemin, ePrefsGenMode mode, ePrefsGenAcces acces,
+    PrefsGeneralesQt(UniChaine chemin, ePrefsGenMode mode, ePrefsGenAcces acces,
                      QSettings::Format format);
     ~PrefsGeneralesQt();
     PrefsGeneralesQt(PrefsGeneralesQt const&) = delete;
@@ -31,7 +34,7 @@ class VOCALYNE_OUTILS PrefsGeneralesQt {
 
     /// The value of `cle` ("group/…/key"), or `defaut` when there is none. `conserve` keeps what
     /// was read for later calls of this object; false asks the file again.
-    QVariant Donne(UniChaine const& cle, QVariant const& defaut, bool conserve) const;
+    QVariant Donne(UniChaine cle, QVariant defaut, bool conserve) const;
 
   private:
     struct Contenu;

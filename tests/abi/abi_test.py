@@ -15,6 +15,20 @@ ICI = pathlib.Path(__file__).resolve().parent
 DEPOT = ICI.parent.parent
 GREFFON = os.environ.get("VOCALYNE_GREFFON", "")
 TABLES = os.environ.get("VOCALYNE_TABLES", "")
+# What loading, unloading and messages ask of the host's libraries, as those export it.
+DEMANDES = {
+    "AjouterAuxDomainesDeTraduction(std::function<void ()>)",
+    "InitLocaleAvecQRC(std::pair<std::locale*, UniChaine>**, UniChaine const&, eLangue, bool)",
+    "InitQApplication()",
+    "InitialisationGenerale::InitApresQApp()",
+    "InitialisationGenerale::InitLePlusTotPossible(eLangue)",
+    "PrefsGeneralesQt::Donne(UniChaine, QVariant, bool) const",
+    "PrefsGeneralesQt::PrefsGeneralesQt(UniChaine, ePrefsGenMode, ePrefsGenAcces, QSettings::Format)",
+    "StockageReponse::Initialise(DDialogue::eTypStockeur, UniChaine const&, QSettings::Format)",
+    "_Tr(std::pair<std::locale*, UniChaine>*, char const*, char const*)",
+    "eLangueSelonELangueAffichage(eLangueAffichage)",
+    "sdd::ChaineN::LibereConvertisseurPourCodage()",
+}
 CLASSES = ["AgentEspion", "ConnecteurEspion", "ImplAgentTexteur", "ImplZoneDeTexteTEMP",
            "InterfaceAgentTexteur", "InterfaceTexteur", "InterfaceZoneDeTexte", "ModuleProxyOOo",
            "VocalyneOpenOfficeProxyQDBUS", "ZoneDeTexteOOoProxy", "ZoneEspion"]
@@ -107,6 +121,11 @@ class Abi(unittest.TestCase):
         # The sanitizers' own, in that build, and the loader where the architecture names it.
         noms = [n for n in noms if not re.match(r"lib(asan|ubsan)\.|ld-linux", n)]
         self.compare("dependances.txt", "".join(f"{nom}\n" for nom in sorted(noms)))
+
+    def test_the_plug_in_asks_the_host_s_libraries_by_their_exact_names(self):
+        demandes = {ligne.split(None, 1)[1] for ligne in
+                    sortie("nm", "-DC", "--undefined-only", GREFFON).splitlines()}
+        self.assertEqual(set(), DEMANDES - demandes)
 
     def test_the_slots_of_the_interfaces_stand_in_their_frozen_order(self):
         self.compare("emplacements.txt", tables(pathlib.Path(TABLES).read_text()))

@@ -50,13 +50,13 @@ bool VientDuGreffon(void const* retour) {
 
 // By their mangled names, as the dynamic linker knows them.
 #define NOM_PREFS                                                                                  \
-    "_ZN16PrefsGeneralesQtC1ERK9UniChaine13ePrefsGenMode14ePrefsGenAccesN9QSettings6FormatE"
-#define NOM_DONNE "_ZNK16PrefsGeneralesQt5DonneERK9UniChaineRK8QVariantb"
+    "_ZN16PrefsGeneralesQtC1E9UniChaine13ePrefsGenMode14ePrefsGenAccesN9QSettings6FormatE"
+#define NOM_DONNE "_ZNK16PrefsGeneralesQt5DonneE9UniChaine8QVariantb"
 
-TRACE_PUBLIC void tracePrefs(PrefsGeneralesQt* objet, UniChaine const& chemin, ePrefsGenMode mode,
+TRACE_PUBLIC void tracePrefs(PrefsGeneralesQt* objet, UniChaine chemin, ePrefsGenMode mode,
                              ePrefsGenAcces acces, QSettings::Format format) __asm__(NOM_PREFS);
-void tracePrefs(PrefsGeneralesQt* objet, UniChaine const& chemin, ePrefsGenMode mode,
-                ePrefsGenAcces acces, QSettings::Format format) {
+void tracePrefs(PrefsGeneralesQt* objet, UniChaine chemin, ePrefsGenMode mode, ePrefsGenAcces acces,
+                QSettings::Format format) {
     Dis("PrefsGeneralesQt",
         QString::fromLatin1("(%1, %2, %3, %4)")
             .arg(chemin.VersQString())
@@ -64,15 +64,13 @@ void tracePrefs(PrefsGeneralesQt* objet, UniChaine const& chemin, ePrefsGenMode 
             .arg(acces)
             .arg(format == QSettings::NativeFormat ? QString::fromLatin1("native")
                                                    : QString::fromLatin1("other")));
-    Suivante<void (*)(PrefsGeneralesQt*, UniChaine const&, ePrefsGenMode, ePrefsGenAcces,
+    Suivante<void (*)(PrefsGeneralesQt*, UniChaine, ePrefsGenMode, ePrefsGenAcces,
                       QSettings::Format)>(NOM_PREFS)(objet, chemin, mode, acces, format);
 }
 
-QVariant PrefsGeneralesQt::Donne(UniChaine const& cle, QVariant const& defaut,
-                                 bool conserve) const {
-    auto valeur =
-        Suivante<QVariant (*)(PrefsGeneralesQt const*, UniChaine const&, QVariant const&, bool)>(
-            NOM_DONNE)(this, cle, defaut, conserve);
+QVariant PrefsGeneralesQt::Donne(UniChaine cle, QVariant defaut, bool conserve) const {
+    auto valeur = Suivante<QVariant (*)(PrefsGeneralesQt const*, UniChaine, QVariant, bool)>(
+        NOM_DONNE)(this, cle, defaut, conserve);
     Dis("Donne", QString::fromLatin1("(%1, %2, %3)")
                      .arg(cle.VersQString(), defaut.toString(),
                           conserve ? QString::fromLatin1("true") : QString::fromLatin1("false")));
