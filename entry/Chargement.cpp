@@ -59,16 +59,23 @@ void ChargeDomaineTexteur() {
 
 namespace {
 
-/// Tells an unloading from the end of the process: static objects die after the finalisers in the
-/// first case, before them in the second.
-bool leProcessusFinit;
+bool leModuleEstLibere;
+
+/// Static objects die behind the finalisers when the library is unloaded, but before them when the
+/// process ends, be it unloaded then all the same. In that case Qt is half gone and its application
+/// object is left alone; the host's libraries still stand whole, as they were there before.
 struct Sentinelle {
-    ~Sentinelle() { leProcessusFinit = true; }
+    ~Sentinelle() {
+        if (!leModuleEstLibere) {
+            leModuleEstLibere = true;
+            LibereReponsesEtConvertisseur();
+        }
+    }
 } laSentinelle;
 
-/// At the end of the process nothing is released: Qt is half gone by then, and memory goes anyway.
 __attribute__((destructor)) void Finalise() {
-    if (!leProcessusFinit) {
+    if (!leModuleEstLibere) {
+        leModuleEstLibere = true;
         LibereModule();
     }
 }

@@ -56,12 +56,16 @@ void InitialiseModule() {
     QCoreApplication::setApplicationName(QStringLiteral("Vocalyne 9"));
 }
 
-void LibereModule() {
+void LibereReponsesEtConvertisseur() {
     for (auto& [type, stockeur] : StockageReponse::laListeStockeurDefaut) {
         delete stockeur;
         stockeur = nullptr;
     }
     StockageReponse::laListeStockeurDefaut.clear();
     sdd::ChaineN::LibereConvertisseurPourCodage();
+}
+
+void LibereModule() {
+    LibereReponsesEtConvertisseur();
     delete DonneApplicationDuModule().data();
 }

@@ -14,6 +14,10 @@ UniChaine DonneCheminReglages();
 /// application names. Catches nothing.
 void InitialiseModule();
 
-/// Releases it, in the opposite order. The Qt application object is deleted only if
+/// Releases what stands in the host's libraries: the storers of remembered answers, which may
+/// write as they go, and the string library's converter. Nothing happens the second time.
+void LibereReponsesEtConvertisseur();
+
+/// Releases the whole module: the above, then the Qt application object, but that only if
 /// `InitialiseModule` had it made: one that the host brought along stays the host's.
 void LibereModule();

@@ -8,12 +8,17 @@
 //   `langue1` | `langue2`  fix the display language anew
 //   `ressources`  do the catalogs' paths resolve, how are they stored, what do they hold
 //   `noms`  the application's identity
+//   `stockeur`  put a storer of answers in the host's map that writes to the settings as it goes
+//   `ferme-a-la-fin`  make a static object that unloads the plug-in when the process ends
 //   `sors`  end the process with the plug-in still loaded
 #include "InitialisationGenerale.h"
+#include "StockageReponse.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QResource>
+#include <QSettings>
 
 #include <dlfcn.h>
 
@@ -111,6 +116,35 @@ void DisRessource(char const* chemin) {
                 octets.toStdString() == attendu && !attendu.empty() ? "whole" : "different");
 }
 
+/// A storer that keeps its answers to itself and writes at its end that it was released.
+class StockeurQuiEcrit : public StockeurReponse {
+  public:
+    StockeurQuiEcrit() = default;
+    StockeurQuiEcrit(StockeurQuiEcrit const&) = delete;
+    StockeurQuiEcrit& operator=(StockeurQuiEcrit const&) = delete;
+    ~StockeurQuiEcrit() override {
+        QSettings reglages(QDir::homePath() + QLatin1String("/reponses.conf"),
+                           QSettings::NativeFormat);
+        reglages.setValue(QLatin1String("liberations"),
+                          reglages.value(QLatin1String("liberations"), 0).toInt() + 1);
+    }
+    std::optional<int> Donne(UniChaine const& /*dialogue*/) const override { return {}; }
+    bool Mets(UniChaine const& /*dialogue*/, int /*reponse*/) override { return true; }
+    void Oublie(UniChaine const& /*dialogue*/) override {}
+};
+
+/// Unloads the plug-in at the end of the process: after the plug-in's own static objects where it
+/// was made before them, else ahead of them.
+void FermeALaFin() {
+    struct Fermeture {
+        ~Fermeture() { Decharge(); }
+        Fermeture() = default;
+        Fermeture(Fermeture const&) = delete;
+        Fermeture& operator=(Fermeture const&) = delete;
+    };
+    static Fermeture const fermeture;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -138,6 +172,11 @@ int main(int argc, char** argv) {
         } else if (mot == "noms") {
             std::printf("application %s of %s\n", qPrintable(QCoreApplication::applicationName()),
                         qPrintable(QCoreApplication::organizationName()));
+        } else if (mot == "stockeur") {
+            StockageReponse::laListeStockeurDefaut[static_cast<DDialogue::eTypStockeur>(7)] =
+                std::make_unique<StockeurQuiEcrit>().release();
+        } else if (mot == "ferme-a-la-fin") {
+            FermeALaFin();
         } else if (mot == "sors") {
             std::exit(0);
         } else {

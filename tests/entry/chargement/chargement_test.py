@@ -152,6 +152,29 @@ class Chargement(unittest.TestCase):
         for mots in (("charge", "sors"), ("application", "charge", "sors")):
             self.lance(*mots, programme=CHARGEUR_NU, QT_QPA_PLATFORM="offscreen")
 
+    def test_storers_are_released_however_the_process_ends_and_may_write_then(self):
+        fins = (("charge", "decharge"), ("charge",), ("charge", "sors"), ("ferme-a-la-fin", "charge"),
+                ("ferme-a-la-fin", "charge", "sors"), ("charge", "ferme-a-la-fin"),
+                ("charge", "ferme-a-la-fin", "sors"))
+        for mots in fins:
+            for application in ((), ("application",), ("console",)):
+                with self.subTest(mots=mots, application=application):
+                    rang = mots.index("charge") + 1
+                    self.lance(*application, *mots[:rang], "stockeur", *mots[rang:], programme=CHARGEUR_NU,
+                               QT_QPA_PLATFORM="offscreen")
+                    reponses = self.maison / "reponses.conf"
+                    self.assertEqual("[General]\nliberations=1\n", reponses.read_text())
+                    reponses.unlink()
+
+    def test_at_the_end_of_the_process_the_application_alone_is_left(self):
+        liberations = ["(storers released)", "LibereConvertisseurPourCodage"]
+        for mots in (("charge", "sors"), ("ferme-a-la-fin", "charge", "sors")):
+            with self.subTest(mots=mots):
+                lignes = self.lance(*mots)
+                fin = lignes[lignes.index("-- charge: application its own") + 1:]
+                self.assertEqual(liberations, [ligne for ligne in fin if ligne in liberations])
+                self.assertNotIn("~QApplication", fin)
+
 
 if __name__ == "__main__":
     unittest.main()
