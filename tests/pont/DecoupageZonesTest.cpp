@@ -58,12 +58,12 @@ TEST(ZoneCutting, TakesTheLastOfTwoLists) {
 
 TEST(ZoneCutting, HasTheParserJudgeZonesThatHoldWhatIsUncommon) {
     for (auto const* zone : {R"({"a":1.5})", R"({"a":"\u0062"})", R"({"a":1234567890123456789012})",
-                             R"({"":1,})", R"({"a":[1.5,{"b":-1e3}]})"}) {
+                             R"({"":1,})", R"({"a":-})", R"({"a":[1.5,{"b":-1e3}]})"}) {
         EXPECT_EQ(Morceaux{zone}, Decoupe(Liste(zone)));
     }
     for (auto const* zone :
          {R"({"a":truex})", R"({"a":"\uZZZZ"})", R"({"a":[1}})", R"({"a" 1})", R"({1:2})",
-          R"({"a":1 2})", R"({"a":-})", R"({"a":"\x"})", R"({"a":'b'})", R"({"a":[1,]})"}) {
+          R"({"a":1 2})", R"({"a":"\x"})", R"({"a":'b'})", R"({"a":[1,]})"}) {
         EXPECT_EQ(Forme::Refusee, FormeDe(Liste(zone))) << zone;
     }
 }
