@@ -59,10 +59,13 @@ std::size_t Nombre(std::string const& document) {
 
 TEST(OversizedDocuments, CommentsCostNoMoreThanTheirLength) {
     Montre const montre;
-    auto const commentaires = Repete("/* x */\n// y\n", 300000);
-    EXPECT_EQ(1U, Nombre("{\"Zones\":[" + commentaires + "{}]}"));
-    EXPECT_EQ(1U, Nombre(commentaires + "{\"Zones\":[{}]}" + commentaires));
-    EXPECT_EQ(1U, Nombre("{\"Zones\":[{" + commentaires + "}]}"));
+    for (auto const* commentaire : {"/* x */", "/* x */\n", "// x\n"}) {
+        auto const commentaires = Repete(commentaire, 300000);
+        EXPECT_EQ(1U, Nombre("{\"Zones\":[" + commentaires + "{}]}"));
+        EXPECT_EQ(1U, Nombre("{\"Zones\":[{}" + commentaires + "]}"));
+        EXPECT_EQ(1U, Nombre(commentaires + "{\"Zones\":[{}]}" + commentaires));
+        EXPECT_EQ(1U, Nombre("{\"Zones\":[{\"a\":1" + commentaires + "}]}"));
+    }
 }
 
 TEST(OversizedDocuments, EscapesCostNoMoreThanTheirLength) {
