@@ -62,7 +62,7 @@ class ImplAgentTexteur : public virtual InterfaceAgentTexteur {
     //   dropped, those before it stay.
     // - In everything else, and in the same operations when something else calls them (the
     //   context, the routines), it goes as it is to the host that called, and nothing further is
-    //   done: zones are not moved after a replacement that threw, and outs keep what they held.
+    //   done: zones are not moved after a replacement that threw, an interval is not adjusted.
 
     /// The characters with a special meaning in zone text: a constant, NUL-terminated byte
     /// sequence. 0x07 stands for text that was not read.

@@ -33,12 +33,12 @@ bool ImplZoneDeTexteTEMP::PeutCorriger(int debut, int fin, UniChaine const& text
 
 void ImplZoneDeTexteTEMP::AjusteIntervalle(int debut, int fin, int* debutAjuste, int* finAjustee,
                                            bool drapeau) {
-    *debutAjuste = Somme(*debutAjuste, debut_);
-    *finAjustee = Somme(*finAjustee, debut_);
-    agent_->AjusteIntervalleZone(Somme(debut_, debut), Somme(debut_, fin), fin_, *debutAjuste,
-                                 *finAjustee, drapeau);
-    *debutAjuste = Difference(*debutAjuste, debut_);
-    *finAjustee = Difference(*finAjustee, debut_);
+    int debutAbsolu = Somme(*debutAjuste, debut_);
+    int finAbsolue = Somme(*finAjustee, debut_);
+    agent_->AjusteIntervalleZone(Somme(debut_, debut), Somme(debut_, fin), fin_, debutAbsolu,
+                                 finAbsolue, drapeau);
+    *debutAjuste = Difference(debutAbsolu, debut_);
+    *finAjustee = Difference(finAbsolue, debut_);
 }
 
 bool ImplZoneDeTexteTEMP::SelectionneIntervalle(int debut, int fin) {

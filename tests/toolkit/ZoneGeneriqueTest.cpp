@@ -113,6 +113,28 @@ TEST_F(GenericZone, WithoutAConnectorsAdjustmentTheOutsComeBackAsTheyWere) {
     EXPECT_EQ(INT_MIN, fin);
 }
 
+TEST(GenericZoneOfAConnectorThatFails, LetsItsExceptionThroughAndAdjustsNothing) {
+    class Defaillant : public ConnecteurEssai {
+      public:
+        Defaillant()
+            : InterfaceTexteur(UniChaine())
+            , ConnecteurEssai(u"abcdef") {}
+        void AjusteIntervalleZone(int, int, int, int& debut, int& fin, bool) override {
+            debut = fin = 99;
+            Echoue();
+        }
+        bool PeutCorrigerZone(int, int, UniChaine const&) override { Echoue(); }
+    };
+    Defaillant connecteur;
+    ImplZoneDeTexteTEMP zone(&connecteur, 3, 6);
+    int debut = 1;
+    int fin = 2;
+    EXPECT_ANY_THROW(zone.AjusteIntervalle(0, 1, &debut, &fin, false));
+    EXPECT_EQ(1, debut);
+    EXPECT_EQ(2, fin);
+    EXPECT_ANY_THROW(zone.PeutCorriger(0, 1, U(u"d")));
+}
+
 TEST_F(GenericZone, SelectsInAbsolutePositionsAndAnswersWhetherTheAnswerIsNotZero) {
     connecteur_.selectionne = [](int, int) { return 0; };
     EXPECT_FALSE(Seconde().SelectionneIntervalle(1, 2));
