@@ -14,7 +14,8 @@ constexpr char const* kConsulterUtilisation =
     "Pour utiliser Vocalyne dans ce logiciel, veuillez consulter le document « Utilisation avec "
     "vos logiciels » (accessible par le menu Aide d’Vocalyne).";
 
-UniChaine Phrase(char const* message, char const* contexte, UniChaine const& nomApplication) {
+UniChaine ComposePhrase(char const* message, char const* contexte,
+                        UniChaine const& nomApplication) {
     // The name is an argument of the format, so braces in it stay as they are.
     auto const modele = _Tr(domaineTexteur, message, contexte).VersUtf8();
     auto const texte = (boost::locale::format(modele) % nomApplication.VersUtf8()).str();
@@ -28,8 +29,8 @@ void Montre(UniChaine const& texte, UniChaine const& information) {
 } // namespace
 
 void AlerteMiseAJourVocalyneRequise(UniChaine const& nomApplication) {
-    auto information =
-        Phrase("L’intégration à {1} requiert une mise à jour d’Vocalyne.", nullptr, nomApplication);
+    auto information = ComposePhrase("L’intégration à {1} requiert une mise à jour d’Vocalyne.",
+                                     nullptr, nomApplication);
     information.Ajoute(UniChaine("\n\n", UniChaine::kCodageLitteral));
     information.Ajoute(_Tr(domaineTexteur,
                            "Pour vérifier les mises à jour offertes, veuillez sélectionner "
@@ -39,8 +40,8 @@ void AlerteMiseAJourVocalyneRequise(UniChaine const& nomApplication) {
 }
 
 void AlerteConnecteurPasAJour(UniChaine const& /*nonLu*/, UniChaine const& nomApplication) {
-    Montre(Phrase("Le connecteur d’Vocalyne installé dans {1} n’est pas à jour.",
-                  "... dans <nom_de_l_application> n’est pas ...", nomApplication),
+    Montre(ComposePhrase("Le connecteur d’Vocalyne installé dans {1} n’est pas à jour.",
+                         "... dans <nom_de_l_application> n’est pas ...", nomApplication),
            _Tr(domaineTexteur,
                "Pour mettre le connecteur à jour, veuillez lancer le programme d’installation des "
                "connecteurs, accessible par l’entrée « Installation dans vos logiciels » du menu "
@@ -49,14 +50,15 @@ void AlerteConnecteurPasAJour(UniChaine const& /*nonLu*/, UniChaine const& nomAp
 }
 
 void AlerteAppelImpossible(UniChaine const& nomApplication) {
-    Montre(Phrase("L’appel d’Vocalyne à partir de l’Agent Vocalyne n’est pas possible pour {1}.",
-                  "L’argument est un nom d’application", nomApplication),
+    Montre(ComposePhrase(
+               "L’appel d’Vocalyne à partir de l’Agent Vocalyne n’est pas possible pour {1}.",
+               "L’argument est un nom d’application", nomApplication),
            _Tr(domaineTexteur, kConsulterUtilisation, nullptr));
 }
 
 void AlerteConnecteurRequis(UniChaine const& nomApplication) {
-    Montre(Phrase("L’appel d’Vocalyne à partir de l’Agent Vocalyne pour {1} nécessite "
-                  "l’installation d’un connecteur.",
-                  nullptr, nomApplication),
+    Montre(ComposePhrase("L’appel d’Vocalyne à partir de l’Agent Vocalyne pour {1} nécessite "
+                         "l’installation d’un connecteur.",
+                         nullptr, nomApplication),
            _Tr(domaineTexteur, kConsulterUtilisation, nullptr));
 }

@@ -12,7 +12,7 @@ namespace {
 
 /// The toolkit knows no application; a connector that knows one overrides the two operations that
 /// start from this path.
-UniChemin CheminApplication() {
+UniChemin DonneCheminApplication() {
     return {};
 }
 
@@ -25,7 +25,7 @@ ImplAgentTexteur::ImplAgentTexteur()
 ImplAgentTexteur::~ImplAgentTexteur() = default;
 
 void ImplAgentTexteur::DonneImageApplication(ImageCommune& image) {
-    auto const chemin = CheminApplication();
+    auto const chemin = DonneCheminApplication();
     if (chemin.EstVide()) {
         return;
     }
@@ -37,7 +37,7 @@ void ImplAgentTexteur::DonneImageApplication(ImageCommune& image) {
 }
 
 UniChaine ImplAgentTexteur::DonneNomApplication() {
-    return CheminApplication().DonneChemin();
+    return DonneCheminApplication().DonneChemin();
 }
 
 bool ImplAgentTexteur::LisBornes(BornesDuTexte& bornes) {

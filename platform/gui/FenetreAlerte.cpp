@@ -7,7 +7,7 @@
 
 namespace {
 
-QMessageBox::Icon Icone(DAlerteInfo::eTypeDialogue genre) {
+QMessageBox::Icon DonneIcone(DAlerteInfo::eTypeDialogue genre) {
     switch (genre) {
     case DAlerteInfo::kQuestion:
         return QMessageBox::Question;
@@ -28,7 +28,7 @@ eReponseAlerte MontreFenetreAlerte(QWidget* parent, DAlerteInfo const& info) {
     // A parent that is destroyed while the window is open takes the window with it.
     QPointer<QMessageBox> const fenetre(new QMessageBox(parent));
     fenetre->setWindowTitle(QStringLiteral("Vocalyne"));
-    fenetre->setIcon(Icone(info.DonneGenre()));
+    fenetre->setIcon(DonneIcone(info.DonneGenre()));
     fenetre->setTextFormat(Qt::PlainText);
     fenetre->setText(info.DonneTexte().VersQString());
     fenetre->setInformativeText(info.DonneInformation().VersQString());

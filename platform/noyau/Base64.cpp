@@ -24,7 +24,7 @@ constexpr std::array<signed char, 256> FaisValeurs() {
 constexpr auto kValeurs = FaisValeurs();
 
 /// 0 to 63, or -1.
-int Valeur(char caractere) {
+int DonneValeur(char caractere) {
     return kValeurs[static_cast<unsigned char>(caractere)];
 }
 
@@ -59,10 +59,10 @@ void Base64::Decode(char const* caracteres, std::size_t taille, TamponMemoire& s
         }
         // Whole groups of four, as long as nothing else stands between them.
         if (nombreBits == 0 && fin - caracteres >= 4) {
-            int const a = Valeur(caracteres[0]);
-            int const b = Valeur(caracteres[1]);
-            int const c = Valeur(caracteres[2]);
-            int const d = Valeur(caracteres[3]);
+            int const a = DonneValeur(caracteres[0]);
+            int const b = DonneValeur(caracteres[1]);
+            int const c = DonneValeur(caracteres[2]);
+            int const d = DonneValeur(caracteres[3]);
             if ((a | b | c | d) >= 0) {
                 int const groupe = a << 18 | b << 12 | c << 6 | d;
                 morceau[ecrits++] = static_cast<char>(groupe >> 16);
@@ -72,7 +72,7 @@ void Base64::Decode(char const* caracteres, std::size_t taille, TamponMemoire& s
                 continue;
             }
         }
-        int const valeur = Valeur(*caracteres++);
+        int const valeur = DonneValeur(*caracteres++);
         if (valeur < 0) {
             continue;
         }

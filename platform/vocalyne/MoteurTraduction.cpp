@@ -11,7 +11,7 @@ namespace {
 
 /// The library stands beside this one. Asked for by its whole path: the run path that would find it
 /// is this library's, and a sanitizer's dlopen looks along its own.
-std::string Chemin() {
+std::string DonneChemin() {
     Dl_info infos;
     std::string ici;
     if (dladdr(reinterpret_cast<void const*>(&moteurTraduction::Traduis), &infos) != 0) {
@@ -27,7 +27,7 @@ struct Moteur {
     decltype(&vocalyneTraduis) traduis = nullptr;
 
     Moteur() {
-        auto* const bibliotheque = dlopen(Chemin().c_str(), RTLD_NOW | RTLD_LOCAL);
+        auto* const bibliotheque = dlopen(DonneChemin().c_str(), RTLD_NOW | RTLD_LOCAL);
         if (bibliotheque == nullptr) {
             return;
         }

@@ -32,23 +32,23 @@ class StockeurReglages final : public StockeurReponse {
         : fichier_(chemin.VersQString(), format) {}
 
     std::optional<int> Donne(UniChaine const& dialogue) const override {
-        auto const valeur = fichier_.Lis(Cle(dialogue), true);
+        auto const valeur = fichier_.Lis(DonneCle(dialogue), true);
         bool estEntier = false;
         int const reponse = valeur ? valeur->toInt(&estEntier) : 0;
         return estEntier ? std::make_optional(reponse) : std::nullopt;
     }
     bool Mets(UniChaine const& dialogue, int reponse) override {
-        return fichier_.Ecris({{Cle(dialogue), reponse}});
+        return fichier_.Ecris({{DonneCle(dialogue), reponse}});
     }
     void Oublie(UniChaine const& dialogue) override {
-        if (fichier_.Lis(Cle(dialogue), true)) {
-            fichier_.Ecris({{Cle(dialogue), std::nullopt}});
+        if (fichier_.Lis(DonneCle(dialogue), true)) {
+            fichier_.Ecris({{DonneCle(dialogue), std::nullopt}});
         }
     }
 
   private:
     /// A dialogue's name may hold what a settings key may not, "/" above all.
-    static QString Cle(UniChaine const& dialogue) {
+    static QString DonneCle(UniChaine const& dialogue) {
         return QStringLiteral("ReponsesMemorisees/Dialogue.") +
                QString::fromLatin1(QUrl::toPercentEncoding(dialogue.VersQString()));
     }

@@ -7,7 +7,7 @@
 namespace {
 
 /// The language part of a POSIX locale name: "fr" of "fr_CA.UTF-8@euro".
-QByteArray PartieLangue(QByteArray const& locale) {
+QByteArray DonnePartieLangue(QByteArray const& locale) {
     int fin = 0;
     while (fin < locale.size() && locale[fin] != '_' && locale[fin] != '.' && locale[fin] != '@') {
         ++fin;
@@ -29,7 +29,7 @@ eLangue eLangueSelonELangueAffichage(eLangueAffichage affichage) {
     for (auto const* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
         auto const locale = qgetenv(variable);
         if (!locale.isEmpty()) {
-            return PartieLangue(locale) == "fr" ? kLangueFrancais : kLangueAnglais;
+            return DonnePartieLangue(locale) == "fr" ? kLangueFrancais : kLangueAnglais;
         }
     }
     return kLangueAnglais;
