@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "DecoupageZones.h"
 
+#include "LectureJson.h"
+
 using Verdict = ParcoursJson::Verdict;
 
 namespace {
@@ -11,11 +13,10 @@ bool EstObjet(std::string_view valeur) {
 
 } // namespace
 
-DecoupageZones::DecoupageZones(std::string_view document, lectureJson::AnalyseurJson& analyseur)
+DecoupageZones::DecoupageZones(std::string_view document, AnalyseurJson& analyseur)
     : forme_(Parcours(ParcoursJson(document), analyseur)) {}
 
-DecoupageZones::Forme DecoupageZones::Parcours(ParcoursJson parcours,
-                                               lectureJson::AnalyseurJson& analyseur) {
+DecoupageZones::Forme DecoupageZones::Parcours(ParcoursJson parcours, AnalyseurJson& analyseur) {
     if (!parcours.Prends('{')) {
         return Forme::Autre;
     }
@@ -50,8 +51,7 @@ DecoupageZones::Forme DecoupageZones::Parcours(ParcoursJson parcours,
 }
 
 /// From in front of the array's first element to behind its closing bracket.
-DecoupageZones::Forme DecoupageZones::PasseZones(ParcoursJson& parcours,
-                                                 lectureJson::AnalyseurJson& analyseur) {
+DecoupageZones::Forme DecoupageZones::PasseZones(ParcoursJson& parcours, AnalyseurJson& analyseur) {
     std::size_t nombre = 0;
     do {
         std::string_view valeur;
@@ -69,7 +69,7 @@ DecoupageZones::Forme DecoupageZones::PasseZones(ParcoursJson& parcours,
     return parcours.Prends(']') ? Forme::Lisible : Forme::Autre;
 }
 
-bool DecoupageZones::Suivante(std::string_view& zone) {
+bool DecoupageZones::PrendsSuivante(std::string_view& zone) {
     while (enReste_) {
         std::size_t valeurs = 0;
         zones_.PrendsValeur(zone, valeurs);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "LectureJson.h"
+#include "AnalyseurJson.h"
 #include "ParcoursJson.h"
 
 #include <cstddef>
@@ -25,16 +25,16 @@ class DecoupageZones {
     };
 
     /// `document` must outlive this. `analyseur` is used here, and free for other use afterwards.
-    DecoupageZones(std::string_view document, lectureJson::AnalyseurJson& analyseur);
+    DecoupageZones(std::string_view document, AnalyseurJson& analyseur);
 
     Forme DonneForme() const noexcept { return forme_; }
     /// The next zone, from its brace to the one that closes it; false behind the last one. Of a
     /// readable document only.
-    bool Suivante(std::string_view& zone);
+    bool PrendsSuivante(std::string_view& zone);
 
   private:
-    Forme Parcours(ParcoursJson parcours, lectureJson::AnalyseurJson& analyseur);
-    static Forme PasseZones(ParcoursJson& parcours, lectureJson::AnalyseurJson& analyseur);
+    Forme Parcours(ParcoursJson parcours, AnalyseurJson& analyseur);
+    static Forme PasseZones(ParcoursJson& parcours, AnalyseurJson& analyseur);
 
     ParcoursJson zones_{{}}; ///< in front of the next element of the array
     bool enReste_ = false;   ///< is there one?

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "LectureJson.h"
 
+#include "AnalyseurJson.h"
+
 #include <utility>
 
 namespace lectureJson {
@@ -27,12 +29,12 @@ Document Analyse(std::string const& octets) {
     }
 }
 
-Json::Value const& Membre(Json::Value const& objet, char const* cle) {
+Json::Value const& DonneMembre(Json::Value const& objet, char const* cle) {
     return objet.isObject() ? objet[cle] : Json::Value::nullSingleton();
 }
 
-std::string_view Texte(Json::Value const& objet, char const* cle, std::string& tampon) {
-    auto const& valeur = Membre(objet, cle);
+std::string_view DonneTexte(Json::Value const& objet, char const* cle, std::string& tampon) {
+    auto const& valeur = DonneMembre(objet, cle);
     char const* debut = nullptr;
     char const* fin = nullptr;
     if (valeur.getString(&debut, &fin)) {
@@ -42,8 +44,8 @@ std::string_view Texte(Json::Value const& objet, char const* cle, std::string& t
     return tampon;
 }
 
-int Entier(Json::Value const& objet, char const* cle) {
-    auto const& valeur = Membre(objet, cle);
+int DonneEntier(Json::Value const& objet, char const* cle) {
+    auto const& valeur = DonneMembre(objet, cle);
     if (!valeur.isConvertibleTo(Json::intValue)) {
         Json::throwRuntimeError("Type is not convertible to int");
     }
@@ -54,9 +56,9 @@ bool EstListe(Json::Value const& valeur) {
     return valeur.isArray() || valeur.isNull();
 }
 
-contrat::PlageDeStyle Plage(Json::Value const& plage) {
-    return {Entier(plage, "Debut"), Entier(plage, "Fin"),
-            static_cast<std::uint16_t>(Entier(plage, "Style"))};
+contrat::PlageDeStyle DonnePlage(Json::Value const& plage) {
+    return {DonneEntier(plage, "Debut"), DonneEntier(plage, "Fin"),
+            static_cast<std::uint16_t>(DonneEntier(plage, "Style"))};
 }
 
 } // namespace lectureJson

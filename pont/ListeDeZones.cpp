@@ -14,15 +14,15 @@ namespace {
 ZoneRecue LisZone(Json::Value const& element) {
     ZoneRecue zone;
     std::string tampon;
-    zone.nom = DecodeTexteJson(lectureJson::Texte(element, "Nom", tampon));
-    zone.texte = DecodeTexteJson(lectureJson::Texte(element, "Texte", tampon));
-    zone.debutSel = lectureJson::Entier(element, "DebutSel");
-    zone.finSel = lectureJson::Entier(element, "FinSel");
-    auto const& styles = lectureJson::Membre(element, "InfosStyle");
+    zone.nom = DecodeTexteJson(lectureJson::DonneTexte(element, "Nom", tampon));
+    zone.texte = DecodeTexteJson(lectureJson::DonneTexte(element, "Texte", tampon));
+    zone.debutSel = lectureJson::DonneEntier(element, "DebutSel");
+    zone.finSel = lectureJson::DonneEntier(element, "FinSel");
+    auto const& styles = lectureJson::DonneMembre(element, "InfosStyle");
     if (lectureJson::EstListe(styles)) {
         zone.styles.reserve(styles.size());
         for (auto const& plage : styles) {
-            zone.styles.push_back(lectureJson::Plage(plage));
+            zone.styles.push_back(lectureJson::DonnePlage(plage));
         }
     }
     return zone;
@@ -31,7 +31,7 @@ ZoneRecue LisZone(Json::Value const& element) {
 /// The zones of a document that its parts do not tell: the parser's tree of the whole.
 void LisEnEntier(std::string const& octets, std::function<void(ZoneRecue&&)> const& recois) {
     auto const document = lectureJson::Analyse(octets);
-    auto const& zones = lectureJson::Membre(document.racine, "Zones");
+    auto const& zones = lectureJson::DonneMembre(document.racine, "Zones");
     if (!document.entier || !lectureJson::EstListe(zones)) {
         return;
     }
@@ -55,7 +55,7 @@ void LisListeDeZones(std::string const& octets, std::function<void(ZoneRecue&&)>
     }
     // Zone by zone wherever that goes: the parser's tree of a whole long document takes three times
     // its size, and is slow to walk.
-    lectureJson::AnalyseurJson analyseur;
+    AnalyseurJson analyseur;
     DecoupageZones decoupage(octets, analyseur);
     if (decoupage.DonneForme() == DecoupageZones::Forme::Autre) {
         LisEnEntier(octets, recois);
@@ -63,7 +63,7 @@ void LisListeDeZones(std::string const& octets, std::function<void(ZoneRecue&&)>
     if (decoupage.DonneForme() != DecoupageZones::Forme::Lisible) {
         return;
     }
-    for (std::string_view morceau; decoupage.Suivante(morceau);) {
+    for (std::string_view morceau; decoupage.PrendsSuivante(morceau);) {
         analyseur.Analyse(morceau);
         recois(LisZone(analyseur.DonneRacine()));
     }

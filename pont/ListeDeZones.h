@@ -1,21 +1,10 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "Contrat.h"
-#include "UniChaine.h"
+#include "ZoneRecue.h"
 
 #include <functional>
 #include <string>
-#include <vector>
-
-/// One zone as a zone-list document tells it, its texts decoded.
-struct ZoneRecue {
-    UniChaine nom;
-    UniChaine texte;
-    int debutSel = 0;
-    int finSel = 0;
-    std::vector<contrat::PlageDeStyle> styles;
-};
 
 /// Reads a zone-list document (UTF-8 bytes) and hands out its zones in order, each as soon as it is
 /// read. All of the document is looked through before the first one is handed out.

@@ -40,7 +40,7 @@ bool ParcoursJson::PrendsCle(std::string_view& cle) {
         return false;
     }
     auto const* const debut = ici_;
-    auto const* const guillemet = static_cast<char const*>(std::memchr(ici_, '"', Reste()));
+    auto const* const guillemet = static_cast<char const*>(std::memchr(ici_, '"', DonneReste()));
     if (guillemet == nullptr) {
         return false;
     }
@@ -112,7 +112,7 @@ bool ParcoursJson::PasseMembres(char fermante, int profondeur, std::size_t& vale
 
 /// From inside a text to behind its closing quote; only the escapes of one letter are simple.
 bool ParcoursJson::PasseTexteSimple() {
-    auto const* guillemet = static_cast<char const*>(std::memchr(ici_, '"', Reste()));
+    auto const* guillemet = static_cast<char const*>(std::memchr(ici_, '"', DonneReste()));
     while (guillemet != nullptr) {
         // Texts in Base64 hold no backslash: this looks at each character twice, at full speed.
         auto const* const oblique = static_cast<char const*>(
@@ -126,14 +126,14 @@ bool ParcoursJson::PasseTexteSimple() {
             return false;
         }
         if (ici_++ == guillemet) {
-            guillemet = static_cast<char const*>(std::memchr(ici_, '"', Reste()));
+            guillemet = static_cast<char const*>(std::memchr(ici_, '"', DonneReste()));
         }
     }
     return false;
 }
 
 bool ParcoursJson::PasseMot(std::string_view mot) {
-    if (std::string_view(ici_, Reste()).substr(0, mot.size()) != mot) {
+    if (std::string_view(ici_, DonneReste()).substr(0, mot.size()) != mot) {
         return false;
     }
     ici_ += mot.size();

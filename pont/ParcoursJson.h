@@ -32,7 +32,7 @@ class ParcoursJson {
     Verdict PrendsValeur(std::string_view& valeur, std::size_t& valeurs);
 
   private:
-    std::size_t Reste() const { return static_cast<std::size_t>(fin_ - ici_); }
+    std::size_t DonneReste() const { return static_cast<std::size_t>(fin_ - ici_); }
     void PasseBlancs();
     bool PasseJuste(int profondeur, std::size_t& valeurs);
     bool PasseMembres(char fermante, int profondeur, std::size_t& valeurs);

@@ -59,12 +59,12 @@ TexteAvecAttributs JsonVersChaineAttribuee(UniChaine const& json, UniChaine& nom
     // Whether all of it parsed does not matter here: what the parser left is used.
     auto const racine = lectureJson::Analyse(json.VersUtf8()).racine;
     std::string tampon;
-    nom = DecodeTexteJson(lectureJson::Texte(racine, "Nom", tampon));
-    texte.MetsTexte(sdd::T(DecodeTexteJson(lectureJson::Texte(racine, "Texte", tampon))));
-    auto const& styles = lectureJson::Membre(racine, "InfosStyle");
+    nom = DecodeTexteJson(lectureJson::DonneTexte(racine, "Nom", tampon));
+    texte.MetsTexte(sdd::T(DecodeTexteJson(lectureJson::DonneTexte(racine, "Texte", tampon))));
+    auto const& styles = lectureJson::DonneMembre(racine, "InfosStyle");
     if (lectureJson::EstListe(styles)) {
         for (auto const& element : styles) {
-            auto const plage = lectureJson::Plage(element);
+            auto const plage = lectureJson::DonnePlage(element);
             texte.MetsAttribut(plage.debut, plage.DonneLongueur(), plage.style);
         }
     }

@@ -19,16 +19,16 @@ using Forme = DecoupageZones::Forme;
 using Morceaux = std::vector<std::string_view>;
 
 Forme FormeDe(std::string_view document) {
-    lectureJson::AnalyseurJson analyseur;
+    AnalyseurJson analyseur;
     return DecoupageZones(document, analyseur).DonneForme();
 }
 
 Morceaux Decoupe(std::string_view document) {
-    lectureJson::AnalyseurJson analyseur;
+    AnalyseurJson analyseur;
     DecoupageZones decoupage(document, analyseur);
     EXPECT_EQ(Forme::Lisible, decoupage.DonneForme()) << document;
     Morceaux morceaux;
-    for (std::string_view morceau; decoupage.Suivante(morceau);) {
+    for (std::string_view morceau; decoupage.PrendsSuivante(morceau);) {
         morceaux.push_back(morceau);
     }
     return morceaux;
