@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "ApplicationSupportee.h"
 
-#include "ClassesFenetre.h"
 #include "ClesInfos.h"
+#include "pont/ClassesFenetre.h"
 
 bool EstApplicationSupportee(InfosApplication const& infos) {
     return infos.Classe ==

@@ -2,7 +2,7 @@
 #include "ClesInfos.h"
 #include "CreationAgent.h"
 #include "Exports.h"
-#include "ModuleProxyOOo.h"
+#include "pont/ModuleProxyOOo.h"
 
 InterfaceAgentTexteur* CreeAgentTexteur(InfosApplication const* infos,
                                         UniChaine const* idDocument) {

@@ -2,8 +2,8 @@
 #include "Exports.h"
 
 #include "ApplicationSupportee.h"
-#include "ClassesFenetre.h"
 #include "ClesInfos.h"
+#include "pont/ClassesFenetre.h"
 
 void DonneNomsTexteurs(UniChaine* noms) {
     // The 4.0 name alone, although windows of 3.0 are recognised too: the host knows both by it.

@@ -24,7 +24,7 @@ void EcrisSens(EcritureJson& json, Sens const& sens) {
 } // namespace
 
 std::string DonneArticlesJson(EnTeteJson const& enTete, QString const& mot,
-                              Recherche const& recherche) {
+                              ArticlesTrouves const& recherche) {
     EcritureJson json;
     json.OuvreObjet();
     EcrisEnTete(enTete, json);

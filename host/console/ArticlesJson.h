@@ -10,6 +10,6 @@ namespace hote {
 
 /// A search for `mot` as one line of JSON, UTF-8; the form is in host/README.md.
 std::string DonneArticlesJson(EnTeteJson const& enTete, QString const& mot,
-                              Recherche const& recherche);
+                              ArticlesTrouves const& recherche);
 
 } // namespace hote

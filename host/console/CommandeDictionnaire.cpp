@@ -43,7 +43,7 @@ std::optional<int> DemandeNumero(Sortie& sortie, int nombre) {
     }
 }
 
-eCodeSortie Choisis(Recherche const& recherche, SelectionTenue::Etat const& etat,
+eCodeSortie Choisis(ArticlesTrouves const& recherche, SelectionTenue::Etat const& etat,
                     SelectionTenue& selection, Sortie& sortie) {
     auto const numero = DemandeNumero(sortie, CompteSynonymes(recherche));
     if (!numero) {
@@ -67,7 +67,7 @@ eCodeSortie Cherche(OptionsHote const& options, ChoixLangue choix, Greffon const
     }
     Langue const langue = choix.lexique->DonneLangue();
     auto const thesaurus = OuvreThesaurus(langue);
-    Recherche const recherche =
+    ArticlesTrouves const recherche =
         ChercheArticles(etat.texte, etat.debut, etat.fin, *thesaurus, *choix.lexique);
     auto const& [debut, fin] = recherche.mot;
     if (debut == fin) {

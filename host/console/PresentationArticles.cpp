@@ -13,7 +13,7 @@ std::string Montre(QString const& texte) {
 
 } // namespace
 
-std::string DonneArticlesTexte(Recherche const& recherche, Couleurs const& couleurs,
+std::string DonneArticlesTexte(ArticlesTrouves const& recherche, Couleurs const& couleurs,
                                bool numerote) {
     std::string texte;
     int numero = 0;
@@ -42,7 +42,7 @@ std::string DonneArticlesTexte(Recherche const& recherche, Couleurs const& coule
     return texte;
 }
 
-Synonyme const* TrouveSynonyme(Recherche const& recherche, int numero) {
+Synonyme const* TrouveSynonyme(ArticlesTrouves const& recherche, int numero) {
     for (Article const& article : recherche.articles) {
         for (Sens const& sens : article.sens) {
             int const nombre = static_cast<int>(sens.synonymes.size());
@@ -55,7 +55,7 @@ Synonyme const* TrouveSynonyme(Recherche const& recherche, int numero) {
     return nullptr;
 }
 
-int CompteSynonymes(Recherche const& recherche) {
+int CompteSynonymes(ArticlesTrouves const& recherche) {
     std::size_t nombre = 0;
     for (Article const& article : recherche.articles) {
         for (Sens const& sens : article.sens) {

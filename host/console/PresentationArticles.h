@@ -10,12 +10,13 @@ namespace hote {
 
 /// What was found, for a person: a line a meaning, ending in a line feed. Synonyms are numbered
 /// from 1 through all of it when `numerote`.
-std::string DonneArticlesTexte(Recherche const& recherche, Couleurs const& couleurs, bool numerote);
+std::string DonneArticlesTexte(ArticlesTrouves const& recherche, Couleurs const& couleurs,
+                               bool numerote);
 
 /// The synonym of that number, or null.
-Synonyme const* TrouveSynonyme(Recherche const& recherche, int numero);
+Synonyme const* TrouveSynonyme(ArticlesTrouves const& recherche, int numero);
 
 /// How many synonyms there are.
-int CompteSynonymes(Recherche const& recherche);
+int CompteSynonymes(ArticlesTrouves const& recherche);
 
 } // namespace hote

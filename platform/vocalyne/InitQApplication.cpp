@@ -34,7 +34,7 @@ class GardeLocale {
 
 /// What an application object is made from. Qt keeps references to all of it for as long as the
 /// object lives, and takes the arguments that it understands out of the list.
-struct LigneDeCommande {
+struct ArgumentsDeQt {
     QByteArrayList textes;
     std::vector<char*> arguments;
     int nombre = 0;
@@ -50,8 +50,8 @@ struct LigneDeCommande {
     }
 };
 
-LigneDeCommande& DonneLigneDeCommande() {
-    static auto* const ligne = new LigneDeCommande; // outlives every application object
+ArgumentsDeQt& DonneArgumentsDeQt() {
+    static auto* const ligne = new ArgumentsDeQt; // outlives every application object
     return *ligne;
 }
 
@@ -65,7 +65,7 @@ void InitQApplication() {
         return;
     }
     GardeLocale const garde;
-    auto& ligne = DonneLigneDeCommande();
+    auto& ligne = DonneArgumentsDeQt();
     ligne.Mets({});
     auto simple = std::make_unique<QCoreApplication>(ligne.nombre, ligne.arguments.data());
     if (!PlateformeQt::HorsEcranEstInstalle()) {

@@ -65,13 +65,13 @@ int DonneFinElision(QString const& texte, Mot const& mot) {
 
 } // namespace
 
-Recherche ChercheArticles(QString const& texte, int debut, int fin, Thesaurus& thesaurus,
-                          Lexique& lexique) {
+ArticlesTrouves ChercheArticles(QString const& texte, int debut, int fin, Thesaurus& thesaurus,
+                                Lexique& lexique) {
     int const taille = texte.size();
     debut = std::clamp(debut, 0, taille);
     fin = std::clamp(fin, debut, taille);
     Mot const mot = debut == fin ? DonneMotAu(texte, debut) : Rogne(texte, {debut, fin});
-    Recherche recherche{mot, {}};
+    ArticlesTrouves recherche{mot, {}};
     if (mot.debut == mot.fin) {
         return recherche;
     }

@@ -18,7 +18,7 @@ struct Article {
 };
 
 /// What was found for a place of a text.
-struct Recherche {
+struct ArticlesTrouves {
     Mot mot;                       ///< the word: UTF-16 units of the text; empty when there is none
     std::vector<Article> articles; ///< those of the word itself first, then those of its stems
 };
@@ -26,8 +26,8 @@ struct Recherche {
 /// Looks up what is selected in the text, [debut, fin); without a selection, the word at the caret.
 /// A word is looked up as it stands, in lower case, and by its stems; one that stands behind an
 /// elision ("l'ami") without it where the whole has no article.
-Recherche ChercheArticles(QString const& texte, int debut, int fin, Thesaurus& thesaurus,
-                          Lexique& lexique);
+ArticlesTrouves ChercheArticles(QString const& texte, int debut, int fin, Thesaurus& thesaurus,
+                                Lexique& lexique);
 
 /// The synonym with the capitals that the word in the text has: the first letter, or all of them.
 QString DonneCasse(QString const& synonyme, QString const& mot);
