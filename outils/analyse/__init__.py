@@ -1,0 +1,2 @@
+# SPDX-License-Identifier: MPL-2.0
+"""What outils/tidy is made of."""
