@@ -15,7 +15,7 @@ std::size_t CompteValeurs(std::string_view octets) {
     return marques;
 }
 
-Document Analyse(std::string const& octets) {
+DocumentAnalyse Analyse(std::string const& octets) {
     if (CompteValeurs(octets) > kValeursMax) {
         return {false, {}};
     }

@@ -23,14 +23,14 @@ inline constexpr std::size_t kValeursMax = 2 * 1024 * 1024;
 std::size_t CompteValeurs(std::string_view octets);
 
 /// What became of a document parsed as a whole.
-struct Document {
+struct DocumentAnalyse {
     bool entier;        ///< it parsed from end to end
     Json::Value racine; ///< what the parser left, in both cases
 };
 
 /// Parses the UTF-8 bytes. Nesting beyond the parser's depth, or more than `kValeursMax` values,
 /// gives null, and not whole.
-Document Analyse(std::string const& octets);
+DocumentAnalyse Analyse(std::string const& octets);
 
 /// A member, or null when `objet` is no object or has none of that name. The reference lives as
 /// long as `objet`.
