@@ -8,7 +8,7 @@
 #include <string_view>
 
 /// More zones than any document has: a reply could name forty million, for gigabytes of nothing.
-inline constexpr std::size_t kZonesMax = 2 * 1024 * 1024;
+inline constexpr std::size_t kZonesMax = std::size_t{2} * 1024 * 1024;
 
 /// A zone-list document taken apart, so that its zones can be read one by one.
 ///

@@ -16,7 +16,7 @@ namespace lectureJson {
 
 /// More values than a tree may have, which takes 160 bytes for each: a style run is four of them,
 /// and no zone has half a million runs.
-inline constexpr std::size_t kValeursMax = 2 * 1024 * 1024;
+inline constexpr std::size_t kValeursMax = std::size_t{2} * 1024 * 1024;
 
 /// The number of values in a document, or up to twice as much: by its marks alone, so that one with
 /// too many is known before anything is built. Marks inside texts count too.

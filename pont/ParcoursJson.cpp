@@ -122,7 +122,7 @@ bool ParcoursJson::PasseTexteSimple() {
             return true;
         }
         ici_ = oblique + 1; // no further than the quote
-        if (std::memchr("\"\\/bfnrt", *ici_, 8) == nullptr) {
+        if (std::string_view("\"\\/bfnrt").find(*ici_) == std::string_view::npos) {
             return false;
         }
         if (ici_++ == guillemet) {

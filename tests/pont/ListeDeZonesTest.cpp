@@ -120,10 +120,11 @@ TEST(ZoneReader, StylesThatAreNoListGiveAZoneWithoutRuns) {
 
 TEST(ZoneReader, AnElementThatIsNoObjectIsNoZone) {
     auto const autres = R"(null,3,"abc",true,[],[{"Nom":"bg=="}])"s;
+    auto melange = autres;
+    melange.append(",").append(Zone("n", "t")).append(",").append(autres).append(",{}");
     for (auto const& devant : {""s, "/**/"s}) { // zone by zone, and as a whole
         EXPECT_TRUE(LisTout(devant + Liste(autres)).zones.empty());
-        auto const zones =
-            LisTout(devant + Liste(autres + ',' + Zone("n", "t") + ',' + autres + ",{}")).zones;
+        auto const zones = LisTout(devant + Liste(melange)).zones;
         ASSERT_EQ(2U, zones.size());
         EXPECT_EQ(U(u"t"), zones[0].texte);
         EXPECT_TRUE(zones[1].nom.EstVide());
