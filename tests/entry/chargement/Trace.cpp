@@ -53,6 +53,8 @@ bool VientDuGreffon(void const* retour) {
     "_ZN16PrefsGeneralesQtC1E9UniChaine13ePrefsGenMode14ePrefsGenAccesN9QSettings6FormatE"
 #define NOM_DONNE "_ZNK16PrefsGeneralesQt5DonneE9UniChaine8QVariantb"
 
+// By value, as the functions that they stand in front of.
+// NOLINTBEGIN(performance-unnecessary-value-param)
 TRACE_PUBLIC void tracePrefs(PrefsGeneralesQt* objet, UniChaine chemin, ePrefsGenMode mode,
                              ePrefsGenAcces acces, QSettings::Format format) __asm__(NOM_PREFS);
 void tracePrefs(PrefsGeneralesQt* objet, UniChaine chemin, ePrefsGenMode mode, ePrefsGenAcces acces,
@@ -76,6 +78,7 @@ QVariant PrefsGeneralesQt::Donne(UniChaine cle, QVariant defaut, bool conserve) 
                           conserve ? QString::fromLatin1("true") : QString::fromLatin1("false")));
     return valeur;
 }
+// NOLINTEND(performance-unnecessary-value-param)
 
 TRACE_PUBLIC void tracePrefsFin(PrefsGeneralesQt* objet) __asm__("_ZN16PrefsGeneralesQtD1Ev");
 void tracePrefsFin(PrefsGeneralesQt* objet) {
