@@ -63,7 +63,9 @@ TEST(OversizedDocuments, CommentsCostNoMoreThanTheirLength) {
         auto const commentaires = Repete(commentaire, 300000);
         EXPECT_EQ(1U, Nombre("{\"Zones\":[" + commentaires + "{}]}"));
         EXPECT_EQ(1U, Nombre("{\"Zones\":[{}" + commentaires + "]}"));
-        EXPECT_EQ(1U, Nombre(commentaires + "{\"Zones\":[{}]}" + commentaires));
+        std::string autour = commentaires;
+        autour.append("{\"Zones\":[{}]}").append(commentaires);
+        EXPECT_EQ(1U, Nombre(autour));
         EXPECT_EQ(1U, Nombre("{\"Zones\":[{\"a\":1" + commentaires + "}]}"));
     }
 }
@@ -87,7 +89,7 @@ TEST(OversizedDocuments, ZonesAreHandedOutBeforeThereIsRoomForAllOfThem) {
                                      throw Assez{};
                                  }),
                  Assez);
-    EXPECT_LT(pendant, avant + 16 * 1024 * 1024) << "for two million zones";
+    EXPECT_LT(pendant, avant + (std::size_t{16} << 20)) << "for two million zones";
 }
 
 TEST(OversizedDocuments, AsManyZonesAsAnyDocumentHasAndNoMore) {
@@ -113,7 +115,7 @@ TEST(OversizedDocuments, MoreValuesThanAZoneCanHaveAreRefusedBeforeATreeIsBuilt)
         TexteDe(JsonVersChaineAttribuee(
                     UniChaine::DepuisUtf8("{\"InfosStyle\":[" + Suite("0", kTrop) + "]}"), nom))
             .EstVide());
-    EXPECT_LT(Memoire(), avant + 256 * 1024 * 1024);
+    EXPECT_LT(Memoire(), avant + (std::size_t{256} << 20));
 }
 
 TEST(OversizedDocuments, AZoneOfAHundredThousandRunsIsRead) {
