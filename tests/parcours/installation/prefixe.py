@@ -2,6 +2,8 @@
 """An installed prefix for each test, moved away from where it was installed."""
 import os
 import pathlib
+import shutil
+import subprocess
 import unittest
 
 from commun import dossier_neuf, environnement, lance
@@ -9,6 +11,16 @@ from commun import dossier_neuf, environnement, lance
 SOURCES = pathlib.Path(os.environ["VOCALYNE_SOURCES"])
 CONSTRUCTION = pathlib.Path(os.environ["VOCALYNE_CONSTRUCTION"])
 CMAKE = os.environ["CMAKE_COMMAND"]
+
+
+def cache_de_compilation(dossier: pathlib.Path) -> dict[str, str]:
+    """Lets a build below the folder, another one each time, find what the last one compiled: in the
+    compiler cache of whoever runs the tests, whose home it is not, by paths from the folder."""
+    if not shutil.which("ccache"):
+        return {}
+    lieu = subprocess.run(["ccache", "--get-config", "cache_dir"], stdout=subprocess.PIPE, text=True,
+                          check=True).stdout.strip()
+    return {"CCACHE_DIR": lieu, "CCACHE_BASEDIR": str(dossier), "CCACHE_NOHASHDIR": "1"}
 
 
 class PrefixeInstalle(unittest.TestCase):
@@ -20,7 +32,7 @@ class PrefixeInstalle(unittest.TestCase):
         dossier = dossier_neuf()
         self.addCleanup(dossier.cleanup)
         self.dossier = pathlib.Path(dossier.name)
-        self.env = environnement(self.dossier)
+        self.env = environnement(self.dossier, **cache_de_compilation(self.dossier))
         provisoire = self.dossier / "provisoire"
         for composant in self.composants:
             lance(CMAKE, "--install", CONSTRUCTION, "--prefix", provisoire, "--component", composant,
