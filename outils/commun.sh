@@ -79,6 +79,12 @@ arreteProcessus() {
     wait "$1" 2>/dev/null || true
 }
 
+# arreteGroupe PID: the same for one that was started by setsid, with all that it started itself.
+arreteGroupe() {
+    kill -TERM -- "-$1" 2>/dev/null || return 0
+    wait "$1" 2>/dev/null || true
+}
+
 # Compilation results are shared between clones and between runs, where ccache is there.
 emploieCcache() {
     command -v ccache >/dev/null || return 0
