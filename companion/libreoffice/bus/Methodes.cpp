@@ -109,13 +109,14 @@ gboolean SurAjuste(GObject* /*s*/, Invocation* invocation, gint debut, gint fin,
 }
 
 gboolean SurCorrige(GObject* /*s*/, Invocation* invocation, char const* zone, gint debut, gint fin,
-                    char const* texte, gboolean /*automatique*/, gpointer methodes) {
-    return Sert(methodes, invocation,
-                [zone = std::string(zone), plage = Intervalle{debut, fin},
-                 texte = DepuisUtf8(texte)](Service& service, std::string const& appelant) {
-                    service.CorrigeDansTexteur(appelant, zone, plage, texte);
-                    return static_cast<GVariant*>(nullptr);
-                });
+                    char const* texte, gboolean automatique, gpointer methodes) {
+    return Sert(
+        methodes, invocation,
+        [zone = std::string(zone), plage = Intervalle{debut, fin}, texte = DepuisUtf8(texte),
+         automatique](Service& service, std::string const& appelant) {
+            service.CorrigeDansTexteur({appelant, automatique != FALSE}, zone, plage, texte);
+            return static_cast<GVariant*>(nullptr);
+        });
 }
 
 gboolean SurPeutCorriger(GObject* /*s*/, Invocation* invocation, char const* zone, gint debut,

@@ -34,4 +34,8 @@ std::u16string NomDeCorrection(std::u16string const& avant, std::u16string const
     return u"Correction: \u201c" + Abrege(avant) + u"\u201d to \u201c" + Abrege(apres) + u"\u201d";
 }
 
+std::u16string NomDeSuiteAutomatique() {
+    return compagnon::ParleFrancais() ? u"Corrections automatiques" : u"Automatic corrections";
+}
+
 } // namespace extension

@@ -46,7 +46,8 @@ class SelectionRetenue : public SelectionVue {
 DocumentOuvert::DocumentOuvert(uno::Reference<frame::XModel> const& modele, std::string cle)
     : modele_(modele)
     , cle_(std::move(cle))
-    , carnet_(cle_) {}
+    , carnet_(cle_)
+    , annulations_(modele) {}
 
 DocumentOuvert::~DocumentOuvert() = default;
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "CarnetDeZones.h"
+#include "PileDAnnulation.h"
 #include "SelectionVue.h"
 
 #include <com/sun/star/frame/XModel.hpp>
@@ -54,6 +55,9 @@ class DocumentOuvert {
     /// selected and no caret stands in a text. `selection` is set.
     std::optional<ZoneLue> DonneSelection();
 
+    /// The undo list, for corrections.
+    PileDAnnulation& Annulations() noexcept { return annulations_; }
+
     /// Selects a range of a zone (of the plan just read) and brings it into view. False when the
     /// office then has something else selected, whatever it answered: comments, notes pages and
     /// headers cannot be selected in from outside. What is selected then is none of the caller's.
@@ -81,6 +85,7 @@ class DocumentOuvert {
     css::uno::Reference<css::frame::XModel> modele_;
     std::string cle_;
     CarnetDeZones carnet_;
+    PileDAnnulation annulations_;
     std::optional<Retenue> retenue_;
 };
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Correction.h"
 
-#include "EtapeAnnulable.h"
 #include "RaisonDeRefuser.h"
 #include "commun/NomDeCorrection.h"
 #include "modele/EditionMinimale.h"
@@ -42,8 +41,8 @@ bool PeutCorriger(DocumentOuvert const& document, DialogueModal const& dialogue,
     return trouve && plan.PeutModifier(trouve.plage.DonneDebut(), trouve.plage.DonneFin());
 }
 
-void Remplace(DocumentOuvert const& document, ZoneOuverte& zone, PlanDePortions const& plan,
-              Intervalle plage, std::u16string const& texte) {
+void Remplace(DocumentOuvert& document, ZoneOuverte& zone, PlanDePortions const& plan,
+              Intervalle plage, std::u16string const& texte, Auteur const& auteur) {
     std::u16string avant = plan.DonneTexte().substr(plage.DonneDebut(), plage.DonneLongueur());
     VerifieLettres(zone, avant, texte);
     auto etapes = plan.Prepare(plage.DonneDebut(), plage.DonneFin(), texte);
@@ -59,12 +58,13 @@ void Remplace(DocumentOuvert const& document, ZoneOuverte& zone, PlanDePortions 
     correction.apres = texte;
     correction.nom = NomDeCorrection(correction.avant, texte);
     correction.etapes = std::move(*etapes);
-    EtapeAnnulable const etape(document, correction.nom);
+    EtapeAnnulable const etape(document, correction.nom, auteur);
     zone.Applique(correction);
 }
 
-void Corrige(DocumentOuvert const& document, DialogueModal const& dialogue, ZoneOuverte& zone,
-             compagnon::TexteSuivi& croyance, Intervalle plage, std::u16string const& texte) {
+void Corrige(DocumentOuvert& document, DialogueModal const& dialogue, ZoneOuverte& zone,
+             compagnon::TexteSuivi& croyance, Intervalle plage, std::u16string const& texte,
+             Auteur const& auteur) {
     try {
         if (auto const raison = RaisonDeRefuser(document, dialogue, zone)) {
             throw ErreurDuService(*raison);
@@ -74,7 +74,7 @@ void Corrige(DocumentOuvert const& document, DialogueModal const& dialogue, Zone
         if (!trouve) {
             throw compagnon::RefusDe(trouve.refus, zone.DonneCle());
         }
-        Remplace(document, zone, plan, trouve.plage, texte);
+        Remplace(document, zone, plan, trouve.plage, texte, auteur);
     } catch (...) {
         croyance.NoteRefus(plage);
         throw;

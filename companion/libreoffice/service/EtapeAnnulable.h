@@ -3,23 +3,28 @@
 
 #include "document/DocumentOuvert.h"
 
-#include <com/sun/star/document/XUndoManager.hpp>
-
 #include <string>
 
 namespace extension {
 
-/// Groups what happens during its life into one step of the document's undo list, of that name.
-/// Main thread only; may throw UNO exceptions at its start, never at its end.
+/// Whose correction it is.
+struct Auteur {
+    std::string appelant; ///< its unique name on the bus
+    bool automatique;     ///< made without asking the person
+};
+
+/// Groups what happens during its life into one step of the document's undo list, of that name; or,
+/// for an automatic correction, into the step of the run that it goes on with. Main thread only;
+/// may throw UNO exceptions at its start, never at its end.
 class EtapeAnnulable {
   public:
-    EtapeAnnulable(DocumentOuvert const& document, std::u16string const& nom);
+    EtapeAnnulable(DocumentOuvert& document, std::u16string const& nom, Auteur const& auteur);
     EtapeAnnulable(EtapeAnnulable const&) = delete;
     EtapeAnnulable& operator=(EtapeAnnulable const&) = delete;
-    ~EtapeAnnulable();
+    ~EtapeAnnulable() { pile_.Sors(); }
 
   private:
-    css::uno::Reference<css::document::XUndoManager> pile_;
+    PileDAnnulation& pile_;
 };
 
 } // namespace extension

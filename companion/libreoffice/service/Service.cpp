@@ -86,7 +86,7 @@ void Service::Active(std::string const& appelant) {
 }
 
 void Service::InitialisePour(std::string const& appelant) {
-    DocumentDe(appelant);
+    DocumentDe(appelant)->Annulations().TermineSuite();
     appelants_.MetsSelection(appelant, std::nullopt);
 }
 
@@ -161,10 +161,10 @@ bool Service::PeutCorriger(std::string const& appelant, std::string const& cle, 
     }
 }
 
-void Service::CorrigeDansTexteur(std::string const& appelant, std::string const& cle,
-                                 Intervalle plage, std::u16string const& texte) {
-    auto const [document, zone, croyance] = ZoneDe(appelant, cle);
-    Corrige(*document, dialogue_, *zone, croyance, plage, texte);
+void Service::CorrigeDansTexteur(Auteur const& auteur, std::string const& cle, Intervalle plage,
+                                 std::u16string const& texte) {
+    auto const [document, zone, croyance] = ZoneDe(auteur.appelant, cle);
+    Corrige(*document, dialogue_, *zone, croyance, plage, texte, auteur);
 }
 
 void Service::SelectionneIntervalle(std::string const& appelant, std::string const& cle,
@@ -227,7 +227,7 @@ void Service::RemplaceEtReselectionne(std::string const& appelant, std::u16strin
         throw ErreurDuService(*raison);
     }
     appelants_.VerifieSelection(appelant, Dite(*lue));
-    Remplace(*document, *lue->zone, lue->plan, *lue->selection, mot);
+    Remplace(*document, *lue->zone, lue->plan, *lue->selection, mot, {appelant, false});
     PlanDePortions const plan = lue->zone->Lis();
     auto const taille = static_cast<std::int32_t>(plan.DonneTexte().size());
     Intervalle const resultat{

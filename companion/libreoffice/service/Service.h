@@ -3,6 +3,7 @@
 
 #include "DialogueModal.h"
 #include "DocumentsOuverts.h"
+#include "EtapeAnnulable.h"
 #include "partage/Appelants.h"
 
 #include <cstdint>
@@ -45,7 +46,7 @@ class Service {
     std::string SynchronisePositions(std::string const& appelant, std::string const& leId);
     bool PeutCorriger(std::string const& appelant, std::string const& zone,
                       compagnon::Intervalle plage, std::u16string const& attendu);
-    void CorrigeDansTexteur(std::string const& appelant, std::string const& zone,
+    void CorrigeDansTexteur(Auteur const& auteur, std::string const& zone,
                             compagnon::Intervalle plage, std::u16string const& texte);
     void SelectionneIntervalle(std::string const& appelant, std::string const& zone,
                                compagnon::Intervalle plage);
