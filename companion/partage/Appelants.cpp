@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Appelants.h"
 
-#include "ErreurDuService.h"
 #include "Messages.h"
 
 #include <utility>
@@ -64,10 +63,46 @@ DocumentDonne const* Appelants::DonneDonne(std::string const& nom, std::string c
 void Appelants::Donne(std::string const& nom, std::string const& cle, DocumentDonne donne) {
     Appelant& appelant = Donne(nom);
     appelant.document = cle;
-    appelant.donnes[cle] = std::move(donne);
+    DocumentDonne& place = appelant.donnes[cle];
+    for (auto& [zone, refus] : place.refus) {
+        if (donne.zones.count(zone) != 0) {
+            donne.refus.emplace(zone, std::move(refus));
+        }
+    }
+    place = std::move(donne);
     while (appelants_.size() > 1 && CompteZones() > kZonesMax) {
         OublieLePlusAncien(nom);
     }
+}
+
+DocumentDonne* Appelants::ChercheDonne(std::string const& nom, std::string const& zone) {
+    if (Appelant* const appelant = Cherche(nom)) {
+        for (auto& [cle, donne] : appelant->donnes) {
+            if (donne.zones.count(zone) != 0) {
+                return &donne;
+            }
+        }
+    }
+    return nullptr;
+}
+
+void Appelants::NoteIssue(std::string const& nom, std::string const& zone,
+                          std::optional<ErreurDuService> const& refus) {
+    DocumentDonne* const donne = ChercheDonne(nom, zone);
+    if (donne && refus) {
+        donne->refus[zone] = {refus->DonneCode(), refus->what()};
+    } else if (donne) {
+        donne->refus.erase(zone);
+    }
+}
+
+std::optional<RefusDit> Appelants::DonneRefus(std::string const& nom, std::string const& zone) {
+    DocumentDonne const* const donne = ChercheDonne(nom, zone);
+    if (!donne) {
+        throw ErreurDuService(contrat::Erreur::ZoneInconnue, zone);
+    }
+    auto const refus = donne->refus.find(zone);
+    return refus == donne->refus.end() ? std::nullopt : std::make_optional(refus->second);
 }
 
 void Appelants::VerifieSelection(std::string const& nom, SelectionDite const& actuelle) {

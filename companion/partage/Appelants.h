@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
+#include "ErreurDuService.h"
 #include "SelectionDite.h"
 #include "modele/TexteSuivi.h"
 
@@ -14,10 +15,17 @@
 
 namespace compagnon {
 
+/// Why a correction was not made, or could not be.
+struct RefusDit {
+    contrat::Erreur code;
+    std::string phrase; ///< for the person, in UTF-8
+};
+
 /// What a caller was given of one document when it last synchronised, with its corrections since.
 struct DocumentDonne {
     std::unordered_map<std::string, TexteSuivi> zones; ///< by zone key
     std::size_t taille = 0; ///< bytes of the reply: the next is most often about as long
+    std::unordered_map<std::string, RefusDit> refus; ///< of the zones last refused to it
 };
 
 /// What is known of one calling connection.
@@ -47,8 +55,17 @@ class Appelants {
 
     /// What it was last given of a document; null where nothing. Valid as above.
     DocumentDonne const* DonneDonne(std::string const& nom, std::string const& cle) const;
-    /// It has been given the document, which it names thereby.
+    /// It has been given the document, which it names thereby. What it was refused in zones that
+    /// are still there is not forgotten: a caller that does not wait asks afterwards.
     void Donne(std::string const& nom, std::string const& cle, DocumentDonne donne);
+
+    /// What became of its last correction of a zone, or of its last question whether that may be
+    /// made; nothing: it was not refused. Noted only for a zone that it was given.
+    void NoteIssue(std::string const& nom, std::string const& zone,
+                   std::optional<ErreurDuService> const& refus);
+    /// The refusal last noted for a zone; nothing where there is none. Throws `ZoneInconnue` where
+    /// it was not given the zone: every correction there is refused so.
+    std::optional<RefusDit> DonneRefus(std::string const& nom, std::string const& zone);
 
     /// It was told the selection, or chose it itself; nothing: what it knew is void.
     void MetsSelection(std::string const& nom, std::optional<SelectionDite> selection) {
@@ -74,6 +91,8 @@ class Appelants {
     /// The caller's entry, made when it has none.
     Appelant& Donne(std::string const& nom);
     Appelant* Cherche(std::string const& nom);
+    /// What the caller was given of the document that holds the zone; null where it was not.
+    DocumentDonne* ChercheDonne(std::string const& nom, std::string const& zone);
     void OublieLePlusAncien(std::string const& sauf);
     std::size_t CompteZones() const noexcept;
 

@@ -199,6 +199,21 @@ QString ObjetBureau::DonneDocuments() {
     return VersQString(liste.Termine());
 }
 
+QString ObjetBureau::DonneRefus(QString const& idZone, QString& /*phrase*/) {
+    setDelayedReply(true); // what is returned here is never sent
+    try {
+        auto const refus = bureau_.DonneRefus(VersUtf8(message().service()), VersUtf8(idZone));
+        connection().send(message().createReply(
+            refus ? QVariantList{QString::fromLatin1(contrat::DonneNom(refus->code)),
+                                 QString::fromStdString(refus->phrase)}
+                  : QVariantList{QString(), QString()}));
+    } catch (ErreurDuService const& erreur) {
+        connection().send(message().createErrorReply(QString::fromStdString(erreur.DonneNomDBus()),
+                                                     QString::fromUtf8(erreur.what())));
+    }
+    return {};
+}
+
 bool ObjetBureau::Enregistre(QString const& leId) {
     setDelayedReply(true);
     connection().send(ReponseA(message(), [&] {

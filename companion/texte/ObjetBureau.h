@@ -51,6 +51,7 @@ class ObjetBureau : public QObject, protected QDBusContext {
     QString SynchronisePositions(QString const& leId);
 
     QString DonneDocuments();
+    QString DonneRefus(QString const& idZone, QString& phrase);
     bool Enregistre(QString const& leId);
 
   Q_SIGNALS:

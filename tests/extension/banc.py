@@ -255,10 +255,14 @@ class Client:
                 GLib.Variant(signature, arguments), None, 0, patience, None).unpack()
         except GLib.Error as erreur:
             raise Appel(erreur) from None
-        return reponse[0] if reponse else None
+        return reponse if len(reponse) > 1 else reponse[0] if reponse else None
 
     def __getattr__(self, methode):
         return lambda *arguments, **options: self.appelle(methode, *arguments, **options)
+
+    def refus(self, zone):
+        """The code and the sentence of its last refusal there."""
+        return self.appelle("DonneRefus", zone.nom, interface=DOCUMENTS)
 
     def documents(self):
         return json.loads(self.appelle("DonneDocuments", interface=DOCUMENTS))

@@ -119,6 +119,44 @@ TEST_F(Callers, ADocumentThatIsClosedIsForgottenByAll) {
     }
 }
 
+TEST_F(Callers, ARefusalIsTheCallersAndTheZonesOwnAndIsToldUntilTheNextSuccess) {
+    appelants.Donne(":1.1", "doc1", Donne({"z1", "z2"}));
+    appelants.Donne(":1.2", "doc1", Donne({"z1"}));
+    ErreurDuService const protege(Erreur::Protege);
+    appelants.NoteIssue(":1.1", "z1", protege);
+    auto const refus = appelants.DonneRefus(":1.1", "z1");
+    ASSERT_TRUE(refus);
+    EXPECT_EQ(refus->code, Erreur::Protege);
+    EXPECT_EQ(refus->phrase, protege.what());
+    EXPECT_FALSE(appelants.DonneRefus(":1.1", "z2"));
+    EXPECT_FALSE(appelants.DonneRefus(":1.2", "z1"));
+    appelants.NoteIssue(":1.1", "z1", std::nullopt);
+    EXPECT_FALSE(appelants.DonneRefus(":1.1", "z1"));
+}
+
+TEST_F(Callers, ARefusalSurvivesASynchronisationAsLongAsItsZoneDoes) {
+    appelants.Donne(":1.1", "doc1", Donne({"z1", "z2"}));
+    appelants.NoteIssue(":1.1", "z1", ErreurDuService(Erreur::Protege));
+    appelants.NoteIssue(":1.1", "z2", ErreurDuService(Erreur::Frappe));
+    appelants.Donne(":1.1", "doc1", Donne({"z2", "z3"}));
+    EXPECT_EQ(appelants.DonneRefus(":1.1", "z2")->code, Erreur::Frappe);
+    EXPECT_EQ(Refus([&] { appelants.DonneRefus(":1.1", "z1"); }), Erreur::ZoneInconnue);
+    appelants.Donne(":1.1", "doc1", Donne({"z1", "z2"}));
+    EXPECT_FALSE(appelants.DonneRefus(":1.1", "z1")) << "it was another zone's, long gone";
+}
+
+TEST_F(Callers, RefusalsInZonesThatOneWasNotGivenAreNeitherNotedNorTold) {
+    appelants.Donne(":1.1", "doc1", Donne({"z1"}));
+    appelants.NoteIssue(":1.1", "z2", ErreurDuService(Erreur::ZoneInconnue));
+    appelants.NoteIssue(":9.9", "z1", ErreurDuService(Erreur::ZoneInconnue));
+    EXPECT_EQ(Refus([&] { appelants.DonneRefus(":1.1", "z2"); }), Erreur::ZoneInconnue);
+    EXPECT_EQ(Refus([&] { appelants.DonneRefus(":9.9", "z1"); }), Erreur::ZoneInconnue);
+    EXPECT_FALSE(appelants.Connait(":9.9"));
+    appelants.NoteIssue(":1.1", "z1", ErreurDuService(Erreur::Protege));
+    appelants.LacheZones(":1.1");
+    EXPECT_EQ(Refus([&] { appelants.DonneRefus(":1.1", "z1"); }), Erreur::ZoneInconnue);
+}
+
 TEST_F(Callers, ASelectionIsTheOneToldInZoneTextAndRange) {
     SelectionDite const dite{"z1", u"un chat", {3, 7}};
     auto const verifie = [&](SelectionDite const& actuelle) {

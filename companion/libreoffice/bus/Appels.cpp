@@ -1,16 +1,11 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Appels.h"
 
-#include "commun/ChainesUno.h"
-#include "partage/ErreurDuService.h"
-
-#include <com/sun/star/lang/DisposedException.hpp>
-#include <com/sun/star/uno/Exception.hpp>
+#include "commun/ErreurEnCours.h"
 
 #include <string>
 #include <utility>
 
-using namespace com::sun::star;
 using compagnon::ErreurDuService;
 using contrat::Erreur;
 
@@ -64,14 +59,8 @@ void Appels::Sert(GDBusMethodInvocation* invocation, std::chrono::milliseconds d
             try {
                 GVariant* const resultat = travail(*service_, appelant);
                 g_dbus_method_invocation_return_value(ici->invocation, resultat);
-            } catch (ErreurDuService const& erreur) {
-                Reponds(ici->invocation, erreur);
-            } catch (lang::DisposedException const&) {
-                Reponds(ici->invocation, ErreurDuService(Erreur::DocumentFerme));
-            } catch (uno::Exception const& erreur) {
-                Reponds(ici->invocation, ErreurDuService(Erreur::Bureau, EnUtf8(erreur.Message)));
-            } catch (std::exception const& erreur) {
-                Reponds(ici->invocation, ErreurDuService(Erreur::Interne, erreur.what()));
+            } catch (...) {
+                Reponds(ici->invocation, ErreurEnCours());
             }
             Retire(ici);
         });

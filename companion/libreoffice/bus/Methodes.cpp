@@ -95,6 +95,16 @@ GVariant* Tous(Service& service, std::string const& /*appelant*/) {
     return Chaine(service.DonneDocuments());
 }
 
+gboolean SurRefus(GObject* /*s*/, Invocation* invocation, char const* zone, gpointer methodes) {
+    return Sert(methodes, invocation,
+                [zone = std::string(zone)](Service& service, std::string const& appelant) {
+                    auto const refus = service.DonneRefus(appelant, zone);
+                    return refus ? g_variant_new("(ss)", contrat::DonneNom(refus->code),
+                                                 refus->phrase.c_str())
+                                 : g_variant_new("(ss)", "", "");
+                });
+}
+
 gboolean SurInitialisePourOutils(GObject* s, Invocation* invocation, gboolean /*estDico*/,
                                  gpointer methodes) {
     return SurOrdre<&Service::InitialisePour>(s, invocation, methodes);
@@ -216,7 +226,13 @@ Methodes::Methodes(Appels& cible, std::shared_ptr<ClesVivantes const> vivantes, 
     for (Lien const& lien : liens) {
         g_signal_connect(texteur_, lien.signal, lien.operation, this);
     }
-    g_signal_connect(documents_, "handle-donne-documents", G_CALLBACK(&SurQuestion<&Tous>), this);
+    Lien const autres[] = {
+        {"handle-donne-documents", G_CALLBACK(&SurQuestion<&Tous>)},
+        {"handle-donne-refus", G_CALLBACK(&SurRefus)},
+    };
+    for (Lien const& lien : autres) {
+        g_signal_connect(documents_, lien.signal, lien.operation, this);
+    }
 }
 
 Methodes::~Methodes() {

@@ -5,7 +5,6 @@
 #include "commun/NomDeCorrection.h"
 #include "modele/EditionMinimale.h"
 #include "modele/Utf.h"
-#include "partage/ErreurDuService.h"
 
 using compagnon::ErreurDuService;
 using compagnon::Intervalle;
@@ -30,15 +29,22 @@ void VerifieLettres(ZoneOuverte const& zone, std::u16string_view avant, std::u16
 
 } // namespace
 
-bool PeutCorriger(DocumentOuvert const& document, DialogueModal const& dialogue, ZoneOuverte& zone,
-                  compagnon::TexteSuivi const& croyance, Intervalle plage,
-                  std::u16string const& attendu) {
-    if (RaisonDeRefuser(document, dialogue, zone)) {
-        return false;
+std::optional<ErreurDuService>
+RaisonDeNePasCorriger(DocumentOuvert const& document, DialogueModal const& dialogue,
+                      ZoneOuverte& zone, compagnon::TexteSuivi const& croyance, Intervalle plage,
+                      std::u16string const& attendu) {
+    if (auto const raison = RaisonDeRefuser(document, dialogue, zone)) {
+        return ErreurDuService(*raison);
     }
     PlanDePortions const plan = zone.Lis();
     auto const trouve = croyance.Localise(plage, plan.DonneTexte(), attendu);
-    return trouve && plan.PeutModifier(trouve.plage.DonneDebut(), trouve.plage.DonneFin());
+    if (!trouve) {
+        return compagnon::RefusDe(trouve.refus, zone.DonneCle());
+    }
+    if (!plan.PeutModifier(trouve.plage.DonneDebut(), trouve.plage.DonneFin())) {
+        return ErreurDuService(Erreur::ChampDetruit);
+    }
+    return std::nullopt;
 }
 
 void Remplace(DocumentOuvert& document, ZoneOuverte& zone, PlanDePortions const& plan,

@@ -5,15 +5,19 @@
 #include "EtapeAnnulable.h"
 #include "document/DocumentOuvert.h"
 #include "modele/TexteSuivi.h"
+#include "partage/ErreurDuService.h"
 
+#include <optional>
 #include <string>
 
 namespace extension {
 
-/// May the range of the host's, holding `attendu`, be corrected now? Main thread, as all here.
-bool PeutCorriger(DocumentOuvert const& document, DialogueModal const& dialogue, ZoneOuverte& zone,
-                  compagnon::TexteSuivi const& croyance, compagnon::Intervalle plage,
-                  std::u16string const& attendu);
+/// Why the range of the host's, expected to hold `attendu`, may not be corrected now; nothing when
+/// it may. Main thread, as all here.
+std::optional<compagnon::ErreurDuService>
+RaisonDeNePasCorriger(DocumentOuvert const& document, DialogueModal const& dialogue,
+                      ZoneOuverte& zone, compagnon::TexteSuivi const& croyance,
+                      compagnon::Intervalle plage, std::u16string const& attendu);
 
 /// Compares and replaces, in one go: the range must hold what the host believes. Follows in its
 /// belief; where it throws `ErreurDuService` nothing was changed, and the refusal was noted.

@@ -3,12 +3,11 @@
 
 #include "Correction.h"
 #include "RaisonDeRefuser.h"
+#include "commun/ErreurEnCours.h"
 #include "modele/EcrivainZones.h"
 #include "partage/EcritureDocuments.h"
 #include "partage/ErreurDuService.h"
 #include "partage/Messages.h"
-
-#include <com/sun/star/lang/DisposedException.hpp>
 
 #include <algorithm>
 #include <utility>
@@ -151,20 +150,30 @@ std::string Service::SynchronisePositions(std::string const& appelant, std::stri
 
 bool Service::PeutCorriger(std::string const& appelant, std::string const& cle, Intervalle plage,
                            std::u16string const& attendu) {
+    std::optional<ErreurDuService> refus; // as the correction would be refused
     try {
         auto const [document, zone, croyance] = ZoneDe(appelant, cle);
-        return extension::PeutCorriger(*document, dialogue_, *zone, croyance, plage, attendu);
-    } catch (ErreurDuService const&) {
-        return false; // as the correction would be refused
-    } catch (lang::DisposedException const&) {
-        return false;
+        refus = RaisonDeNePasCorriger(*document, dialogue_, *zone, croyance, plage, attendu);
+    } catch (...) {
+        refus = ErreurEnCours();
     }
+    appelants_.NoteIssue(appelant, cle, refus);
+    if (refus && (refus->DonneCode() == Erreur::Bureau || refus->DonneCode() == Erreur::Interne)) {
+        throw ErreurDuService(*refus);
+    }
+    return !refus;
 }
 
 void Service::CorrigeDansTexteur(Auteur const& auteur, std::string const& cle, Intervalle plage,
                                  std::u16string const& texte) {
-    auto const [document, zone, croyance] = ZoneDe(auteur.appelant, cle);
-    Corrige(*document, dialogue_, *zone, croyance, plage, texte, auteur);
+    try {
+        auto const [document, zone, croyance] = ZoneDe(auteur.appelant, cle);
+        Corrige(*document, dialogue_, *zone, croyance, plage, texte, auteur);
+    } catch (...) {
+        appelants_.NoteIssue(auteur.appelant, cle, ErreurEnCours());
+        throw;
+    }
+    appelants_.NoteIssue(auteur.appelant, cle, std::nullopt);
 }
 
 void Service::SelectionneIntervalle(std::string const& appelant, std::string const& cle,

@@ -48,6 +48,11 @@ class Service {
                       compagnon::Intervalle plage, std::u16string const& attendu);
     void CorrigeDansTexteur(Auteur const& auteur, std::string const& zone,
                             compagnon::Intervalle plage, std::u16string const& texte);
+    /// Why the last of those two was refused to the caller in that zone, if it was.
+    std::optional<compagnon::RefusDit> DonneRefus(std::string const& appelant,
+                                                  std::string const& zone) {
+        return appelants_.DonneRefus(appelant, zone);
+    }
     void SelectionneIntervalle(std::string const& appelant, std::string const& zone,
                                compagnon::Intervalle plage);
 

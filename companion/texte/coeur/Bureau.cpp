@@ -111,17 +111,35 @@ std::string Bureau::SynchronisePositions(std::string const& appelant,
 
 bool Bureau::PeutCorriger(std::string const& appelant, std::string const& zone, Intervalle plage,
                           std::u16string_view attendu) {
+    std::optional<ErreurDuService> refus; // as the correction would be refused
     try {
         Place const place = ChercheZone(zone);
         TexteSuivi const& croyance = Croyance(appelant, place);
-        return place.document->EstInscriptible() && croyance.Localise(plage, Texte(place), attendu);
-    } catch (ErreurDuService const&) {
-        return false; // as the correction would be refused
+        place.document->VerifieInscriptible();
+        Localisation const trouvee = croyance.Localise(plage, Texte(place), attendu);
+        if (!trouvee) {
+            refus = RefusDe(trouvee.refus, zone);
+        }
+    } catch (ErreurDuService const& erreur) {
+        refus = erreur;
     }
+    appelants_.NoteIssue(appelant, zone, refus);
+    return !refus;
 }
 
 void Bureau::CorrigeDansTexteur(std::string const& appelant, std::string const& zone,
                                 Intervalle plage, std::u16string_view texte) {
+    try {
+        Corrige(appelant, zone, plage, texte);
+        appelants_.NoteIssue(appelant, zone, std::nullopt);
+    } catch (ErreurDuService const& erreur) {
+        appelants_.NoteIssue(appelant, zone, erreur);
+        throw;
+    }
+}
+
+void Bureau::Corrige(std::string const& appelant, std::string const& zone, Intervalle plage,
+                     std::u16string_view texte) {
     Place const place = ChercheZone(zone);
     TexteSuivi& croyance = Croyance(appelant, place);
     try {

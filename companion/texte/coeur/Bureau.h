@@ -55,6 +55,10 @@ class Bureau {
                             std::u16string_view texte);
     void SelectionneIntervalle(std::string const& appelant, std::string const& zone,
                                Intervalle plage);
+    /// Why the last of those two questions or corrections was refused to the caller, if it was.
+    std::optional<RefusDit> DonneRefus(std::string const& appelant, std::string const& zone) {
+        return appelants_.DonneRefus(appelant, zone);
+    }
 
     // Those that concern the document that the caller last named.
     DocumentTexte& Courant(std::string const& appelant);
@@ -73,6 +77,8 @@ class Bureau {
 
   private:
     TexteSuivi& Croyance(std::string const& appelant, Place const& place);
+    void Corrige(std::string const& appelant, std::string const& zone, Intervalle plage,
+                 std::u16string_view texte);
 
     std::string instance_;
     std::list<DocumentTexte> documents_;

@@ -45,7 +45,6 @@ class DocumentTexte {
     std::string const& DonneChemin() const noexcept { return chemin_; }
     /// The last part of the path.
     std::string DonneTitre() const;
-    bool EstInscriptible() const noexcept { return inscriptible_; }
 
     std::vector<Zone> const& DonneZones() const noexcept { return zones_; }
     std::optional<std::size_t> IndexDe(NumeroZone numero) const noexcept;
@@ -61,6 +60,7 @@ class DocumentTexte {
     // Changes throw `ErreurDuService`, and have changed nothing then: `LectureSeule`; `FinDeLigne`
     // for a text with a line end or what cannot travel; `TropGrand` for the document.
 
+    bool EstInscriptible() const noexcept { return inscriptible_; }
     void VerifieInscriptible() const;
     /// Puts `texte` in the place of the range; the selection follows.
     void Remplace(std::size_t zone, Intervalle plage, std::u16string_view texte);

@@ -13,12 +13,12 @@ from gi.repository import Gio, GLib  # noqa: E402
 from suite.protocole import CHEMIN, DOCUMENTS, DOSSIER, ERREUR, PROXY, SERVICE  # noqa: E402
 
 from .bureau import Refus  # noqa: E402
-from .methodes import Methodes  # noqa: E402
+from .recit import Recit  # noqa: E402
 
 
 class Publie:
     def __init__(self, instance: str, fautes: set[str]):
-        self.bureau = Methodes(instance, fautes)
+        self.bureau = Recit(instance, fautes)
         self.connexion = Gio.bus_get_sync(Gio.BusType.SESSION, None)
         for interface in (PROXY, DOCUMENTS):
             if interface == DOCUMENTS and self.bureau.a("sans-documents"):
@@ -66,9 +66,11 @@ class Publie:
         if not sortie:
             invocation.return_value(None)
         else:
-            type_ = sortie[0].signature
-            invocation.return_value(GLib.Variant(f"({type_})",
-                                                 (str(valeur) if type_ == "s" else valeur,)))
+            types = [argument.signature for argument in sortie]
+            valeurs = valeur if isinstance(valeur, tuple) else (valeur,)
+            invocation.return_value(GLib.Variant(
+                f"({''.join(types)})",
+                tuple(str(v) if t == "s" else v for t, v in zip(types, valeurs))))
         return False
 
 

@@ -24,7 +24,7 @@ class Perdu(Exception):
 
 @dataclass
 class Reponse:
-    """A reply, or an error of that name (without the contract's prefix)."""
+    """A reply (several values: a tuple), or an error of that name (without the contract's prefix)."""
     appel: str
     valeur: object = None
     erreur: str = ""
@@ -99,7 +99,8 @@ class Hote:
                                           f"{appel}: type {attendu} expected, {recu} received"))
             return Reponse(appel, est_du_bon_type=False)
         journal.servies.add(methode)
-        return Reponse(appel, *brute.unpack())
+        valeurs = brute.unpack()
+        return Reponse(appel, valeurs if len(valeurs) > 1 else next(iter(valeurs), None))
 
     def appelle_mal(self, methode: str, arguments: GLib.Variant | None) -> str:
         """A call against the contract: the name of the error that comes, empty when none does."""

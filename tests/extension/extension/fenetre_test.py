@@ -40,6 +40,7 @@ class Fenetre(ecran.Fenetres):
         with self.assertRaises(banc.Appel) as erreur:
             self.client.corrige(zone, "chat", "chien")
         self.assertEqual(erreur.exception.nom, "DialogueOuvert")
+        self.assertEqual(self.client.refus(zone)[0], "DialogueOuvert")
         self.assertEqual(self.client.textes(), ["un chat noir"])
         self.ferme("Insert Table")
         # The refusal left the host's copy in doubt: it asks anew.

@@ -46,10 +46,11 @@ def _(e):
 
 
 @regle("interface.documents", CONTRAT,
-       "L'interface des documents est publiée ; Enregistre n'est pas obligatoire.",
-       "The documents interface is published; Enregistre is not obligatory.")
+       "L'interface des documents est publiée ; seule DonneDocuments y est obligatoire.",
+       "The documents interface is published; DonneDocuments alone is obligatory in it.")
 def _(e):
-    _compare(e, DOCUMENTS, facultatives=("Enregistre",))
+    _compare(e, DOCUMENTS, facultatives=tuple(
+        methode for methode in e.cible.protocole.methodes[DOCUMENTS] if methode != "DonneDocuments"))
 
 
 @regle("interface.mauvais-appels", ERREURS,
