@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "EcritureDocuments.h"
 
+#include "ChaineJson.h"
 #include "modele/Utf.h"
 
 #include <utility>
@@ -9,35 +10,26 @@ namespace compagnon {
 
 namespace {
 
-void AjouteChaine(std::string& json, std::string_view octets) {
-    static constexpr char kChiffres[] = "0123456789abcdef";
-    json += '"';
-    for (char const octet : octets) {
-        auto const valeur = static_cast<unsigned char>(octet);
-        if (octet == '"' || octet == '\\') {
-            json += '\\';
-            json += octet;
-        } else if (valeur < 0x20) {
-            json += "\\u00";
-            json += kChiffres[valeur >> 4U];
-            json += kChiffres[valeur & 0xFU];
-        } else {
-            json += octet;
-        }
+void AjouteSiConnu(std::string& json, std::string_view cle, std::string_view valeur) {
+    if (!valeur.empty()) {
+        json += ',';
+        AjouteChaineJson(json, cle);
+        json += ':';
+        AjouteChaineJson(json, valeur);
     }
-    json += '"';
 }
 
 } // namespace
 
-void EcritureDocuments::Ajoute(std::string_view identifiant, std::u16string_view titre,
-                               std::u16string_view chemin) {
+void EcritureDocuments::Ajoute(DocumentServi const& document) {
     json_ += json_.size() > 1 ? ",{\"id\":" : "{\"id\":";
-    AjouteChaine(json_, identifiant);
+    AjouteChaineJson(json_, document.identifiant);
     json_ += ",\"titre\":";
-    AjouteChaine(json_, Utf16VersUtf8(titre));
+    AjouteChaineJson(json_, Utf16VersUtf8(document.titre));
     json_ += ",\"chemin\":";
-    AjouteChaine(json_, Utf16VersUtf8(chemin));
+    AjouteChaineJson(json_, Utf16VersUtf8(document.chemin));
+    AjouteSiConnu(json_, "genre", document.genre);
+    AjouteSiConnu(json_, "langue", document.langue);
     json_ += '}';
 }
 

@@ -6,11 +6,19 @@
 
 namespace compagnon {
 
-/// Writes the reply of "DonneDocuments": a JSON array in UTF-8. `identifiant` in UTF-8.
+/// What a companion says of one document in its list.
+struct DocumentServi {
+    std::string identifiant; ///< whole, in UTF-8
+    std::u16string titre;
+    std::u16string chemin;
+    std::string genre;  ///< "writer", "calc", "impress", "draw", "texte"; empty: not told
+    std::string langue; ///< its main one, a BCP 47 tag; empty: not known
+};
+
+/// Writes the reply of "DonneDocuments": a JSON array in UTF-8.
 class EcritureDocuments {
   public:
-    void Ajoute(std::string_view identifiant, std::u16string_view titre,
-                std::u16string_view chemin);
+    void Ajoute(DocumentServi const& document);
     /// The array; the writer is used up.
     std::string Termine();
 

@@ -5,12 +5,15 @@
 #include "coeur/MessagesTexte.h"
 #include "modele/Utf.h"
 #include "partage/EcritureDocuments.h"
+#include "partage/Rapport.h"
 
 #include <type_traits>
 
 namespace compagnon {
 
 namespace {
+
+constexpr char kGenreTexte[] = "texte"; ///< the kind of all documents here
 
 /// The reply to a call for which `travail` does the work, or the error that it met.
 template <class Travail>
@@ -192,11 +195,32 @@ QString ObjetBureau::SynchronisePositions(QString const& leId) {
 QString ObjetBureau::DonneDocuments() {
     EcritureDocuments liste;
     for (DocumentTexte const& document : bureau_.DonneDocuments()) {
-        liste.Ajoute(bureau_.DonneIdentifiant(document),
-                     VersUtf16(VersQString(document.DonneTitre())),
-                     VersUtf16(VersQString(document.DonneChemin())));
+        liste.Ajoute({bureau_.DonneIdentifiant(document),
+                      VersUtf16(VersQString(document.DonneTitre())),
+                      VersUtf16(VersQString(document.DonneChemin())),
+                      kGenreTexte,
+                      {}});
     }
     return VersQString(liste.Termine());
+}
+
+QString ObjetBureau::DonneNomsDeZones(QString const& leId) {
+    setDelayedReply(true);
+    connection().send(ReponseA(message(), [&] {
+        return VersQString(bureau_.DonneNomsDeZones(VersUtf8(message().service()), VersUtf8(leId)));
+    }));
+    return {};
+}
+
+QString ObjetBureau::DonneRapport(QString const& leId) {
+    setDelayedReply(true);
+    connection().send(ReponseA(message(), [&] {
+        DocumentTexte const& document = bureau_.ChercheIdentifiant(VersUtf8(leId));
+        return VersQString(
+            Rapport(kGenreTexte, {}, document.DonneZones().size(), !document.EstInscriptible())
+                .EnJson());
+    }));
+    return {};
 }
 
 QString ObjetBureau::DonneRefus(QString const& idZone, QString& /*phrase*/) {

@@ -51,6 +51,8 @@ class ObjetBureau : public QObject, protected QDBusContext {
     QString SynchronisePositions(QString const& leId);
 
     QString DonneDocuments();
+    QString DonneNomsDeZones(QString const& leId);
+    QString DonneRapport(QString const& leId);
     QString DonneRefus(QString const& idZone, QString& phrase);
     bool Enregistre(QString const& leId);
 

@@ -21,10 +21,31 @@ std::string EcrisJson(ListeDocuments const& liste) {
         json.EcrisCle("id").EcrisTexte(document.id);
         json.EcrisCle("titre").EcrisTexte(document.titre);
         json.EcrisCle("chemin").EcrisTexte(document.chemin);
+        if (!document.genre.isEmpty()) {
+            json.EcrisCle("genre").EcrisTexte(document.genre);
+        }
+        if (!document.langue.isEmpty()) {
+            json.EcrisCle("langue").EcrisTexte(document.langue);
+        }
         json.FermeObjet();
     }
     json.FermeTableau();
     return json.DonneJson() + '\n';
+}
+
+/// Its kind and language, "  [Writer, fr-FR]"; nothing where neither is known.
+std::string DonneNature(DocumentAnnonce const& document) {
+    QStringList nature;
+    if (document.genre == QLatin1String("texte")) {
+        nature << QString::fromStdString(Tr("texte"));
+    } else if (!document.genre.isEmpty()) {
+        nature << document.genre.at(0).toUpper() + document.genre.mid(1); // the program's name
+    }
+    if (!document.langue.isEmpty()) {
+        nature << document.langue;
+    }
+    return nature.isEmpty() ? std::string()
+                            : "  [" + nature.join(QStringLiteral(", ")).toStdString() + ']';
 }
 
 std::string EcrisTexte(ListeDocuments const& liste) {
@@ -35,6 +56,7 @@ std::string EcrisTexte(ListeDocuments const& liste) {
         if (!document.chemin.isEmpty()) {
             texte += "  " + DonnePourTerminal(document.chemin).toStdString();
         }
+        texte += DonneNature(document);
         texte += '\n';
     }
     return texte;

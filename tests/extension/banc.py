@@ -260,6 +260,15 @@ class Client:
     def __getattr__(self, methode):
         return lambda *arguments, **options: self.appelle(methode, *arguments, **options)
 
+    def noms_de_zones(self):
+        """What a person would call the zones that it was given, in their order."""
+        zones = self.zones()
+        noms = json.loads(self.appelle("DonneNomsDeZones", self.id, interface=DOCUMENTS))
+        return [noms.get(zone.nom) for zone in zones]
+
+    def rapport(self):
+        return json.loads(self.appelle("DonneRapport", self.id, interface=DOCUMENTS))
+
     def refus(self, zone):
         """The code and the sentence of its last refusal there."""
         return self.appelle("DonneRefus", zone.nom, interface=DOCUMENTS)

@@ -94,6 +94,21 @@ GVariant* Rien(Service& /*service*/, std::string const& /*appelant*/) {
 GVariant* Tous(Service& service, std::string const& /*appelant*/) {
     return Chaine(service.DonneDocuments());
 }
+GVariant* Noms(Service& service, std::string const& appelant, std::string const& leId) {
+    return Chaine(service.DonneNomsDeZones(appelant, leId));
+}
+GVariant* Recit(Service& service, std::string const& /*appelant*/, std::string const& leId) {
+    return Chaine(service.DonneRapport(leId));
+}
+
+/// A question of which the whole identifier of a document is the argument.
+template <auto Operation>
+gboolean SurDocument(GObject* /*s*/, Invocation* invocation, char const* leId, gpointer methodes) {
+    return Sert(methodes, invocation,
+                [leId = std::string(leId)](Service& service, std::string const& appelant) {
+                    return Operation(service, appelant, leId);
+                });
+}
 
 gboolean SurRefus(GObject* /*s*/, Invocation* invocation, char const* zone, gpointer methodes) {
     return Sert(methodes, invocation,
@@ -228,6 +243,8 @@ Methodes::Methodes(Appels& cible, std::shared_ptr<ClesVivantes const> vivantes, 
     }
     Lien const autres[] = {
         {"handle-donne-documents", G_CALLBACK(&SurQuestion<&Tous>)},
+        {"handle-donne-noms-de-zones", G_CALLBACK(&SurDocument<&Noms>)},
+        {"handle-donne-rapport", G_CALLBACK(&SurDocument<&Recit>)},
         {"handle-donne-refus", G_CALLBACK(&SurRefus)},
     };
     for (Lien const& lien : autres) {

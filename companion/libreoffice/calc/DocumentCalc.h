@@ -11,7 +11,10 @@ class DocumentCalc : public DocumentOuvert {
   public:
     using DocumentOuvert::DocumentOuvert;
 
+    char const* DonneGenre() const override { return "calc"; }
+
   protected:
+    NomDeStyle DonneStyleOrdinaire() const override { return {"CellStyles", "Default"}; }
     void ParcoursZones(RecueilDeZones const& recueil) override;
     std::unique_ptr<SelectionVue> LisSelectionDuBureau() override;
 

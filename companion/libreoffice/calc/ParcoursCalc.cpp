@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "ParcoursCalc.h"
 
+#include "commun/ChainesUno.h"
 #include "commun/Proprietes.h"
 #include "dessin/ParcoursFormes.h"
 #include "dessin/TexteDeForme.h"
 
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/container/XIndexAccess.hpp>
+#include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/drawing/XDrawPagesSupplier.hpp>
 #include <com/sun/star/sheet/XSheetAnnotationAnchor.hpp>
 #include <com/sun/star/sheet/XSheetAnnotationShapeSupplier.hpp>
@@ -22,6 +24,12 @@ namespace {
 std::uint64_t Place(std::int16_t feuille, std::int32_t ligne, std::int32_t colonne) {
     return (static_cast<std::uint64_t>(feuille) << 48U) |
            (static_cast<std::uint64_t>(ligne) << 20U) | static_cast<std::uint64_t>(colonne);
+}
+
+std::shared_ptr<Endroit const> EndroitDe(CaseDeFeuille const& endroit,
+                                         std::shared_ptr<Endroit const> const& feuille) {
+    return std::make_shared<Endroit const>(
+        Endroit{Endroit::Genre::Cellule, 0, NomDeCellule(endroit.colonne, endroit.ligne), feuille});
 }
 
 } // namespace
@@ -56,21 +64,26 @@ Cellules ParcoursCalc::Parcours() {
 void ParcoursCalc::ParcoursFeuille(Feuille const& feuille, std::int16_t numero) {
     auto contenant = std::make_shared<Contenant>();
     contenant->feuille.set(feuille, uno::UNO_QUERY_THROW);
+    uno::Reference<container::XNamed> const nomme(feuille, uno::UNO_QUERY_THROW);
+    contenant->endroit = std::make_shared<Endroit const>(
+        Endroit{Endroit::Genre::Feuille, 0, std::u16string(Vue(nomme->getName())), nullptr});
     for (CaseDeFeuille const& endroit : CasesDeFeuille(feuille)) {
         if (endroit.estCommentaire) {
             LisCommentaire(feuille, endroit, contenant);
         } else {
-            LisCellule(feuille, numero, endroit);
+            LisCellule(feuille, numero, endroit, contenant);
         }
     }
     uno::Reference<drawing::XDrawPagesSupplier> const pages(modele_, uno::UNO_QUERY_THROW);
     uno::Reference<drawing::XShapes> const formes(pages->getDrawPages()->getByIndex(numero),
                                                   uno::UNO_QUERY_THROW);
-    ParcoursFormes(formes, {modele_, carnet_, recueil_, contenant});
+    int compte = 0;
+    ParcoursFormes(formes, {modele_, carnet_, recueil_, contenant, contenant->endroit, compte});
 }
 
 void ParcoursCalc::LisCellule(Feuille const& feuille, std::int16_t numero,
-                              CaseDeFeuille const& endroit) {
+                              CaseDeFeuille const& endroit,
+                              std::shared_ptr<Contenant const> const& contenant) {
     auto const connue = connues_.find(Place(numero, endroit.ligne, endroit.colonne));
     std::shared_ptr<Cellule> cellule = connue == connues_.end() ? nullptr : connue->second;
     if (!cellule) {
@@ -88,7 +101,7 @@ void ParcoursCalc::LisCellule(Feuille const& feuille, std::int16_t numero,
     } else {
         lus = cellule->Relis(carnet_);
     }
-    RecueilleZones(*cellule, std::move(lus), recueil_);
+    RecueilleZones(*cellule, std::move(lus), EndroitDe(endroit, contenant->endroit), recueil_);
 }
 
 void ParcoursCalc::LisCommentaire(Feuille const& feuille, CaseDeFeuille const& endroit,
@@ -104,8 +117,10 @@ void ParcoursCalc::LisCommentaire(Feuille const& feuille, CaseDeFeuille const& e
     uno::Reference<uno::XInterface> const forme(commentaire->getAnnotationShape(), uno::UNO_QUERY);
     if (forme.is()) {
         ParcoursTexteDessine(
-            forme, [&] { return TexteDeForme(forme, cellule, modele_, contenant); }, carnet_,
-            recueil_);
+            forme, [&] { return TexteDeForme(forme, cellule, modele_, contenant); },
+            std::make_shared<Endroit const>(Endroit{
+                Endroit::Genre::Commentaire, 0, {}, EndroitDe(endroit, contenant->endroit)}),
+            carnet_, recueil_);
     }
 }
 

@@ -30,7 +30,8 @@ class ParcoursCalc {
     using Feuille = css::uno::Reference<css::sheet::XSpreadsheet>;
 
     void ParcoursFeuille(Feuille const& feuille, std::int16_t numero);
-    void LisCellule(Feuille const& feuille, std::int16_t numero, CaseDeFeuille const& endroit);
+    void LisCellule(Feuille const& feuille, std::int16_t numero, CaseDeFeuille const& endroit,
+                    std::shared_ptr<Contenant const> const& contenant);
     void LisCommentaire(Feuille const& feuille, CaseDeFeuille const& endroit,
                         std::shared_ptr<Contenant const> const& contenant);
 

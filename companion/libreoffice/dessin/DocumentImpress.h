@@ -10,6 +10,8 @@ class DocumentImpress : public DocumentOuvert {
   public:
     using DocumentOuvert::DocumentOuvert;
 
+    char const* DonneGenre() const override;
+
   protected:
     void ParcoursZones(RecueilDeZones const& recueil) override;
     std::unique_ptr<SelectionVue> LisSelectionDuBureau() override;

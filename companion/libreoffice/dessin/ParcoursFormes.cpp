@@ -2,9 +2,11 @@
 #include "ParcoursFormes.h"
 
 #include "TexteDeForme.h"
+#include "commun/ChainesUno.h"
 #include "commun/Proprietes.h"
 
 #include <com/sun/star/beans/XPropertySet.hpp>
+#include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/lang/XServiceInfo.hpp>
 #include <com/sun/star/table/XCellRange.hpp>
 #include <com/sun/star/table/XColumnRowRange.hpp>
@@ -19,26 +21,45 @@ namespace {
 
 /// `objet`: whose text it is; known again by itself, which its text alone would not be.
 void LisTexte(uno::Reference<uno::XInterface> const& objet,
-              uno::Reference<uno::XInterface> const& porteur, FondDeFormes const& fond) {
+              uno::Reference<uno::XInterface> const& porteur,
+              std::shared_ptr<Endroit const> const& endroit, FondDeFormes const& fond) {
     uno::Reference<text::XText> const texte(objet, uno::UNO_QUERY);
     if (texte.is() && !texte->getString().isEmpty()) {
         ParcoursTexteDessine(
             objet, [&] { return TexteDeForme(objet, porteur, fond.modele, fond.contenant); },
-            fond.carnet, fond.recueil);
+            endroit, fond.carnet, fond.recueil);
     }
 }
 
 void LisTableau(uno::Reference<table::XTable> const& tableau,
-                uno::Reference<uno::XInterface> const& forme, FondDeFormes const& fond) {
+                uno::Reference<uno::XInterface> const& forme,
+                std::shared_ptr<Endroit const> const& endroit, FondDeFormes const& fond) {
     for (sal_Int32 ligne = 0; ligne < tableau->getRowCount(); ++ligne) {
         for (sal_Int32 colonne = 0; colonne < tableau->getColumnCount(); ++colonne) {
             uno::Reference<table::XCell> const cellule = tableau->getCellByPosition(colonne, ligne);
             uno::Reference<table::XMergeableCell> const fusion(cellule, uno::UNO_QUERY);
             if (!fusion.is() || !fusion->isMerged()) { // covered by another one
-                LisTexte(cellule, forme, fond);
+                LisTexte(
+                    cellule, forme,
+                    std::make_shared<Endroit const>(Endroit{Endroit::Genre::CelluleDeTableau, 0,
+                                                            NomDeCellule(colonne, ligne), endroit}),
+                    fond);
             }
         }
     }
+}
+
+/// What a person calls a shape: by its own name where it has one, else by `numero`.
+std::shared_ptr<Endroit const> EndroitDeForme(uno::Reference<uno::XInterface> const& forme,
+                                              Endroit::Genre genre, int numero,
+                                              std::shared_ptr<Endroit const> const& autour) {
+    uno::Reference<lang::XServiceInfo> const services(forme, uno::UNO_QUERY);
+    if (services.is() && services->supportsService("com.sun.star.presentation.TitleTextShape")) {
+        genre = Endroit::Genre::Titre;
+    }
+    uno::Reference<container::XNamed> const nomme(forme, uno::UNO_QUERY);
+    return std::make_shared<Endroit const>(
+        Endroit{genre, numero, std::u16string(nomme.is() ? Vue(nomme->getName()) : u""), autour});
 }
 
 void LisForme(uno::Reference<uno::XInterface> const& forme, FondDeFormes const& fond) {
@@ -57,6 +78,7 @@ void LisForme(uno::Reference<uno::XInterface> const& forme, FondDeFormes const& 
         ParcoursFormes(groupe, fond);
         return;
     }
+    ++fond.compte;
     // On a slide a table does not name its service; and to ask an embedded document for its model
     // would load it.
     uno::Reference<table::XTable> tableau;
@@ -65,9 +87,11 @@ void LisForme(uno::Reference<uno::XInterface> const& forme, FondDeFormes const& 
         proprietes->getPropertyValue("Model") >>= tableau;
     }
     if (tableau.is()) {
-        LisTableau(tableau, forme, fond);
+        LisTableau(tableau, forme,
+                   EndroitDeForme(forme, Endroit::Genre::Tableau, fond.compte, fond.page), fond);
     } else {
-        LisTexte(forme, forme, fond);
+        LisTexte(forme, forme, EndroitDeForme(forme, Endroit::Genre::Forme, fond.compte, fond.page),
+                 fond);
     }
 }
 

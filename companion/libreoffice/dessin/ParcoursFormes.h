@@ -16,6 +16,10 @@ struct FondDeFormes {
     RecueilDeZones const& recueil;
     /// What protects the shapes; may be empty.
     std::shared_ptr<Contenant const> contenant;
+    /// What they stand on; empty in a text document.
+    std::shared_ptr<Endroit const> page;
+    /// How many of the page were met.
+    int& compte;
 };
 
 /// Hands out the zones of the shapes in view of a page, in their order, groups opened, tables cell

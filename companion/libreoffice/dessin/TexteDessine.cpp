@@ -178,25 +178,27 @@ void TexteDessine::Execute(ParagrapheLu const& lu, compagnon::EtapeEdition const
 }
 
 void RecueilleZones(TexteDessine const& texte, std::vector<ParagrapheLu>&& lus,
-                    RecueilDeZones const& recueil) {
+                    std::shared_ptr<Endroit const> const& endroit, RecueilDeZones const& recueil) {
     // A copy: whoever gets a zone may read its text anew.
     auto const debut = texte.DonneZones().begin();
     std::vector<std::shared_ptr<ParagrapheDessine>> const zones(debut, texte.DonneZones().end());
     for (std::size_t i = 0; i < lus.size(); ++i) {
+        zones[i]->MetsLieu({endroit, static_cast<int>(i) + 1});
         recueil(zones[i], std::move(lus[i].plan));
     }
 }
 
 void ParcoursTexteDessine(uno::Reference<uno::XInterface> const& objet,
                           std::function<std::shared_ptr<TexteDessine>()> const& fabrique,
-                          CarnetDeZones& carnet, RecueilDeZones const& recueil) {
+                          std::shared_ptr<Endroit const> const& endroit, CarnetDeZones& carnet,
+                          RecueilDeZones const& recueil) {
     uno::Reference<uno::XInterface> const identite = Identite(objet);
     auto texte = carnet.Retrouve<TexteDessine>(identite);
     if (!texte) {
         texte = fabrique();
         carnet.Inscris(identite, texte);
     }
-    RecueilleZones(*texte, texte->Relis(carnet), recueil);
+    RecueilleZones(*texte, texte->Relis(carnet), endroit, recueil);
 }
 
 } // namespace extension

@@ -77,14 +77,15 @@ class TexteDessine : public Inscrit, public std::enable_shared_from_this<TexteDe
     std::vector<std::u16string> textes_;
 };
 
-/// Hands out the zones of a text whose paragraphs were just read.
+/// Hands out the zones of a text whose paragraphs were just read. `endroit`: where it stands.
 void RecueilleZones(TexteDessine const& texte, std::vector<ParagrapheLu>&& lus,
-                    RecueilDeZones const& recueil);
+                    std::shared_ptr<Endroit const> const& endroit, RecueilDeZones const& recueil);
 
 /// Reads and hands out the zones of such a text; `fabrique` makes it when it is met for the first
 /// time.
 void ParcoursTexteDessine(css::uno::Reference<css::uno::XInterface> const& objet,
                           std::function<std::shared_ptr<TexteDessine>()> const& fabrique,
-                          CarnetDeZones& carnet, RecueilDeZones const& recueil);
+                          std::shared_ptr<Endroit const> const& endroit, CarnetDeZones& carnet,
+                          RecueilDeZones const& recueil);
 
 } // namespace extension

@@ -38,6 +38,15 @@ std::shared_ptr<ZoneOuverte> CarnetDeZones::TrouveParCle(std::string const& cle)
     return trouve == parCle_.end() ? nullptr : trouve->second;
 }
 
+std::vector<std::shared_ptr<ZoneOuverte>> CarnetDeZones::DonneZones() const {
+    std::vector<std::shared_ptr<ZoneOuverte>> zones;
+    zones.reserve(parCle_.size());
+    for (auto const& [cle, zone] : parCle_) {
+        zones.push_back(zone);
+    }
+    return zones;
+}
+
 void CarnetDeZones::Rencontre(Entree& entree) {
     if (entree.passage != passage_) {
         entree.passage = passage_;

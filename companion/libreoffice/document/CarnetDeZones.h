@@ -10,6 +10,7 @@
 #include <memory>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 namespace extension {
 
@@ -38,6 +39,8 @@ class CarnetDeZones {
     void OublieCle(std::string const& cle);
 
     std::shared_ptr<ZoneOuverte> TrouveParCle(std::string const& cle) const;
+    /// All zones, in no order.
+    std::vector<std::shared_ptr<ZoneOuverte>> DonneZones() const;
 
     /// Brackets a walk over the whole document: what it did not meet is forgotten at its end.
     void Commence() {

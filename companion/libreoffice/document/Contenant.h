@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
+#include "Endroit.h"
+
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/text/XText.hpp>
 #include <com/sun/star/util/XProtectable.hpp>
@@ -21,6 +23,8 @@ struct Contenant {
     /// The spreadsheet's sheet that a shape or comment stands on.
     css::uno::Reference<css::util::XProtectable> feuille;
     std::shared_ptr<Contenant const> parent;
+    /// What a person calls it.
+    std::shared_ptr<Endroit const> endroit;
 
     bool EstProtege() const;
 };

@@ -2,14 +2,18 @@
 #include "DocumentOuvert.h"
 
 #include "commun/ChainesUno.h"
+#include "commun/Langue.h"
+#include "commun/Proprietes.h"
 #include "partage/ErreurDuService.h"
 
 #include <com/sun/star/awt/XTopWindow.hpp>
 #include <com/sun/star/awt/XWindow.hpp>
+#include <com/sun/star/container/XNameAccess.hpp>
 #include <com/sun/star/frame/XController.hpp>
 #include <com/sun/star/frame/XFrame.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/frame/XTitle.hpp>
+#include <com/sun/star/style/XStyleFamiliesSupplier.hpp>
 #include <osl/file.hxx>
 
 #include <utility>
@@ -50,6 +54,34 @@ DocumentOuvert::DocumentOuvert(uno::Reference<frame::XModel> const& modele, std:
     , annulations_(modele) {}
 
 DocumentOuvert::~DocumentOuvert() = default;
+
+std::string DocumentOuvert::DonneLangue() const {
+    uno::Reference<beans::XPropertySet> ordinaire(modele_, uno::UNO_QUERY);
+    NomDeStyle const style = DonneStyleOrdinaire();
+    uno::Reference<style::XStyleFamiliesSupplier> const familles(modele_, uno::UNO_QUERY);
+    if (style.nom != nullptr && familles.is()) {
+        uno::Reference<container::XNameAccess> const famille(
+            familles->getStyleFamilies()->getByName(rtl::OUString::createFromAscii(style.famille)),
+            uno::UNO_QUERY_THROW);
+        ordinaire.set(famille->getByName(rtl::OUString::createFromAscii(style.nom)),
+                      uno::UNO_QUERY_THROW);
+    }
+    lang::Locale langue;
+    ValeurSiConnue(ordinaire, "CharLocale") >>= langue;
+    return EtiquetteDeLangue(langue);
+}
+
+std::size_t DocumentOuvert::CompteProtegees() const {
+    std::size_t nombre = 0;
+    for (std::shared_ptr<ZoneOuverte> const& zone : carnet_.DonneZones()) {
+        try {
+            nombre += zone->EstProtegee() ? 1 : 0;
+        } catch (compagnon::ErreurDuService const&) {
+            continue; // it left the document since
+        }
+    }
+    return nombre;
+}
 
 std::u16string DocumentOuvert::DonneTitre() const {
     uno::Reference<frame::XTitle> const titre(modele_, uno::UNO_QUERY_THROW);
@@ -115,7 +147,9 @@ bool DocumentOuvert::EstEncore(Retenue const& retenue, SelectionVue& selection) 
 void DocumentOuvert::Parcours(Visiteur const& visiteur) {
     std::unique_ptr<SelectionVue> const selection = LisSelection();
     carnet_.Commence();
+    nombre_ = 0;
     ParcoursZones([&](std::shared_ptr<ZoneOuverte> const& zone, compagnon::PlanDePortions&& plan) {
+        ++nombre_;
         auto const choisi = selection ? selection->Dans(*zone, plan) : std::nullopt;
         visiteur({zone, std::move(plan), choisi, false});
     });

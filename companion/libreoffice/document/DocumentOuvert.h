@@ -37,6 +37,11 @@ class DocumentOuvert {
     std::string const& DonneCle() const noexcept { return cle_; }
     css::uno::Reference<css::frame::XModel> const& DonneModele() const noexcept { return modele_; }
 
+    /// Its kind, as the wire names it: "writer", "calc", "impress", "draw".
+    virtual char const* DonneGenre() const = 0;
+    /// The language that its text is in unless something else is said there: a BCP 47 tag; empty
+    /// where it has none.
+    std::string DonneLangue() const;
     std::u16string DonneTitre() const;
     /// Path of the document's file (its URL where it is not a local file); empty without one.
     std::u16string DonneChemin() const;
@@ -45,6 +50,13 @@ class DocumentOuvert {
 
     /// All zones in reading order, with the selection inside each.
     void Parcours(Visiteur const& visiteur);
+
+    /// How many of the zones of the last walk cannot be changed, as something around them is
+    /// protected. Takes time by the zones.
+    std::size_t CompteProtegees() const;
+    /// How many zones the last walk found, and what it left out; before the first one there are
+    /// none.
+    std::size_t DonneNombreDeZones() const noexcept { return nombre_; }
 
     /// The zone of that key, or null.
     std::shared_ptr<ZoneOuverte> DonneZone(std::string const& cle) const {
@@ -65,6 +77,13 @@ class DocumentOuvert {
                      compagnon::Intervalle plage);
 
   protected:
+    /// The family and the name of the style that most text has; the document itself says what is
+    /// ordinary where it has none.
+    struct NomDeStyle {
+        char const* famille;
+        char const* nom;
+    };
+    virtual NomDeStyle DonneStyleOrdinaire() const { return {nullptr, nullptr}; }
     virtual void ParcoursZones(RecueilDeZones const& recueil) = 0;
     /// What is selected now; null for nothing with a text.
     virtual std::unique_ptr<SelectionVue> LisSelectionDuBureau() = 0;
@@ -84,6 +103,7 @@ class DocumentOuvert {
 
     css::uno::Reference<css::frame::XModel> modele_;
     std::string cle_;
+    std::size_t nombre_ = 0;
     CarnetDeZones carnet_;
     PileDAnnulation annulations_;
     std::optional<Retenue> retenue_;

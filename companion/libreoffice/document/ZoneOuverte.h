@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
+#include "Endroit.h"
 #include "Inscrit.h"
 #include "modele/PlanDePortions.h"
 
@@ -35,6 +36,10 @@ class ZoneOuverte : public Inscrit {
     /// The `idZone` of the wire; opaque.
     std::string const& DonneCle() const noexcept { return cle_; }
 
+    /// Where the last walk over the document found it.
+    Lieu const& DonneLieu() const noexcept { return lieu_; }
+    void MetsLieu(Lieu lieu) noexcept { lieu_ = std::move(lieu); }
+
     /// The paragraph as it stands now. `Applique` and `Selectionne` refer to this plan's portions:
     /// they are called before anything else happens in the document. Nothing of the office's that
     /// belongs to a portion is kept: they find it anew.
@@ -59,6 +64,7 @@ class ZoneOuverte : public Inscrit {
 
   private:
     std::string cle_;
+    Lieu lieu_;
 };
 
 /// Gets the zones of a document one after the other, each with what it holds now.

@@ -3,9 +3,11 @@
 
 #include "Correction.h"
 #include "RaisonDeRefuser.h"
+#include "RapportSur.h"
 #include "commun/ErreurEnCours.h"
 #include "modele/EcrivainZones.h"
 #include "partage/EcritureDocuments.h"
+#include "partage/EcritureNoms.h"
 #include "partage/ErreurDuService.h"
 #include "partage/Messages.h"
 
@@ -47,10 +49,27 @@ std::string Service::DonneIdentifiant(DocumentOuvert const& document) const {
 std::string Service::DonneDocuments() {
     compagnon::EcritureDocuments ecriture;
     for (std::shared_ptr<DocumentOuvert> const& document : documents_.Tous()) {
-        ecriture.Ajoute(DonneIdentifiant(*document), document->DonneTitre(),
-                        document->DonneChemin());
+        ecriture.Ajoute({DonneIdentifiant(*document), document->DonneTitre(),
+                         document->DonneChemin(), document->DonneGenre(), document->DonneLangue()});
     }
     return ecriture.Termine();
+}
+
+std::string Service::DonneNomsDeZones(std::string const& appelant, std::string const& leId) {
+    std::shared_ptr<DocumentOuvert> const document = DocumentDIdentifiant(leId);
+    compagnon::EcritureNoms ecriture;
+    if (auto const* const donne = appelants_.DonneDonne(appelant, document->DonneCle())) {
+        for (auto const& [cle, croyance] : donne->zones) {
+            if (auto const zone = document->DonneZone(cle)) {
+                ecriture.Ajoute(cle, DisLieu(zone->DonneLieu()));
+            }
+        }
+    }
+    return ecriture.Termine();
+}
+
+std::string Service::DonneRapport(std::string const& leId) {
+    return RapportSur(*DocumentDIdentifiant(leId)).EnJson();
 }
 
 std::shared_ptr<DocumentOuvert> Service::DocumentDe(std::string const& appelant) {
@@ -58,6 +77,18 @@ std::shared_ptr<DocumentOuvert> Service::DocumentDe(std::string const& appelant)
         documents_.TrouveParCle(appelants_.DonneDocument(appelant));
     if (!document) {
         throw ErreurDuService(Erreur::DocumentFerme);
+    }
+    return document;
+}
+
+std::shared_ptr<DocumentOuvert> Service::DocumentDIdentifiant(std::string const& leId) {
+    std::string const prefixe = instance_ + contrat::kSeparateur;
+    std::shared_ptr<DocumentOuvert> document =
+        leId.compare(0, prefixe.size(), prefixe) == 0
+            ? documents_.TrouveParCle(leId.substr(prefixe.size()))
+            : nullptr;
+    if (!document) {
+        throw ErreurDuService(Erreur::DocumentInconnu, leId);
     }
     return document;
 }
@@ -104,14 +135,7 @@ bool Service::PermetsRetourDeCharriot(std::string const& appelant) {
 }
 
 std::string Service::SynchronisePositions(std::string const& appelant, std::string const& leId) {
-    std::string const prefixe = instance_ + contrat::kSeparateur;
-    std::shared_ptr<DocumentOuvert> const document =
-        leId.compare(0, prefixe.size(), prefixe) == 0
-            ? documents_.TrouveParCle(leId.substr(prefixe.size()))
-            : nullptr;
-    if (!document) {
-        throw ErreurDuService(Erreur::DocumentInconnu, leId);
-    }
+    std::shared_ptr<DocumentOuvert> const document = DocumentDIdentifiant(leId);
     // Those of documents that were closed meanwhile would stay for as long as the caller does.
     appelants_.GardeDocuments(
         [&](std::string const& cle) { return DonneVivantes()->Contient(cle); });

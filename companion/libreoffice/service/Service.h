@@ -31,6 +31,11 @@ class Service {
     void OublieTous() { appelants_.OublieTous(); }
 
     std::string DonneDocuments();
+    /// What a person would call each zone of the document that the caller was given. `leId`: a
+    /// whole identifier, as in the next one.
+    std::string DonneNomsDeZones(std::string const& appelant, std::string const& leId);
+    /// What the document is, and what of it is left out.
+    std::string DonneRapport(std::string const& leId);
 
     void InitialiseTexteur(std::string const& appelant, std::string const& cle);
     void Active(std::string const& appelant);
@@ -65,6 +70,8 @@ class Service {
 
   private:
     std::shared_ptr<DocumentOuvert> DocumentDe(std::string const& appelant);
+    /// The one of that whole identifier.
+    std::shared_ptr<DocumentOuvert> DocumentDIdentifiant(std::string const& leId);
     struct ZoneNommee {
         std::shared_ptr<DocumentOuvert> document;
         std::shared_ptr<ZoneOuverte> zone;

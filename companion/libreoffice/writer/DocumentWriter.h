@@ -11,7 +11,10 @@ class DocumentWriter : public DocumentOuvert {
   public:
     DocumentWriter(css::uno::Reference<css::frame::XModel> const& modele, std::string cle);
 
+    char const* DonneGenre() const override { return "writer"; }
+
   protected:
+    NomDeStyle DonneStyleOrdinaire() const override { return {"ParagraphStyles", "Standard"}; }
     void ParcoursZones(RecueilDeZones const& recueil) override;
     std::unique_ptr<SelectionVue> LisSelectionDuBureau() override;
 

@@ -2,6 +2,7 @@
 #include "ParcoursWriter.h"
 
 #include "CommentaireWriter.h"
+#include "commun/ChainesUno.h"
 #include "commun/Proprietes.h"
 #include "dessin/TexteDeForme.h"
 
@@ -9,6 +10,7 @@
 #include <com/sun/star/container/XEnumerationAccess.hpp>
 #include <com/sun/star/container/XIndexAccess.hpp>
 #include <com/sun/star/container/XNameAccess.hpp>
+#include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/drawing/XDrawPageSupplier.hpp>
 #include <com/sun/star/drawing/XShapes.hpp>
 #include <com/sun/star/style/XStyle.hpp>
@@ -34,10 +36,25 @@ uno::Reference<drawing::XDrawPage> PageDeDessin(uno::Reference<frame::XModel> co
 #pragma GCC diagnostic pop
 }
 
-std::shared_ptr<Contenant> Contient(uno::Reference<text::XText> const& texte) {
+using EndroitPartage = std::shared_ptr<Endroit const>;
+
+EndroitPartage FaisEndroit(Endroit::Genre genre, int numero, OUString const& nom = {},
+                           EndroitPartage const& autour = {}) {
+    return std::make_shared<Endroit const>(
+        Endroit{genre, numero, std::u16string(Vue(nom)), autour});
+}
+
+std::shared_ptr<Contenant> Contient(uno::Reference<text::XText> const& texte,
+                                    EndroitPartage endroit) {
     auto contenant = std::make_shared<Contenant>();
     contenant->texte = texte;
+    contenant->endroit = std::move(endroit);
     return contenant;
+}
+
+OUString NomDe(uno::Reference<uno::XInterface> const& objet) {
+    uno::Reference<container::XNamed> const nomme(objet, uno::UNO_QUERY);
+    return nomme.is() ? nomme->getName() : OUString();
 }
 
 } // namespace
@@ -54,18 +71,19 @@ void ParcoursWriter::Parcours() {
     aDesSections_ = sections.is() && sections->getTextSections()->hasElements();
     aDesCadres_ = PageDeDessin(fond_->modele)->getCount() > 0;
 
-    ParcoursEntetes("HeaderIsOn", "Header");
-    ParcoursTexte(Contient(document->getText()));
+    ParcoursEntetes(Endroit::Genre::EnTete, "HeaderIsOn", "Header");
+    ParcoursTexte(Contient(document->getText(), FaisEndroit(Endroit::Genre::Corps, 0)));
     if (aDesCadres_) {
         ParcoursPages();
     }
     auto const notes = std::exchange(notesDeFin_, {});
     for (auto const& [note, contenant] : notes) {
-        auto dedans = Contient(uno::Reference<text::XText>(note.objet, uno::UNO_QUERY_THROW));
+        auto dedans = Contient(uno::Reference<text::XText>(note.objet, uno::UNO_QUERY_THROW),
+                               FaisEndroit(Endroit::Genre::NoteDeFin, ++finales_));
         dedans->parent = contenant;
         ParcoursTexte(dedans);
     }
-    ParcoursEntetes("FooterIsOn", "Footer");
+    ParcoursEntetes(Endroit::Genre::PiedDePage, "FooterIsOn", "Footer");
 }
 
 void ParcoursWriter::ParcoursTexte(std::shared_ptr<Contenant const> const& contenant) {
@@ -73,6 +91,7 @@ void ParcoursWriter::ParcoursTexte(std::shared_ptr<Contenant const> const& conte
                                                                     uno::UNO_QUERY_THROW);
     uno::Reference<container::XEnumeration> const suite = paragraphes->createEnumeration();
     int suppressions = 0;
+    int rang = 0;
     while (suite->hasMoreElements()) {
         // As the enumeration gives it: a query for what is there already takes its time, and one
         // for what is not takes longest. So a table is asked for only where there are no portions.
@@ -80,7 +99,7 @@ void ParcoursWriter::ParcoursTexte(std::shared_ptr<Contenant const> const& conte
         suite->nextElement() >>= element;
         uno::Reference<container::XEnumerationAccess> const portions(element, uno::UNO_QUERY);
         if (portions.is()) {
-            ParcoursParagraphe(element, portions, contenant, suppressions);
+            ParcoursParagraphe(element, portions, contenant, ++rang, suppressions);
         } else {
             ParcoursTableau(uno::Reference<text::XTextTable>(element, uno::UNO_QUERY_THROW),
                             contenant);
@@ -90,13 +109,15 @@ void ParcoursWriter::ParcoursTexte(std::shared_ptr<Contenant const> const& conte
 
 void ParcoursWriter::ParcoursTableau(uno::Reference<text::XTextTable> const& tableau,
                                      std::shared_ptr<Contenant const> const& parent) {
+    EndroitPartage const endroit = FaisEndroit(Endroit::Genre::Tableau, 0, NomDe(tableau));
     for (OUString const& nom : tableau->getCellNames()) {
         uno::Reference<table::XCell> const cellule = tableau->getCellByName(nom);
         uno::Reference<text::XText> const texte(cellule, uno::UNO_QUERY);
         if (!texte.is()) {
             continue;
         }
-        auto contenant = Contient(texte);
+        auto contenant =
+            Contient(texte, FaisEndroit(Endroit::Genre::CelluleDeTableau, 0, nom, endroit));
         contenant->protecteur.set(cellule, uno::UNO_QUERY);
         contenant->propriete = "IsProtected";
         contenant->parent = parent;
@@ -107,7 +128,7 @@ void ParcoursWriter::ParcoursTableau(uno::Reference<text::XTextTable> const& tab
 void ParcoursWriter::ParcoursParagraphe(
     uno::Reference<text::XTextContent> const& paragraphe,
     uno::Reference<container::XEnumerationAccess> const& portions,
-    std::shared_ptr<Contenant const> const& contenant, int& suppressions) {
+    std::shared_ptr<Contenant const> const& contenant, int rang, int& suppressions) {
     uno::Reference<uno::XInterface> const objet = Identite(paragraphe);
     auto zone = carnet_.Retrouve<ParagrapheWriter>(objet);
     if (!zone) {
@@ -125,6 +146,7 @@ void ParcoursWriter::ParcoursParagraphe(
     if (aDesSections_ && EstDansSectionNonLue(proprietes)) {
         return;
     }
+    zone->MetsLieu({contenant->endroit, rang});
     recueil_(zone, std::move(lu.plan));
     for (Rencontre const& rencontre : rencontres) {
         ParcoursRencontre(rencontre, contenant, proprietes);
@@ -157,7 +179,7 @@ void ParcoursWriter::ParcoursRencontre(Rencontre const& rencontre,
             ParcoursTexteDessine(
                 rencontre.objet,
                 [&] { return TexteDeCommentaire(rencontre.objet, fond_->modele, dessine); },
-                carnet_, recueil_);
+                FaisEndroit(Endroit::Genre::Commentaire, ++commentaires_), carnet_, recueil_);
         }
         return;
     }
@@ -165,10 +187,12 @@ void ParcoursWriter::ParcoursRencontre(Rencontre const& rencontre,
     case Rencontre::Genre::NoteDeFin:
         break;
     }
-    auto dedans = Contient(uno::Reference<text::XText>(rencontre.objet, uno::UNO_QUERY_THROW));
+    bool const deFin = rencontre.genre == Rencontre::Genre::NoteDeFin;
+    auto dedans = Contient(uno::Reference<text::XText>(rencontre.objet, uno::UNO_QUERY_THROW),
+                           deFin ? nullptr : FaisEndroit(Endroit::Genre::Note, ++notes_));
     dedans->ancre = ancre;
     dedans->parent = contenant;
-    if (rencontre.genre == Rencontre::Genre::NoteDeFin) {
+    if (deFin) {
         notesDeFin_.emplace_back(rencontre, dedans);
     } else {
         ParcoursTexte(dedans);
@@ -194,22 +218,23 @@ void ParcoursWriter::ParcoursCadre(uno::Reference<uno::XInterface> const& objet,
                           parent, ancre);
         }
     } else if (cadre.is()) {
-        auto dedans = Contient(cadre->getText());
+        auto dedans =
+            Contient(cadre->getText(), FaisEndroit(Endroit::Genre::Cadre, 0, NomDe(objet)));
         dedans->protecteur = proprietes;
         dedans->propriete = "ContentProtected";
         dedans->ancre = ancre;
         dedans->parent = parent;
         ParcoursTexte(dedans);
     } else if (texte.is()) {
-        auto dedans = Contient(texte);
+        auto dedans = Contient(texte, FaisEndroit(Endroit::Genre::Forme, ++formes_, NomDe(objet)));
         dedans->ancre = ancre;
         dedans->parent = parent;
         if (Vaut(proprietes, "TextBox", false)) {
             ParcoursTexte(dedans); // a shape whose text is a frame of Writer's own
         } else {
             ParcoursTexteDessine(
-                objet, [&] { return TexteDeForme(objet, objet, fond_->modele, dedans); }, carnet_,
-                recueil_);
+                objet, [&] { return TexteDeForme(objet, objet, fond_->modele, dedans); },
+                dedans->endroit, carnet_, recueil_);
         }
     }
 }
@@ -228,7 +253,7 @@ void ParcoursWriter::ParcoursPages() {
     }
 }
 
-void ParcoursWriter::ParcoursEntetes(char const* actif, char const* texte) {
+void ParcoursWriter::ParcoursEntetes(Endroit::Genre genre, char const* actif, char const* texte) {
     uno::Reference<style::XStyleFamiliesSupplier> const document(fond_->modele,
                                                                  uno::UNO_QUERY_THROW);
     uno::Reference<container::XIndexAccess> const styles(
@@ -239,6 +264,8 @@ void ParcoursWriter::ParcoursEntetes(char const* actif, char const* texte) {
         if (!style->isInUse() || !Vaut(proprietes, actif, false)) {
             continue;
         }
+        OUString titre;
+        proprietes->getPropertyValue("DisplayName") >>= titre;
         OUString const nom = OUString::createFromAscii(texte) + "Text";
         bool const partage = Vaut(proprietes, (std::string(texte) + "IsShared").c_str(), true);
         bool const premierPartage = Vaut(proprietes, "FirstIsShared", true);
@@ -253,7 +280,10 @@ void ParcoursWriter::ParcoursEntetes(char const* actif, char const* texte) {
             uno::Reference<text::XText> entete;
             proprietes->getPropertyValue(variante) >>= entete;
             if (entete.is()) {
-                ParcoursTexte(Contient(entete));
+                // Most documents have one style of pages, whose name tells a person nothing.
+                ParcoursTexte(Contient(
+                    entete,
+                    FaisEndroit(genre, 0, style->getName() == "Standard" ? OUString() : titre)));
             }
         }
     }

@@ -29,14 +29,15 @@ class ParcoursWriter {
                          std::shared_ptr<Contenant const> const& parent);
     void ParcoursParagraphe(css::uno::Reference<css::text::XTextContent> const& p,
                             css::uno::Reference<css::container::XEnumerationAccess> const& portions,
-                            std::shared_ptr<Contenant const> const& contenant, int& suppressions);
+                            std::shared_ptr<Contenant const> const& contenant, int rang,
+                            int& suppressions);
     void ParcoursRencontre(Rencontre const& rencontre,
                            std::shared_ptr<Contenant const> const& contenant,
                            css::uno::Reference<css::beans::XPropertySet> const& ancre);
     void ParcoursCadre(css::uno::Reference<css::uno::XInterface> const& objet,
                        std::shared_ptr<Contenant const> const& parent,
                        css::uno::Reference<css::beans::XPropertySet> const& ancre);
-    void ParcoursEntetes(char const* actif, char const* texte);
+    void ParcoursEntetes(Endroit::Genre genre, char const* actif, char const* texte);
     void ParcoursPages();
 
     std::shared_ptr<FondWriter const> fond_;
@@ -44,6 +45,10 @@ class ParcoursWriter {
     RecueilDeZones const& recueil_;
     bool aDesSections_ = false;
     bool aDesCadres_ = false;
+    int notes_ = 0; // met so far, as the next three
+    int finales_ = 0;
+    int commentaires_ = 0;
+    int formes_ = 0;
     Objets vus_; // frames, shapes and comments walked already
     std::vector<std::pair<Rencontre, std::shared_ptr<Contenant const>>> notesDeFin_;
 };

@@ -2,6 +2,8 @@
 #include "Bureau.h"
 
 #include "modele/EcrivainZones.h"
+#include "partage/EcritureNoms.h"
+#include "partage/Messages.h"
 
 #include <algorithm>
 #include <charconv>
@@ -107,6 +109,19 @@ std::string Bureau::SynchronisePositions(std::string const& appelant,
     // Only now: a caller that got an error was given nothing.
     appelants_.Donne(appelant, document.DonneCle(), std::move(donne));
     return std::move(*reponse);
+}
+
+std::string Bureau::DonneNomsDeZones(std::string const& appelant, std::string const& identifiant) {
+    DocumentTexte const& document = ChercheIdentifiant(identifiant);
+    DocumentDonne const* const donne = appelants_.DonneDonne(appelant, document.DonneCle());
+    EcritureNoms ecriture;
+    for (std::size_t i = 0; donne && i < document.DonneZones().size(); ++i) {
+        std::string const cle = CleDeZone(document.DonneZones()[i].numero);
+        if (donne->zones.count(cle) != 0) {
+            ecriture.Ajoute(cle, Dis({"ligne {1}", "line {1}"}, {std::to_string(i + 1)}));
+        }
+    }
+    return ecriture.Termine();
 }
 
 bool Bureau::PeutCorriger(std::string const& appelant, std::string const& zone, Intervalle plage,

@@ -47,6 +47,8 @@ class Bureau {
     void InitialiseTexteur(std::string const& appelant, std::string const& cle);
     bool DocEstMort(std::string_view cle) noexcept { return Cherche(cle) == nullptr; }
     std::string SynchronisePositions(std::string const& appelant, std::string const& identifiant);
+    /// What a person would call each zone that the caller was given.
+    std::string DonneNomsDeZones(std::string const& appelant, std::string const& identifiant);
 
     // Those that concern a zone; ranges are the caller's.
     bool PeutCorriger(std::string const& appelant, std::string const& zone, Intervalle plage,

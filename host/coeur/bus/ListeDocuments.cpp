@@ -6,6 +6,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QSet>
 
 namespace hote {
@@ -16,12 +17,28 @@ namespace {
 constexpr int kTailleMax = 4 * 1024 * 1024;
 constexpr int kNombreMax = 10000;
 
+/// What a companion need not say is left out where it is not what the contract has.
+QString LisGenre(QJsonValue const& valeur) {
+    static QStringList const genres{QStringLiteral("writer"), QStringLiteral("calc"),
+                                    QStringLiteral("impress"), QStringLiteral("draw"),
+                                    QStringLiteral("texte")};
+    return genres.contains(valeur.toString()) ? valeur.toString() : QString();
+}
+
+QString LisLangue(QJsonValue const& valeur) {
+    static QRegularExpression const etiquette(
+        QStringLiteral("\\A[A-Za-z]{2,8}(-[A-Za-z0-9]{1,8}){0,4}\\z"));
+    return etiquette.match(valeur.toString()).hasMatch() ? valeur.toString() : QString();
+}
+
 bool LisDocument(QString const& instance, QJsonValue const& valeur, DocumentAnnonce& document) {
     QJsonObject const objet = valeur.toObject();
     QJsonValue const id = objet.value(QLatin1String("id"));
     QJsonValue const titre = objet.value(QLatin1String("titre"));
     QJsonValue const chemin = objet.value(QLatin1String("chemin"));
-    document = {id.toString(), titre.toString(), chemin.toString()};
+    document = {id.toString(), titre.toString(), chemin.toString(),
+                LisGenre(objet.value(QLatin1String("genre"))),
+                LisLangue(objet.value(QLatin1String("langue")))};
     return id.isString() && titre.isString() && chemin.isString() &&
            document.id.startsWith(instance + QLatin1Char('~'));
 }

@@ -13,6 +13,8 @@ struct DocumentAnnonce {
     QString id; ///< the whole identifier, INSTANCE~DOCUMENT
     QString titre;
     QString chemin; ///< empty when it has none
+    QString genre;  ///< "writer", "calc", "impress", "draw" or "texte"; empty when not told
+    QString langue; ///< its main language, a BCP 47 tag; empty when not told
 
     /// The companion's part of the identifier.
     QString DonneInstance() const { return id.section(QLatin1Char('~'), 0, 0); }

@@ -60,7 +60,10 @@ class Methodes(Bureau):
     def DonneDocuments(self, _qui):
         suffixe = "!" if self.a("titre-autre") else ""
         return json.dumps([{"id": f"{self.instance}~{d.cle}", "titre": d.titre + suffixe,
-                            "chemin": "/essai/" + d.titre} for d in self.documents])
+                            "chemin": "/essai/" + d.titre,
+                            "genre": "tableau" if self.a("genre-libre") else "texte",
+                            "langue": "français" if self.a("langue-en-mots") else "fr-FR"}
+                           for d in self.documents])
 
     def Enregistre(self, _qui, identifiant):
         document = self.par_identifiant(identifiant)

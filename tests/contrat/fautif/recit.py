@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: MPL-2.0
 """What the small companion has to say of its documents beyond their text, breaches included."""
 
+import json
+
 from .bureau import Refus
 from .methodes import Methodes
 
@@ -36,6 +38,34 @@ class Recit(Methodes):
         if self.a("refus-perdu"):
             self.refus.clear()
         return super().SynchronisePositions(qui, identifiant)
+
+    def ouvert(self, identifiant):
+        document = self.par_identifiant(identifiant)
+        if document is None:
+            raise Refus("DocumentInconnu")
+        return document
+
+    def DonneNomsDeZones(self, qui, identifiant):
+        document = self.ouvert(identifiant)
+        if self.a("noms-nomment"):
+            self.appelant(qui).document = document.cle
+        donnees = self.appelant(qui).croyances.get(document.cle, {})
+        if self.a("noms-pour-tous"):
+            donnees = [zone.nom for zone in document.zones]
+        return json.dumps({nom: "" if self.a("noms-vides") else f"line {rang}"
+                           for rang, nom in enumerate(donnees, 1)})
+
+    def DonneRapport(self, _qui, identifiant):
+        if self.a("rapport-par-defaut") and self.par_identifiant(identifiant) is None:
+            identifiant = f"{self.instance}~{self.documents[0].cle}"
+        document = self.ouvert(identifiant)
+        protegees = sum(zone.protegee for zone in document.zones)
+        return json.dumps({
+            "genre": "texte", "zones": len(document.zones) + self.a("rapport-faux-compte"),
+            "lectureSeule": document.lecture_seule,
+            "laisses": [{"code": "protege", "nombre": protegees,
+                         "phrase": "" if self.a("rapport-muet") else f"{protegees} protected"}]
+            if protegees else []})
 
     def DonneRefus(self, qui, nom):
         donnees = self.appelant(qui).croyances.values()

@@ -13,6 +13,7 @@ ZONES = "The zone document"
 STYLES = "Style bits"
 ERREURS = "Errors"
 ACCORD = "What every companion does alike"
+RECIT = "What it says of a document"
 
 
 class NonEssayee(Exception):

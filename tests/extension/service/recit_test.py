@@ -1,7 +1,12 @@
 # SPDX-License-Identifier: MPL-2.0
-"""What the extension has to say of a document beyond its text: why it refused."""
+"""What the extension has to say of a document beyond its text: what it is, what a person would call
+its zones, why it refused."""
 
 import unittest
+
+import uno  # noqa: F401
+from com.sun.star.awt import Size
+from com.sun.star.lang import Locale
 
 import banc
 import menus
@@ -79,8 +84,146 @@ class Refus(unittest.TestCase):
         self.assertEqual(self.client.refus(zone), ("", ""))
 
 
+class Genre(unittest.TestCase):
+    def vu(self, genre, prepare=lambda doc: None):
+        doc, client = banc.document_et_client(self, BUS, BUREAU, f"private:factory/{genre}")
+        prepare(doc)
+        return next(d for d in client.documents() if d["id"] == client.id)
+
+    def test_each_document_tells_its_kind(self):
+        for genre, attendu in (("swriter", "writer"), ("swriter/web", "writer"), ("scalc", "calc"),
+                               ("simpress", "impress"), ("sdraw", "draw")):
+            with self.subTest(genre=genre):
+                self.assertEqual(self.vu(genre)["genre"], attendu)
+
+    def test_the_language_is_that_of_text_in_no_other(self):
+        def en_style(famille, style):
+            def prepare(doc):
+                doc.StyleFamilies.getByName(famille).getByName(style).CharLocale = Locale(
+                    "fr", "CA", "")
+            return prepare
+        self.assertEqual(self.vu("swriter", en_style("ParagraphStyles", "Standard"))["langue"], "fr-CA")
+        self.assertEqual(self.vu("scalc", en_style("CellStyles", "Default"))["langue"], "fr-CA")
+        self.assertEqual(self.vu("simpress")["langue"], "en-US")
+
+    def test_a_language_without_a_country_or_with_a_script_has_its_own_tag(self):
+        for locale, attendu in ((Locale("eo", "", ""), "eo"),
+                                (Locale("qlt", "RS", "sr-Latn-RS"), "sr-Latn-RS")):
+            def prepare(doc, locale=locale):
+                doc.StyleFamilies.getByName("ParagraphStyles").getByName(
+                    "Standard").CharLocale = locale
+            self.assertEqual(self.vu("swriter", prepare)["langue"], attendu)
+
+    def test_a_language_of_none_is_not_told(self):
+        def prepare(doc):
+            doc.StyleFamilies.getByName("ParagraphStyles").getByName("Standard").CharLocale = Locale(
+                "zxx", "", "")
+        self.assertNotIn("langue", self.vu("swriter", prepare))
+
+
+class Noms(unittest.TestCase):
+    def ouvre(self, genre):
+        self.doc, self.client = banc.document_et_client(self, BUS, BUREAU,
+                                                        f"private:factory/{genre}")
+
+    def forme(self, texte, page, nom=""):
+        forme = self.doc.createInstance("com.sun.star.drawing.RectangleShape")
+        forme.setSize(Size(5000, 2000))
+        page.add(forme)
+        forme.setString(texte)
+        forme.Name = nom
+        return forme
+
+    def test_in_a_text(self):
+        self.ouvre("swriter")
+        e = Ecrivain(self.doc)
+        e.ecrit("un").note("première").Text.setString("une\rdeux")
+        e.paragraphe().ecrit("deux")
+        e.note("finale", service="com.sun.star.text.Endnote")
+        e.met("com.sun.star.text.textfield.Annotation", Content="remarque")
+        cadre = e.cadre("dedans")
+        cadre.Name = "Marge"
+        tableau = e.tableau(1, 2)
+        tableau.Name = "Prix"
+        tableau.getCellByName("B1").setString("x\ry")
+        style = self.doc.StyleFamilies.getByName("PageStyles").getByName("Standard")
+        style.HeaderIsOn = style.FooterIsOn = True
+        textes = dict(zip(self.client.noms_de_zones(), self.client.textes()))
+        self.assertEqual({n: t.replace("\a", "") for n, t in textes.items() if t}, {
+            "paragraph 1": "un", "footnote 1": "une", "footnote 1, paragraph 2": "deux",
+            "paragraph 2": "deux", "endnote 1": "finale", "comment 1": "remarque",
+            "frame “Marge”": "dedans", "table “Prix”, B1": "x",
+            "table “Prix”, B1, paragraph 2": "y"})
+        self.assertLessEqual({"page header", "page footer", "table “Prix”, A1"}, set(textes))
+
+    def test_they_follow_what_a_person_puts_in_before(self):
+        self.ouvre("swriter")
+        e = Ecrivain(self.doc)
+        e.ecrit("un").paragraphe().ecrit("deux").note("note")
+        self.assertEqual(self.client.noms_de_zones(), ["paragraph 1", "paragraph 2", "footnote 1"])
+        self.doc.Text.insertControlCharacter(self.doc.Text.Start, 0, False)
+        avant = self.doc.createInstance("com.sun.star.text.Footnote")
+        self.doc.Text.insertTextContent(self.doc.Text.Start, avant, False)
+        self.assertEqual(self.client.noms_de_zones(),
+                         ["paragraph 1", "footnote 1", "paragraph 2", "paragraph 3", "footnote 2"])
+
+    def test_in_a_spreadsheet(self):
+        self.ouvre("scalc")
+        feuille = self.doc.Sheets.getByIndex(0)
+        feuille.Name = "Été"
+        feuille.getCellRangeByName("A4").setString("un")
+        feuille.getCellRangeByName("AB2").setString("deux\nlignes")
+        feuille.Annotations.insertNew(feuille.getCellRangeByName("A4").CellAddress, "remarque")
+        self.forme("dessin", self.doc.DrawPages.getByIndex(0), "Cadre 7")
+        self.assertEqual(self.client.noms_de_zones(),
+                         ["AB2 (Été)", "AB2 (Été), paragraph 2", "A4 (Été)", "comment of A4 (Été)",
+                          "shape “Cadre 7” (Été)"])
+        feuille.Rows.insertByIndex(0, 1)
+        self.assertEqual(self.client.noms_de_zones()[2], "A5 (Été)")
+
+    def test_on_slides(self):
+        self.ouvre("simpress")
+        pages = self.doc.DrawPages
+        page = pages.getByIndex(0)
+        page.Layout = 1
+        page.getByIndex(0).setString("titre")
+        page.getByIndex(1).setString("un\ndeux")
+        seconde = pages.insertNewByIndex(1)
+        seconde.Layout = 20
+        self.forme("dessin", seconde, "Flèche")
+        page.NotesPage.getByIndex(1).setString("à dire")
+        self.assertEqual(self.client.noms_de_zones(),
+                         ["slide 1, title", "slide 1, shape 2", "slide 1, shape 2, paragraph 2",
+                          "slide 1, notes, shape 1", "slide 2, shape “Flèche”"])
+
+    def test_in_a_drawing(self):
+        self.ouvre("sdraw")
+        self.forme("dessin", self.doc.DrawPages.getByIndex(0))
+        self.assertEqual(self.client.noms_de_zones(), ["page 1, shape 1"])
+
+
+class Rapport(unittest.TestCase):
+    def test_it_tells_kind_language_and_zones(self):
+        doc, client = banc.document_et_client(self, BUS, BUREAU)
+        doc.Text.setString("un\rdeux")
+        client.zones()
+        rapport = client.rapport()
+        self.assertEqual((rapport["genre"], rapport["langue"], rapport["zones"],
+                          rapport["lectureSeule"], rapport["laisses"]),
+                         ("writer", "en-US", 2, False, []))
+
+    def test_it_counts_what_is_protected(self):
+        doc, client = banc.document_et_client(self, BUS, BUREAU)
+        doc.Text.setString("un\rdeux\rtrois\rquatre")
+        Ecrivain(doc).section(3, 13, IsProtected=True)
+        client.zones()
+        self.assertEqual(client.rapport()["laisses"],
+                         [{"code": "protege", "nombre": 2,
+                           "phrase": "2 paragraphs are protected"}])
+
+
 class EnFrancais(unittest.TestCase):
-    def test_the_reason_is_told_in_the_offices_language(self):
+    def test_reasons_names_and_the_report_are_in_the_offices_language(self):
         menus.met_en_francais("profil-fr")
         bus = banc.Bus()
         self.addCleanup(bus.ferme)
@@ -92,6 +235,8 @@ class EnFrancais(unittest.TestCase):
         zone = client.zones()[0]
         client.peut(zone, "chat")
         self.assertEqual(client.refus(zone), ("Protege", "Le texte est protégé"))
+        self.assertEqual(client.noms_de_zones(), ["paragraphe 1"])
+        self.assertEqual(client.rapport()["laisses"][0]["phrase"], "1 paragraphe est protégé")
 
 
 if __name__ == "__main__":

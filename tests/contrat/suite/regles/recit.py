@@ -1,10 +1,17 @@
 # SPDX-License-Identifier: MPL-2.0
 """What a companion has to say of its documents beyond their text, where it offers to."""
 
+import json
+import re
+
 from ..protocole import DOCUMENTS
-from ..registre import ACCORD, NonEssayee, regle
+from ..registre import ACCORD, CONTRAT, RECIT, NonEssayee, regle
 from ..textes import unites
+from .documents import identifiants_inconnus, liste
 from .droit import MOTS, zones_inconnues
+
+GENRES = ("writer", "calc", "impress", "draw", "texte")
+ETIQUETTE = re.compile(r"[A-Za-z]{2,8}(-[A-Za-z0-9]{1,8})*")  # BCP 47, in outline
 
 
 def demande(e, hote, methode: str, *arguments):
@@ -25,6 +32,86 @@ def dit(e, hote, nom: str, code: str) -> None:
     e.egal(code, recu, reponse.appel)
     if bool(phrase.strip()) != bool(code):
         e.constate(f"{reponse.appel} : phrase {phrase!r}", f"{reponse.appel}: sentence {phrase!r}")
+
+
+def objet(e, hote, methode: str, identifiant: str) -> dict:
+    """The JSON object that the method gives of a document."""
+    reponse = demande(e, hote, methode, identifiant)
+    try:
+        assert not reponse.erreur and reponse.est_du_bon_type
+        lu = json.loads(reponse.valeur)
+        assert isinstance(lu, dict)
+        return lu
+    except (AssertionError, ValueError):
+        e.constate(f"{methode} : pas un objet JSON : {reponse}", f"{methode}: no JSON object: {reponse}")
+        return {}
+
+
+def texte_non_vide(valeur) -> bool:
+    return isinstance(valeur, str) and bool(valeur.strip())
+
+
+@regle("documents.genre", CONTRAT,
+       "Le genre d'un document est un de la liste, et sa langue une étiquette BCP 47.",
+       "The kind of a document is one of the list, and its language a BCP 47 tag.")
+def _(e):
+    documents = [d for d in liste(e) if "genre" in d or "langue" in d]
+    if not documents:
+        raise NonEssayee("ce compagnon ne dit ni genre ni langue",
+                         "this companion tells neither kind nor language")
+    for document in documents:
+        genre, langue = document.get("genre", GENRES[0]), document.get("langue", "fr")
+        if genre not in GENRES:
+            e.constate(f"genre {genre!r}", f"kind {genre!r}")
+        if not isinstance(langue, str) or not ETIQUETTE.fullmatch(langue):
+            e.constate(f"langue {langue!r}", f"language {langue!r}")
+
+
+@regle("noms.zones", RECIT,
+       "DonneNomsDeZones nomme des zones que l'appelant a reçues, et elles seules, sans nommer le "
+       "document.",
+       "DonneNomsDeZones names zones that the caller was given, and those alone, without naming the "
+       "document.")
+def _(e):
+    hote = e.hote()
+    e.egal({}, objet(e, hote, "DonneNomsDeZones", e.identifiant), "DonneNomsDeZones")
+    e.refuse("AucunDocument", hote, "DonneTitreDocument")
+    cles = {zone.nom for zone in e.zones(hote)}
+    noms = objet(e, hote, "DonneNomsDeZones", e.identifiant)
+    if cles and not noms:
+        e.constate("aucun nom", "no name at all")
+    for cle, nom in noms.items():
+        if cle not in cles or not texte_non_vide(nom):
+            e.constate(f"zone {cle!r} : {nom!r}", f"zone {cle!r}: {nom!r}")
+    e.egal({}, objet(e, e.hote(), "DonneNomsDeZones", e.identifiant), "DonneNomsDeZones")
+    for identifiant in identifiants_inconnus(e):
+        e.refuse("DocumentInconnu", hote, "DonneNomsDeZones", identifiant, interface=DOCUMENTS)
+
+
+@regle("rapport.forme", RECIT,
+       "DonneRapport dit le genre, le nombre de zones et ce qui est laissé, avec un code, un nombre et "
+       "une phrase.",
+       "DonneRapport tells the kind, the number of zones and what is left out, with a code, a number "
+       "and a sentence.")
+def _(e):
+    hote, zones = e.lie()
+    rapport = objet(e, hote, "DonneRapport", e.identifiant)
+    if rapport.get("genre") not in GENRES:
+        e.constate(f"genre {rapport.get('genre')!r}", f"kind {rapport.get('genre')!r}")
+    e.egal(len(zones), rapport.get("zones"), "zones")
+    if not isinstance(rapport.get("lectureSeule"), bool):
+        e.constate("lectureSeule n'est pas un booléen", "lectureSeule is no boolean")
+    laisses = rapport.get("laisses")
+    if not isinstance(laisses, list):
+        e.constate("laisses n'est pas une liste", "laisses is no array")
+        laisses = []
+    for reste in laisses:
+        if not (isinstance(reste, dict) and texte_non_vide(reste.get("code"))
+                and isinstance(reste.get("nombre"), int) and reste["nombre"] > 0
+                and texte_non_vide(reste.get("phrase"))):
+            e.constate(f"laisses : {reste!r}", f"laisses: {reste!r}")
+    for identifiant in identifiants_inconnus(e):
+        e.refuse("DocumentInconnu", hote, "DonneRapport", identifiant, interface=DOCUMENTS)
 
 
 @regle("refus.raison", ACCORD,

@@ -26,6 +26,22 @@ TEST(ListeDocuments, DocumentsComeInTheOrderOfTheAnswer) {
     EXPECT_TRUE(liste.avertissements.empty());
 }
 
+TEST(ListeDocuments, KindAndLanguageAreReadWhereTheyAreToldAndWhatTheContractHas) {
+    auto const liste = Lis(
+        R"([{"id":"A~1","titre":"","chemin":"","genre":"writer","langue":"zh-Hant-TW"},
+            {"id":"A~2","titre":"","chemin":"","genre":"roman","langue":"fr\u001b[2J"},
+            {"id":"A~3","titre":"","chemin":"","genre":7,"langue":["fr"]},
+            {"id":"A~4","titre":"","chemin":"","langue":"x"}])");
+    ASSERT_EQ(liste.documents.size(), 4U);
+    EXPECT_EQ(liste.documents[0].genre, QStringLiteral("writer"));
+    EXPECT_EQ(liste.documents[0].langue, QStringLiteral("zh-Hant-TW"));
+    for (int i : {1, 2, 3}) {
+        EXPECT_EQ(liste.documents[i].genre, QString()) << i;
+        EXPECT_EQ(liste.documents[i].langue, QString()) << i;
+    }
+    EXPECT_TRUE(liste.avertissements.empty());
+}
+
 TEST(ListeDocuments, NoDocumentIsNoFault) {
     EXPECT_TRUE(Lis("[]").documents.empty());
     EXPECT_TRUE(Lis("[]").avertissements.empty());

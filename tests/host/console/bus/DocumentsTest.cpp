@@ -57,12 +57,13 @@ TEST_F(HostDocuments, DocumentsOfAllCompanionsAreListedWithTitleAndPath) {
     EXPECT_EQ(fin.code, 0);
     EXPECT_EQ(Ids(fin), "deux~doc1 un~doc1 un~doc2");
     QJsonObject const document = fin.Json().array().at(1).toObject();
-    EXPECT_EQ(document.keys(), (QStringList{QStringLiteral("chemin"), QStringLiteral("id"),
-                                            QStringLiteral("titre")}));
+    EXPECT_EQ(document.keys(), (QStringList{QStringLiteral("chemin"), QStringLiteral("genre"),
+                                            QStringLiteral("id"), QStringLiteral("titre")}));
     EXPECT_EQ(document.value(QLatin1String("titre")).toString(), Q("é \"x\".txt"));
     EXPECT_EQ(document.value(QLatin1String("chemin")).toString(), Q(un.Chemin().string()));
     Fin const texte = LanceHote({QStringLiteral("documents")});
-    EXPECT_TRUE(texte.sortie.contains(("un~doc2  deux.txt  " + un.Chemin(1).string()).c_str()))
+    EXPECT_TRUE(
+        texte.sortie.contains(("un~doc2  deux.txt  " + un.Chemin(1).string() + "  [text]").c_str()))
         << texte.sortie.toStdString();
 }
 

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include <com/sun/star/lang/Locale.hpp>
+
+#include <string>
+
+namespace extension {
+
+/// The office's name of a language as a BCP 47 tag; empty for none, and for "not to be proofed".
+/// Any thread.
+std::string EtiquetteDeLangue(css::lang::Locale const& langue);
+
+} // namespace extension
