@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "PlagesDeStyle.h"
 
+#include "Langues.h"
+
 #include <algorithm>
 
 namespace compagnon {
@@ -51,6 +53,17 @@ void PlagesDeStyle::Remplace(Intervalle plage, std::size_t longueur) {
                      ancienne->style);
     }
     plages_ = std::move(suite.plages_);
+}
+
+std::vector<PlageDeStyle> RelativesA(std::uint8_t principale,
+                                     std::vector<PlageDeStyle> const& plages) {
+    PlagesDeStyle relatives;
+    for (PlageDeStyle const& plage : plages) {
+        bool const estPrincipale = contrat::DonneNumeroDuStyle(plage.style) == principale;
+        relatives.Ajoute(plage.debut, plage.fin,
+                         estPrincipale ? plage.style & ~contrat::kMasqueLangue : plage.style);
+    }
+    return relatives.Donne();
 }
 
 } // namespace compagnon

@@ -35,4 +35,9 @@ class PlagesDeStyle {
     std::vector<PlageDeStyle> plages_;
 };
 
+/// Runs whose languages are numbered for themselves, with 0 in place of the number `principale`, as
+/// they travel. In order, merged, as above.
+std::vector<PlageDeStyle> RelativesA(std::uint8_t principale,
+                                     std::vector<PlageDeStyle> const& plages);
+
 } // namespace compagnon

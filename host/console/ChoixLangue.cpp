@@ -53,7 +53,10 @@ ChoixLangue ChoisisLangue(std::vector<QString> const& textes) {
     }
     // A text that does not tell is taken for one in the person's own language.
     auto const langue = detecteur.DonneLangue().value_or(DonneLangueAffichage());
-    return {std::move(langue == Langue::Francais ? francais.lexique : anglais.lexique), true};
+    if (langue == Langue::Anglais) {
+        std::swap(francais, anglais);
+    }
+    return {std::move(francais.lexique), true, std::move(anglais.lexique)};
 }
 
 std::string DonneNomLangue(Langue langue) {

@@ -8,6 +8,7 @@
 #include "ExecuteSurGreffon.h"
 #include "InterlocuteurRegle.h"
 #include "InterlocuteurTerminal.h"
+#include "commun/ErreurHote.h"
 #include "commun/MessagesHote.h"
 #include "correction/Correcteur.h"
 #include "greffon/LocaliseGreffon.h"
@@ -29,7 +30,7 @@ class Seance {
   public:
     Seance(OptionsHote const& options, std::unique_ptr<Lexique> lexique, Greffon const& greffon)
         : options_(options)
-        , choix_{std::move(lexique), false}
+        , choix_{std::move(lexique), false, nullptr}
         , id_(options.id.isEmpty() ? ChoisisDocument() : options.id)
         , document_(greffon, id_)
         , titre_(document_.DonneTitre())
@@ -45,7 +46,8 @@ class Seance {
             choix_ = ChoisisLangue(document_.DonneTextes());
         }
         Annonce();
-        Orthographe const orthographe(*choix_.lexique);
+        Orthographe const orthographe(*choix_.lexique,
+                                      [this](Langue langue) { return TrouveAutre(langue); });
         Progression progression;
         Bilan const bilan = Corrige(orthographe, progression);
         progression.Efface();
@@ -60,6 +62,20 @@ class Seance {
     }
 
   private:
+    /// The dictionary of a language that parts of the document say they are in; null, and said
+    /// once, where there is none: the host knows two languages, so that there is one other.
+    Lexique* TrouveAutre(Langue langue) {
+        if (!choix_.autre && !autreManque_) {
+            try {
+                choix_.autre = OuvreDictionnaire(langue);
+            } catch (ErreurHote const& erreur) {
+                autreManque_ = true;
+                Avertis(erreur.what());
+            }
+        }
+        return choix_.autre.get();
+    }
+
     void Annonce() {
         if (options_.json) {
             return;
@@ -94,6 +110,7 @@ class Seance {
 
     OptionsHote const& options_;
     ChoixLangue choix_;
+    bool autreManque_ = false;
     QString id_;
     Document document_;
     QString titre_;

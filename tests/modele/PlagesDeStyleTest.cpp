@@ -46,6 +46,17 @@ TEST(StyleRuns, NeighboursThatTouchAndAreEqualBecomeOne) {
     EXPECT_EQ(plages.Donne(), (std::vector<PlageDeStyle>{{0, 5, 1}, {5, 6, 2}, {8, 9, 2}}));
 }
 
+TEST(StyleRuns, InTheMainLanguageLoseItsNumberAndOthersKeepTheirs) {
+    constexpr std::uint16_t kUn = 1 << 8;
+    constexpr std::uint16_t kDeux = 2 << 8;
+    std::vector<PlageDeStyle> const plages{{0, 3, kUn}, {3, 5, kUn | 1}, {5, 6, kDeux | 1},
+                                           {6, 8, 1},   {8, 9, kUn | 1}, {9, 11, kUn}};
+    EXPECT_EQ(compagnon::RelativesA(1, plages),
+              (std::vector<PlageDeStyle>{{3, 5, 1}, {5, 6, kDeux | 1}, {6, 9, 1}}));
+    EXPECT_EQ(compagnon::RelativesA(0, plages), plages);
+    EXPECT_TRUE(compagnon::RelativesA(1, {{0, 3, kUn}}).empty());
+}
+
 TEST(StyleRuns, EmptyOnesAndThoseWithoutStyleAddNothing) {
     PlagesDeStyle plages;
     EXPECT_TRUE(plages.Ajoute(4, 4, 1));

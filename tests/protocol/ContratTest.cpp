@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Contrat.h"
+#include "Langues.h"
 
 #include <gtest/gtest.h>
 
@@ -7,6 +8,7 @@
 #include <iterator>
 #include <set>
 #include <string>
+#include <utility>
 
 using contrat::PlageDeStyle;
 
@@ -69,4 +71,46 @@ TEST(Contract, TheReadmeTellsEveryErrorInTheSameOrderAndTheirPrefix) {
         ASSERT_NE(suivante, std::string::npos) << nommee.nom;
         place = suivante;
     }
+}
+
+TEST(Languages, StandInTheFileForOthersAsInTheHeader) {
+    std::string const json = Lis("langues.json");
+    std::string attendu;
+    int numero = 0;
+    for (contrat::LangueNumerotee const& langue : contrat::kLangues) {
+        EXPECT_EQ(langue.numero, ++numero) << langue.etiquette;
+        attendu += attendu.empty() ? "\n    " : ",\n    ";
+        attendu += "{\"numero\": " + std::to_string(langue.numero) + ", \"etiquette\": \"" +
+                   langue.etiquette + "\"}";
+    }
+    EXPECT_LT(numero, int{contrat::kAutreLangue});
+    EXPECT_NE(json.find("\"autre\": " + std::to_string(contrat::kAutreLangue)), std::string::npos);
+    EXPECT_NE(json.find("\"langues\": [" + attendu + "\n  ]"), std::string::npos);
+}
+
+TEST(Languages, KeepTheNumbersThatTheyOnceHad) {
+    for (auto const& [etiquette, numero] :
+         {std::pair{"fr", 1}, {"en", 5}, {"de", 11}, {"zh-TW", 82}, {"dv", 150}}) {
+        EXPECT_EQ(int{contrat::DonneNumeroDeLangue(etiquette)}, numero) << etiquette;
+    }
+}
+
+TEST(Languages, ATagIsThatOfTheTableThatStartsIt) {
+    auto const etiquette = [](char const* tag) {
+        return std::string(contrat::DonneEtiquetteDeLangue(contrat::DonneNumeroDeLangue(tag)));
+    };
+    EXPECT_EQ(etiquette("en-GB"), "en-GB");
+    EXPECT_EQ(etiquette("EN-gb-oed"), "en-GB");
+    EXPECT_EQ(etiquette("fr-FR"), "fr");
+    EXPECT_EQ(etiquette("sr-Latn-RS"), "sr-Latn");
+    EXPECT_EQ(etiquette("ca-ES"), "ca");
+    EXPECT_EQ(etiquette("ca-ES-valencia"), "ca-ES-valencia");
+    EXPECT_EQ(contrat::DonneNumeroDeLangue(""), 0);
+    EXPECT_EQ(contrat::DonneNumeroDeLangue("tlh-Latn"), contrat::kAutreLangue);
+    EXPECT_EQ(contrat::DonneNumeroDeLangue("f"), contrat::kAutreLangue);
+    EXPECT_EQ(contrat::DonneNumeroDeLangue("fran\xC3\xA7"
+                                           "ais"),
+              contrat::kAutreLangue);
+    EXPECT_EQ(contrat::DonneEtiquetteDeLangue(0), "");
+    EXPECT_EQ(contrat::DonneEtiquetteDeLangue(contrat::kAutreLangue), "");
 }

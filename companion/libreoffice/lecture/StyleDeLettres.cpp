@@ -2,7 +2,9 @@
 #include "StyleDeLettres.h"
 
 #include "Ecritures.h"
+#include "Langues.h"
 #include "commun/ChainesUno.h"
+#include "commun/Langue.h"
 
 #include <com/sun/star/awt/FontSlant.hpp>
 #include <com/sun/star/awt/FontStrikeout.hpp>
@@ -55,8 +57,10 @@ std::uint16_t StyleDeLettres(uno::Any const* valeurs) {
         style |= nombre > 0 ? contrat::kStyleExposant : contrat::kStyleIndice;
     }
     lang::Locale langue;
-    if ((valeurs[kLangue] >>= langue) && langue.Language == "zxx") {
-        style |= contrat::kStyleSansCorrection;
+    if (valeurs[kLangue] >>= langue) {
+        bool const aucune = langue.Language == "zxx";
+        style |= aucune ? std::uint16_t{contrat::kStyleSansCorrection}
+                        : contrat::DonneStyleDeLangue(NumeroDeLangue(langue));
     }
     return style;
 }

@@ -32,7 +32,8 @@ enum ProprieteDeLettres {
 /// Their names in the office. Main thread, as all of these.
 css::uno::Sequence<rtl::OUString> NomsDesProprietesDeLettres();
 
-/// The style bits (protocol/README.md) that their values mean for letters of Latin script.
+/// The style (protocol/README.md) that their values mean for letters of Latin script, with the
+/// number of their language whichever the document's main one is.
 std::uint16_t StyleDeLettres(css::uno::Any const* valeurs);
 
 /// The style bits of a text in one format, whose values those are: weight, posture and language are

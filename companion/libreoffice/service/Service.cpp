@@ -2,6 +2,7 @@
 #include "Service.h"
 
 #include "Correction.h"
+#include "Langues.h"
 #include "RaisonDeRefuser.h"
 #include "RapportSur.h"
 #include "commun/ErreurEnCours.h"
@@ -143,6 +144,7 @@ std::string Service::SynchronisePositions(std::string const& appelant, std::stri
         appelants_.DonneDonne(appelant, document->DonneCle());
     compagnon::DocumentDonne donne;
     compagnon::EcrivainZones ecrivain;
+    std::uint8_t const principale = contrat::DonneNumeroDeLangue(document->DonneLangue());
     if (avant) {
         ecrivain.Prevois(avant->taille + avant->taille / 16);
         donne.zones.reserve(avant->zones.size());
@@ -150,7 +152,8 @@ std::string Service::SynchronisePositions(std::string const& appelant, std::stri
     document->Parcours([&](ZoneLue const& lue) {
         std::string const& cle = lue.zone->DonneCle();
         std::u16string const& texte = lue.plan.DonneTexte();
-        ecrivain.Ajoute(cle, texte, lue.selection.value_or(Intervalle()), lue.plan.DonneStyles());
+        ecrivain.Ajoute(cle, texte, lue.selection.value_or(Intervalle()),
+                        compagnon::RelativesA(principale, lue.plan.DonneStyles()));
         compagnon::TexteSuivi& croyance = donne.zones[cle];
         // Most often the same zones again with the same texts: those are taken over as they are.
         if (avant) {

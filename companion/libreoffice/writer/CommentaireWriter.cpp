@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "CommentaireWriter.h"
 
+#include "Langues.h"
 #include "commun/ChainesUno.h"
 #include "document/SelectionDuBureau.h"
 
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/text/XTextContent.hpp>
 
+#include <algorithm>
 #include <utility>
 
 using namespace com::sun::star;
@@ -14,6 +16,14 @@ using namespace com::sun::star;
 namespace extension {
 
 namespace {
+
+/// Has any letter a format? A language is none.
+bool AUnFormat(compagnon::PlanDePortions const& plan) {
+    return std::any_of(plan.DonneStyles().begin(), plan.DonneStyles().end(),
+                       [](compagnon::PlageDeStyle const& plage) {
+                           return (plage.style & ~contrat::kMasqueLangue) != 0;
+                       });
+}
 
 class Commentaire : public TexteDessine {
   public:
@@ -31,7 +41,7 @@ class Commentaire : public TexteDessine {
         std::u16string tout;
         for (std::size_t i = 0; i < lus.size(); ++i) {
             compagnon::PlanDePortions const& plan = lus[i].plan;
-            if (plan.DonnePortions().size() > 1 || !plan.DonneStyles().empty()) {
+            if (plan.DonnePortions().size() > 1 || AUnFormat(plan)) {
                 return false;
             }
             std::u16string paragraphe =

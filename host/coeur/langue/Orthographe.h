@@ -7,6 +7,9 @@
 
 #include <QString>
 
+#include <functional>
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace hote {
@@ -16,21 +19,25 @@ namespace hote {
 struct Faute {
     int debut;
     int fin;
-    QString mot; ///< the units of the range, as they stand
+    QString mot;                                 ///< the units of the range, as they stand
+    std::optional<Langue> langue = std::nullopt; ///< that its text says it is in, another than most
 };
 
-/// Finds the misspelt words of a text with one dictionary. Stateless but for the dictionary's own
-/// memory; the dictionary must outlive it.
+/// Finds the misspelt words of a text. Stateless but for the dictionaries' own memory; they must
+/// outlive it.
 class Orthographe {
   public:
     using Plages = std::vector<sdd::PlageAttribut>;
+    /// The dictionary of a language other than most of the text is in; null where there is none.
+    using AutreLexique = std::function<Lexique*(Langue)>;
 
-    explicit Orthographe(Lexique& lexique)
-        : lexique_(lexique) {}
+    explicit Orthographe(Lexique& lexique, AutreLexique autre = nullptr)
+        : principal_(lexique)
+        , autre_(std::move(autre)) {}
 
     /// The mistakes of `texte`, in order. Words that touch a run whose style says "not to be
-    /// proofed" are passed over. Of a word with an elision or hyphens, only the wrong part is
-    /// reported where the parts can stand alone.
+    /// proofed", or that is in a language without a dictionary, are passed over. Of a word with an
+    /// elision or hyphens, only the wrong part is reported where the parts can stand alone.
     std::vector<Faute> Cherche(QString const& texte, Plages const& plages) const;
 
     /// What may stand in the place of a mistake, best first; with the typographic apostrophe
@@ -41,12 +48,12 @@ class Orthographe {
     static bool AUneApostropheCourbe(QString const& texte);
 
   private:
-    void Juge(QString const& texte, int debut, int fin, std::vector<Faute>& fautes) const;
-    bool Connait(QString const& texte, int debut, int fin) const;
-    int SauteElision(QString const& texte, int debut, int fin) const;
-    int OtePossessif(QString const& texte, int debut, int fin) const;
+    Lexique* TrouveLexique(std::optional<Langue> langue) const;
+    static void Juge(Lexique& lexique, QString const& texte, int debut, int fin,
+                     std::vector<Faute>& fautes);
 
-    Lexique& lexique_;
+    Lexique& principal_;
+    AutreLexique autre_;
 };
 
 } // namespace hote

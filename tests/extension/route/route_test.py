@@ -4,6 +4,9 @@
 import unittest
 import zipfile
 
+import uno  # noqa: F401
+from com.sun.star.lang import Locale
+
 import banc
 from ecrivain import Ecrivain
 from hote import Hote, Pilote
@@ -128,6 +131,15 @@ class Correction(Cas):
         pilote.corrige(0, "chat", "chien", zones)
         self.assertEqual([z["texte"] for z in pilote.zones()], ["un loup noir"])
         self.assertEqual(self.doc.Text.String, "un loup noir")
+
+    def test_parts_in_another_language_are_checked_in_it_or_left_alone(self):
+        self.doc.StyleFamilies.getByName("ParagraphStyles").getByName(
+            "Standard").CharLocale = Locale("fr", "FR", "")
+        self.e.ecrit("Un acceuil : ").ecrit("we recieve them", CharLocale=Locale("en", "GB", ""))
+        self.e.ecrit(" ; ", CharLocale=Locale("fr", "FR", ""))
+        self.e.ecrit("das Fenstre", CharLocale=Locale("de", "DE", ""))
+        HOTE.corrige(HOTE.identifiant(self.doc.getTitle()))
+        self.assertEqual(self.doc.Text.String, "Un accueil : we receive them ; das Fenstre")
 
     def test_a_protected_section_is_refused_and_the_rest_corrected(self):
         self.e.ecrit("bel acceuil").paragraphe().ecrit("bel acceuil").paragraphe().ecrit("acceuil")

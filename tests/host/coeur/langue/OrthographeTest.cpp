@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "langue/Orthographe.h"
+#include "Langues.h"
 #include "LexiqueFaux.h"
 
 #include <gtest/gtest.h>
@@ -30,6 +31,11 @@ class OrthographeFrancaise : public ::testing::Test {
                          {S("le"), S("chat"), S("école"), S("il"), S("va"), S("homme"), S("maison"),
                           S("aujourd'hui"), S("peut-être"), S("arc"), S("ciel"), S("en")}};
 };
+
+/// Style runs: [debut, fin) in the language of that tag.
+sdd::PlageAttribut EnLangue(int debut, int fin, char const* etiquette) {
+    return {debut, fin, contrat::DonneStyleDeLangue(contrat::DonneNumeroDeLangue(etiquette))};
+}
 
 class OrthographeAnglaise : public ::testing::Test {
   protected:
@@ -99,4 +105,49 @@ TEST_F(OrthographeAnglaise, APossessiveIsJudgedByItsOwner) {
 
 TEST_F(OrthographeAnglaise, ElisionsAreFrenchOnly) {
     EXPECT_EQ(Orthographe(lexique_).Cherche(S("d'the"), {}).size(), 1U);
+}
+
+class OrthographeDesDeux : public OrthographeFrancaise {
+  protected:
+    /// What is wrong, with the language that it was found wrong in; "the le " is a text of both.
+    std::string Fautes(char const* utf8, Orthographe::Plages const& plages, bool anglaisLa = true) {
+        QStringList mots;
+        Orthographe const orthographe(lexique_, [&](Langue langue) -> hote::Lexique* {
+            EXPECT_EQ(langue, Langue::Anglais);
+            return anglaisLa ? &anglais_ : nullptr;
+        });
+        for (Faute const& faute : orthographe.Cherche(S(utf8), plages)) {
+            mots.append(faute.mot + (faute.langue ? QStringLiteral("(en)") : QString()));
+        }
+        return mots.join(QLatin1Char(' ')).toStdString();
+    }
+
+    LexiqueFaux anglais_{Langue::Anglais, {S("the"), S("dog"), S("don't")}};
+};
+
+TEST_F(OrthographeDesDeux, WordsOfARunInTheOtherLanguageAreJudgedInIt) {
+    EXPECT_EQ(Fautes("le dog the chat", {}), "dog the");
+    EXPECT_EQ(Fautes("le dog the chat", {EnLangue(3, 10, "en-GB")}), "");
+    EXPECT_EQ(Fautes("le chat the dgo", {EnLangue(3, 15, "en")}), "chat(en) dgo(en)");
+}
+
+TEST_F(OrthographeDesDeux, ARunInTheTextsOwnLanguageIsJudgedAsTheRest) {
+    EXPECT_EQ(Fautes("le chta", {EnLangue(0, 7, "fr-CA")}), "chta");
+}
+
+TEST_F(OrthographeDesDeux, ARunInALanguageWithoutADictionaryIsNotJudged) {
+    EXPECT_EQ(Fautes("le hund chta", {EnLangue(3, 7, "de-AT")}), "chta");
+    EXPECT_EQ(Fautes("le hund chta", {EnLangue(3, 7, "tlh")}), "chta");
+    EXPECT_EQ(Fautes("le dgo chta", {EnLangue(3, 6, "en")}, false), "chta");
+    EXPECT_EQ(Fautes("le hund chta", {{3, 7, 254U << 8U}}), "chta") << "one that came later";
+}
+
+TEST_F(OrthographeDesDeux, AWordThatIsInTwoLanguagesIsNotJudged) {
+    EXPECT_EQ(Fautes("le chtadgo", {EnLangue(3, 7, "fr"), EnLangue(7, 10, "en")}), "");
+}
+
+TEST_F(OrthographeDesDeux, SuggestionsAreThoseOfTheLanguageOfTheMistake) {
+    Orthographe const orthographe(lexique_, [&](Langue) -> hote::Lexique* { return &anglais_; });
+    anglais_.suggestions[S("dgo")] = QStringList{S("dog")};
+    EXPECT_EQ(orthographe.Suggere({0, 3, S("dgo"), Langue::Anglais}, false), QStringList{S("dog")});
 }
