@@ -203,6 +203,17 @@ class FinDeSuite(Cas):
         self.corrige(3)
         self.verifie(premier, SUITE)
 
+    def test_nor_those_that_stand_last_once_a_run_was_undone(self):
+        self.fais(self.ecris)
+        ecrit = self.lu()
+        [premier] = self.titres()
+        self.corrige(3)
+        self.fais(self.pile.undo)
+        self.corrige(3)
+        self.verifie(premier, SUITE)
+        self.fais(self.pile.undo)
+        self.assertEqual(self.lu(), ecrit)
+
     def test_reading_asking_and_refusals_do_not_end_it(self):
         self.corrige(3)
         zone = next(z for z in self.client.zones() if z.texte)
