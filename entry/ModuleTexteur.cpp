@@ -6,6 +6,7 @@
 #include "InitialisationGenerale.h"
 #include "PrefsGeneralesQt.h"
 #include "StockageReponse.h"
+#include "pont/ConnexionSession.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -34,6 +35,7 @@ UniChaine DonneCheminReglages() {
 }
 
 void InitialiseModule() {
+    connexionSession::RetiensQtDBus();
     PrefsGeneralesQt const prefs(DonneCheminReglages(), kPrefsGenDirect, kPrefsGenLecture,
                                  QSettings::NativeFormat);
     auto const affichage =
@@ -66,6 +68,7 @@ void LibereReponsesEtConvertisseur() {
 }
 
 void LibereModule() {
+    connexionSession::Ferme();
     LibereReponsesEtConvertisseur();
     delete DonneApplicationDuModule().data();
 }

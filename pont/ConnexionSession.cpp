@@ -2,9 +2,9 @@
 #include "ConnexionSession.h"
 
 #include "Contrat.h"
+#include "QuestionAuBus.h"
+#include "SondeDuBus.h"
 #include "UniChaine.h"
-
-#include <QDBusConnection>
 
 #include <dlfcn.h>
 
@@ -13,9 +13,59 @@ namespace {
 // One message at the limit, and one being read.
 constexpr long kReceptionMax = 2 * long{contrat::kLimiteMessage};
 
+/// QtDBus's name for the connection that it shares. Looked up by it, that is not made.
+QString DonneNomPartage() {
+    return QStringLiteral("qt_default_session_bus");
+}
+
+QString DonneNomPropre() {
+    return QStringLiteral("vocalyne-texteur");
+}
+
+QDBusConnection DonneMorte() {
+    return QDBusConnection(QString());
+}
+
+/// A connection anew: QtDBus's own if it has not tried yet, else the plug-in's.
+QDBusConnection Connecte() {
+    if (QDBusConnection(DonneNomPartage()).name().isEmpty()) {
+        return QDBusConnection::sessionBus();
+    }
+    QDBusConnection::disconnectFromBus(DonneNomPropre());
+    return QDBusConnection::connectToBus(QDBusConnection::SessionBus, DonneNomPropre());
+}
+
 } // namespace
 
 namespace connexionSession {
+
+QDBusConnection Ouvre(std::chrono::milliseconds delai) {
+    for (auto const& nom : {DonneNomPartage(), DonneNomPropre()}) {
+        QDBusConnection bus(nom);
+        if (bus.isConnected()) {
+            // A proxy asks the bus something as it is made, and waits for it without a limit.
+            auto const reponse = questionAuBus::Demande(bus, QStringLiteral("GetId"), {}, delai);
+            if (bus.isConnected()) {
+                return reponse ? bus : DonneMorte();
+            }
+        }
+    }
+    if (!sondeDuBus::Repond(sondeDuBus::DonneAdresse(), delai)) {
+        return DonneMorte();
+    }
+    auto const bus = Connecte();
+    AccepteGrandesReponses(bus);
+    return bus;
+}
+
+void RetiensQtDBus() {
+    // The reference is never given back, on purpose.
+    dlopen("libQt5DBus.so.5", RTLD_LAZY | RTLD_NOLOAD | RTLD_NODELETE);
+}
+
+void Ferme() {
+    QDBusConnection::disconnectFromBus(DonneNomPropre());
+}
 
 void AccepteGrandesReponses(QDBusConnection const& bus) {
     // QtDBus offers the connection but not this setting, and has the library loaded already: it is

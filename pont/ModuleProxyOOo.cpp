@@ -14,6 +14,14 @@
 
 namespace {
 
+using std::chrono::milliseconds;
+
+/// For the first connection: a bus may be starting, or the machine be busy.
+constexpr milliseconds kDelaiConnexion{10'000};
+/// For another one in the midst of an operation, on top of its own time-out: a bus that is well
+/// answers within one.
+constexpr milliseconds kDelaiReprise{100};
+
 void AlerteExtensionRequise() {
     auto const titre = _Tr(domaineTexteur, "Extension LibreOffice", nullptr);
     auto const message = _Tr(domaineTexteur,
@@ -30,17 +38,34 @@ ModuleProxyOOo::ModuleProxyOOo(UniChaine const& identificateur)
     if (!connexionSession::PeutVoyager(identificateur)) {
         return;
     }
-    auto const bus = QDBusConnection::sessionBus();
-    connexionSession::AccepteGrandesReponses(bus);
     IdentificateurDocument const id(identificateur);
-    proxy_ = std::make_unique<VocalyneOpenOfficeProxyQDBUS>(id.DonneService(), id.DonneChemin(),
-                                                            bus, nullptr);
+    proxy_ = std::make_unique<VocalyneOpenOfficeProxyQDBUS>(
+        id.DonneService(), id.DonneChemin(), connexionSession::Ouvre(kDelaiConnexion), nullptr);
 }
 
 ModuleProxyOOo::~ModuleProxyOOo() = default;
 
 void ModuleProxyOOo::LibereProxy() {
     proxy_.reset();
+}
+
+bool ModuleProxyOOo::Relie() {
+    if (!proxy_ || reponseProxy::EstConnecte(*proxy_)) {
+        return proxy_ != nullptr;
+    }
+    auto const bus = connexionSession::Ouvre(kDelaiReprise);
+    if (bus.isConnected()) {
+        auto nouveau = std::make_unique<VocalyneOpenOfficeProxyQDBUS>(proxy_->service(),
+                                                                      proxy_->path(), bus, nullptr);
+        nouveau->setTimeout(proxy_->timeout());
+        proxy_.release()->setParent(nouveau.get());
+        proxy_ = std::move(nouveau);
+        // The companion knows callers by their connection: this one has named no document yet.
+        IdentificateurDocument const id(DonneIdentificateur());
+        reponseProxy::Envoie(*proxy_,
+                             [&] { return proxy_->InitialiseTexteur(id.DonneDocument()); });
+    }
+    return true;
 }
 
 bool ModuleProxyOOo::EstLie() {
@@ -53,7 +78,7 @@ bool ModuleProxyOOo::InitialiseTexteur(UniChaine const& classe, UniChaine& /*mes
         AlerteExtensionRequise();
         return false;
     }
-    if (!proxy_) {
+    if (!Relie()) {
         return false;
     }
     IdentificateurDocument const id(DonneIdentificateur());
@@ -62,7 +87,7 @@ bool ModuleProxyOOo::InitialiseTexteur(UniChaine const& classe, UniChaine& /*mes
 }
 
 bool ModuleProxyOOo::DocEstMort() {
-    if (!proxy_) {
+    if (!Relie()) {
         return true;
     }
     IdentificateurDocument const id(DonneIdentificateur());
@@ -71,45 +96,44 @@ bool ModuleProxyOOo::DocEstMort() {
 }
 
 void ModuleProxyOOo::InitialisePour(int mode) {
-    if (!proxy_) {
+    if (!Relie()) {
         return;
     }
     if (mode == 0) {
-        proxy_->InitialisePourCorrecteur();
+        reponseProxy::Envoie(*proxy_, [&] { return proxy_->InitialisePourCorrecteur(); });
     } else {
-        proxy_->InitialisePourOutils(mode == 1);
+        reponseProxy::Envoie(*proxy_, [&] { return proxy_->InitialisePourOutils(mode == 1); });
     }
 }
 
 void ModuleProxyOOo::ActivePour(int mode) {
-    if (!proxy_) {
+    if (!Relie()) {
         return;
     }
     if (mode == 0) {
-        proxy_->ActivePourCorrecteur();
+        reponseProxy::Envoie(*proxy_, [&] { return proxy_->ActivePourCorrecteur(); });
     } else if (mode == 1 || mode == 2) {
-        proxy_->ActivePourOutils();
+        reponseProxy::Envoie(*proxy_, [&] { return proxy_->ActivePourOutils(); });
     }
 }
 
 void ModuleProxyOOo::RompsLienCorrecteur() {
-    if (proxy_) {
-        proxy_->RompsLienCorrecteur();
+    if (Relie()) {
+        reponseProxy::Envoie(*proxy_, [&] { return proxy_->RompsLienCorrecteur(); });
     }
 }
 
 void ModuleProxyOOo::RompsLienTexteur() {
-    if (proxy_) {
-        proxy_->RompsLienTexteur();
+    if (Relie()) {
+        reponseProxy::Envoie(*proxy_, [&] { return proxy_->RompsLienTexteur(); });
     }
 }
 
 void ModuleProxyOOo::Suspends() {
-    if (!proxy_) {
-        return;
-    }
     try {
-        proxy_->Suspends();
+        if (Relie()) {
+            reponseProxy::Envoie(*proxy_, [&] { return proxy_->Suspends(); });
+        }
     } catch (...) { // NOLINT(bugprone-empty-catch): suspension never fails towards the host
     }
 }

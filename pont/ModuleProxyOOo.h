@@ -14,14 +14,18 @@ class VocalyneOpenOfficeProxyQDBUS;
 /// It holds no text and no state of the link: every answer comes from the companion at the moment
 /// it is asked. A call that waits blocks the host's thread, at most for the time-out named below
 /// (25 s where none is); whatever goes wrong reads as the neutral value. A call that does not wait
-/// is sent and forgotten. Nothing is retried.
+/// is sent and forgotten. Nothing is retried. Where the bus went away and another has come in its
+/// place, the next operation goes there; zones from before are dead, and the document has to be
+/// synchronised anew.
 class ModuleProxyOOo : public virtual ImplAgentTexteur {
   public:
     /// Binds to the companion named by the instance part of `identificateur` ("instance~document").
-    /// Calls nothing on it and does not test whether it is there. An instance part that no bus name
-    /// can hold makes every call fail at once. An identifier that the bus would change on the way
-    /// (U+0000, half of a surrogate pair) could name another document: the agent has no proxy, so
-    /// nothing is ever sent and it cannot be initialised.
+    /// Calls nothing on it and does not test whether it is there. Where the process has no
+    /// connection to the session bus yet it is made; a bus that does not answer is waited for 10 s
+    /// at most, and the agent is then without a bus. An instance part that no bus name can hold
+    /// makes every call fail at once. An identifier that the bus would change on the way (U+0000,
+    /// half of a surrogate pair) could name another document: the agent has no proxy, so nothing is
+    /// ever sent and it cannot be initialised.
     explicit ModuleProxyOOo(UniChaine const& identificateur);
     /// Sends nothing: breaking the links is the host's explicit request.
     ~ModuleProxyOOo() override;
@@ -90,6 +94,10 @@ class ModuleProxyOOo : public virtual ImplAgentTexteur {
     VocalyneOpenOfficeProxyQDBUS* DonneProxy() const noexcept { return proxy_.get(); }
 
   private:
+    /// Is there a proxy? One whose bus went away is replaced where there is a bus again; zones may
+    /// still point to it, so it lives on, owned by the new one.
+    bool Relie();
+
     std::unique_ptr<VocalyneOpenOfficeProxyQDBUS> proxy_;
     std::list<void*> listeReservee_; ///< kept for the host's layout; never filled
 };

@@ -16,11 +16,11 @@ UniChaine LisTexte(VocalyneOpenOfficeProxyQDBUS& proxy, QDBusPendingCall const& 
 } // namespace
 
 UniChaine ModuleProxyOOo::DonneCheminDocument() {
-    return proxy_ ? LisTexte(*proxy_, proxy_->DonneCheminDocument()) : UniChaine();
+    return Relie() ? LisTexte(*proxy_, proxy_->DonneCheminDocument()) : UniChaine();
 }
 
 UniChaine ModuleProxyOOo::DonneTitreDocument() {
-    return proxy_ ? LisTexte(*proxy_, proxy_->DonneTitreDocument()) : UniChaine();
+    return Relie() ? LisTexte(*proxy_, proxy_->DonneTitreDocument()) : UniChaine();
 }
 
 UniChaine ModuleProxyOOo::DonneNomApplication() {
@@ -33,7 +33,7 @@ UniChaine ModuleProxyOOo::DonneFinDeParagraphe() {
 }
 
 bool ModuleProxyOOo::SynchronisePositions(CollectionZonesDeTexte& zones) {
-    if (!proxy_) {
+    if (!Relie()) {
         return false;
     }
     std::string octets;
@@ -51,18 +51,19 @@ bool ModuleProxyOOo::SynchronisePositions(CollectionZonesDeTexte& zones) {
 }
 
 bool ModuleProxyOOo::PermetsRetourDeCharriot() {
-    return proxy_ && reponseProxy::Lis<bool>(*proxy_, proxy_->PermetsRetourDeCharriot());
+    return Relie() && reponseProxy::Lis<bool>(*proxy_, proxy_->PermetsRetourDeCharriot());
 }
 
 int ModuleProxyOOo::AjusteSelectionPourOutils(int debut, int fin) {
-    if (proxy_) {
-        proxy_->AjusteSelectionPourOutils(debut, fin);
+    if (Relie()) {
+        reponseProxy::Envoie(*proxy_,
+                             [&] { return proxy_->AjusteSelectionPourOutils(debut, fin); });
     }
     return 0;
 }
 
 UniChaine ModuleProxyOOo::DonneContexte(int* debut, int* fin) {
-    if (!proxy_) {
+    if (!Relie()) {
         return {};
     }
     auto texte = DonneContexteSelection();
@@ -72,7 +73,7 @@ UniChaine ModuleProxyOOo::DonneContexte(int* debut, int* fin) {
 }
 
 int ModuleProxyOOo::RemplaceEtReselectionne(UniChaine const& texte) {
-    if (!proxy_ || !connexionSession::PeutVoyager(texte)) {
+    if (!Relie() || !connexionSession::PeutVoyager(texte)) {
         return 0;
     }
     bool const envoye = reponseProxy::Envoie(

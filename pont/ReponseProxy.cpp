@@ -2,74 +2,58 @@
 #include "ReponseProxy.h"
 
 #include "Contrat.h"
+#include "QuestionAuBus.h"
 
+#include <QCoreApplication>
 #include <QDBusAbstractInterface>
 #include <QDBusConnection>
 #include <QDBusError>
+#include <QDBusServiceWatcher>
+#include <QEvent>
 
 #include <algorithm>
 #include <chrono>
-#include <thread>
 
 namespace {
 
 using Horloge = std::chrono::steady_clock;
-using std::chrono::microseconds;
 using std::chrono::milliseconds;
 
 constexpr milliseconds kDelaiParDefaut{contrat::kDelaiOrdinaireMs};
 constexpr char const* kPropriete = "vocalyneProprietaire";
 
-/// Waits for the end of a call. QtDBus' own wait has no limit of its own and does not end when the
-/// bus goes away, so the call is looked at again and again: at once at first, then after pauses
-/// that grow with the time waited, so that they never add more than a sixteenth to it. The bus is
-/// looked at only from then on: that takes the lock under which the reply would come in.
-bool AttendsLaFin(QDBusConnection const& bus, QDBusPendingCall const& appel, milliseconds delai) {
-    constexpr microseconds kSansPause{1000};
-    constexpr microseconds kPauseMax{5000};
-    auto const depart = Horloge::now();
-    while (!appel.isFinished()) {
-        auto const attendu = std::chrono::duration_cast<microseconds>(Horloge::now() - depart);
-        if (attendu < kSansPause) {
-            std::this_thread::yield();
-            continue;
-        }
-        if (attendu >= delai || !bus.isConnected()) {
-            return appel.isFinished();
-        }
-        std::this_thread::sleep_for(std::min(attendu / 16, kPauseMax));
+/// Watches who owns the proxy's service, on behalf of the memory of it, which is a property of the
+/// proxy: a word of the bus that the owner has changed empties that. Made when the owner is first
+/// asked for, and before: what the bus says later than its answer comes in later, too.
+void SuisLeNom(QDBusAbstractInterface& proxy) {
+    auto const nom = QLatin1String(kPropriete);
+    auto* guet = proxy.findChild<QDBusServiceWatcher*>(nom, Qt::FindDirectChildrenOnly);
+    if (guet == nullptr) {
+        guet = new QDBusServiceWatcher(proxy.service(), proxy.connection(),
+                                       QDBusServiceWatcher::WatchForOwnerChange, &proxy);
+        guet->setObjectName(nom);
+        QObject::connect(guet, &QDBusServiceWatcher::serviceOwnerChanged, guet,
+                         [&proxy] { proxy.setProperty(kPropriete, QString()); });
     }
-    return true;
+    // QtDBus hands such words over to this thread as events, and nobody runs its loop while the
+    // host is in here. (It takes them from the bus alone, not from whoever sends the like.)
+    QCoreApplication::sendPostedEvents(guet, QEvent::MetaCall);
 }
 
-/// The unique name that owns the service now; empty when nobody does or the bus does not say.
-QString DemandeProprietaire(QDBusConnection const& bus, QString const& service,
-                            milliseconds delai) {
-    auto const nomDuBus = QStringLiteral("org.freedesktop.DBus");
-    auto demande = QDBusMessage::createMethodCall(nomDuBus, QStringLiteral("/org/freedesktop/DBus"),
-                                                  nomDuBus, QStringLiteral("GetNameOwner"));
-    demande << service;
-    auto const appel = bus.asyncCall(demande, static_cast<int>(delai.count()));
-    if (!AttendsLaFin(bus, appel, delai) || !appel.isValid()) {
-        return {};
-    }
-    // The bus itself is the only one that can sign with its name.
-    auto const reponse = appel.reply();
-    return reponse.service() == nomDuBus ? reponse.arguments().value(0).toString() : QString();
-}
-
-/// Is the sender the owner of the proxy's service? The owner is remembered with the proxy and asked
-/// for only when a reply comes from someone else: at first, and when the companion was started
-/// anew.
+/// Is the sender the owner of the proxy's service? The bus is asked where a reply comes from
+/// someone else than the owner that is remembered: at first, and when the name has changed hands.
 bool VientDuCompagnon(QDBusAbstractInterface& proxy, QString const& expediteur,
                       milliseconds delai) {
     if (expediteur.isEmpty()) {
         return false;
     }
+    SuisLeNom(proxy);
     if (proxy.property(kPropriete).toString() == expediteur) {
         return true;
     }
-    auto const proprietaire = DemandeProprietaire(proxy.connection(), proxy.service(), delai);
+    auto const reponse = questionAuBus::Demande(proxy.connection(), QStringLiteral("GetNameOwner"),
+                                                {proxy.service()}, delai);
+    auto const proprietaire = reponse.value_or(QVariant()).toString();
     proxy.setProperty(kPropriete, proprietaire);
     return proprietaire == expediteur;
 }
@@ -81,7 +65,7 @@ namespace reponseProxy {
 bool Attends(QDBusAbstractInterface& proxy, QDBusPendingCall const& appel) {
     auto const delai = proxy.timeout() < 0 ? kDelaiParDefaut : milliseconds(proxy.timeout());
     auto const depart = Horloge::now();
-    if (!AttendsLaFin(proxy.connection(), appel, delai) || !appel.isValid()) {
+    if (!questionAuBus::AttendsLaFin(proxy.connection(), appel, delai) || !appel.isValid()) {
         return false;
     }
     // Asking for the owner may take what is left of the time, not as much again.

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
+#include "EnvoisEnCours.h"
+
 #include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
 #include <QMetaType>
 #include <QVariant>
-
-class QDBusAbstractInterface;
 
 /// The one place where a pending reply of the companion becomes a value.
 ///
@@ -55,10 +55,16 @@ bool EstConnecte(QDBusAbstractInterface const& proxy);
 bool EstPartie(QDBusPendingCall const& appel);
 
 /// Sends what nobody waits for: `appelle` makes the call. True once its message is queued on a
-/// connected bus; what becomes of it is never looked at. Without a connection nothing is called.
+/// connected bus; what becomes of it is never looked at. Without a connection, and where too many
+/// are on their way already (`EnvoisEnCours.h`), nothing is called.
 template <class Appel>
-bool Envoie(QDBusAbstractInterface const& proxy, Appel const& appelle) {
-    return EstConnecte(proxy) && EstPartie(appelle());
+bool Envoie(QDBusAbstractInterface& proxy, Appel const& appelle) {
+    if (!EstConnecte(proxy) || !envoisEnCours::FaisPlace(proxy)) {
+        return false;
+    }
+    QDBusPendingCall const appel = appelle();
+    envoisEnCours::Retiens(proxy, appel);
+    return EstPartie(appel);
 }
 
 } // namespace reponseProxy

@@ -10,6 +10,9 @@ namespace banc {
 /// A waited call through the agent over QtDBus' bare one on the same proxy.
 LigneDeMesure MesureAttente(Ampleur ampleur);
 
+/// A call that nobody waits for and nobody answers, among many over among few.
+LigneDeMesure MesureOublies(Ampleur ampleur);
+
 /// A reply's string to zones, freed, over JsonCpp's parse and destruction alone.
 LigneDeMesure MesureLecture(Ampleur ampleur);
 

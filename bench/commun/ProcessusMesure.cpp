@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 
+#include <csignal>
 #include <stdexcept>
 
 namespace banc {
@@ -22,11 +23,19 @@ Processus::Processus(QString const& programme, QStringList const& arguments) {
 }
 
 Processus::~Processus() {
+    if (estFige_) {
+        processus_.kill();
+    }
     processus_.closeWriteChannel();
     if (!processus_.waitForFinished(kPatience)) {
         processus_.kill();
         processus_.waitForFinished(kPatience);
     }
+}
+
+void Processus::Fige() {
+    ::kill(static_cast<pid_t>(processus_.processId()), SIGSTOP);
+    estFige_ = true;
 }
 
 QString Processus::LisLigne() {

@@ -19,11 +19,15 @@ class Processus {
     /// Its next line. Throws std::runtime_error when it ends without one.
     QString LisLigne();
 
+    /// Stops it where it stands: it answers nothing any more. Its holder ends it all the same.
+    void Fige();
+
     /// This program again.
     static QString Soi();
 
   private:
     QProcess processus_;
+    bool estFige_ = false;
 };
 
 } // namespace banc

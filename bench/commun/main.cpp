@@ -34,6 +34,7 @@ struct Mesure {
 std::vector<Mesure> Mesures(QString const& greffon) {
     auto const dossier = QCoreApplication::applicationDirPath();
     return {{"attente", banc::MesureAttente},
+            {"oublies", banc::MesureOublies},
             {"lecture", banc::MesureLecture},
             {"croissance", banc::MesureCroissance},
             {"memoire", banc::MesureMemoire},
@@ -80,8 +81,8 @@ int Execute(QCoreApplication const& application) {
         QStringLiteral("greffon"), QStringLiteral("The plug-in to load."), QStringLiteral("FILE"));
     QCommandLineOption const seulement(
         QStringLiteral("seulement"),
-        QStringLiteral("Take this one: attente, lecture, croissance, memoire, attributs, "
-                       "chargement. May be given again."),
+        QStringLiteral("Take this one: attente, oublies, lecture, croissance, memoire, "
+                       "attributs, chargement. May be given again."),
         QStringLiteral("MEASURE"));
     QCommandLineOption repondeur(QStringLiteral("repondeur"), {}, QStringLiteral("INSTANCE"));
     QCommandLineOption lecteur(QStringLiteral("lecteur"), {}, QStringLiteral("INSTANCE"));

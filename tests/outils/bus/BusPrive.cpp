@@ -38,6 +38,18 @@ std::string Reglages(std::string const& dossier) {
 } // namespace
 
 BusPrive::BusPrive() {
+    Commence();
+    if (char const* const avant = std::getenv(kVariable)) {
+        adresseAvant_ = avant;
+    }
+    ::setenv(kVariable, adresse_.c_str(), 1);
+}
+
+void BusPrive::Recommence() {
+    Commence();
+}
+
+void BusPrive::Commence() {
     std::string const reglages =
         dossier_.Ecris("session.conf", Reglages(dossier_.Chemin().string())).string();
     demon_ = std::make_unique<Processus>(
@@ -47,11 +59,7 @@ BusPrive::BusPrive() {
     if (!adresse || adresse->empty()) {
         throw std::runtime_error("the private bus did not start: " + demon_->Erreurs());
     }
-    adresse_ = *adresse;
-    if (char const* const avant = std::getenv(kVariable)) {
-        adresseAvant_ = avant;
-    }
-    ::setenv(kVariable, adresse_.c_str(), 1);
+    adresse_ = adresse->substr(0, adresse->find(",guid="));
 }
 
 BusPrive::~BusPrive() {

@@ -9,6 +9,7 @@
 #include <string>
 
 /// A session bus of the test's own, with the stock session bus's limits and nothing to activate.
+/// Its address does not tell which bus it is: another may come in its place, as a login's.
 /// DBUS_SESSION_BUS_ADDRESS points to it while it lives, and is put back then. Make it before
 /// anything in the process looks for the session bus.
 class BusPrive {
@@ -25,11 +26,15 @@ class BusPrive {
     /// it is gone.
     void Arrete();
     void Tue();
+    /// Another bus at the same address, where the one before has ended.
+    void Recommence();
     /// Stopped, it keeps all connections and answers nothing; then it goes on.
     void Fige();
     void Degele();
 
   private:
+    void Commence();
+
     DossierTemporaire dossier_;
     std::unique_ptr<Processus> demon_;
     std::string adresse_;

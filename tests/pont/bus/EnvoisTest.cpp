@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 // What a call that nobody waits for answers: whether it was sent, whatever comes back.
 #include "AgentDeTest.h"
+#include "EnvoisEnCours.h"
 #include "ReponseProxy.h"
 #include "ZoneDeTexteOOoProxy.h"
 #include "outils/bus/BureauDeTest.h"
@@ -62,6 +63,30 @@ TEST_F(BridgeSends, WhatTheBusAnswersForACompanionThatIsGoneIsNoFailureToSend) {
         EXPECT_TRUE(zone.SelectionneIntervalle(0, 1)) << i;
         EXPECT_EQ(personne.RemplaceEtReselectionne(Uc("mot")), 3) << i;
     }
+}
+
+TEST_F(BridgeSends, ToACompanionThatAnswersNothingNoMoreLeavesThanItMayBeBehindWith) {
+    bureau.DonneCommande().Deregle("*", "muet");
+    auto zone = Grande();
+    for (int i = 0; i < envoisEnCours::kMax; ++i) {
+        ASSERT_TRUE(zone.SelectionneIntervalle(0, 1)) << i;
+    }
+    for (int i = 0; i < 20000; ++i) {
+        ASSERT_FALSE(zone.SelectionneIntervalle(0, 1)) << i;
+    }
+    EXPECT_EQ(agent.RemplaceEtReselectionne(Uc("mot")), 0);
+    AgentDeTest autre(bureau.Identifiant());
+    EXPECT_EQ(autre.RemplaceEtReselectionne(Uc("mot")), 3) << "another agent has its own";
+}
+
+TEST_F(BridgeSends, WhoIsOnlySlowGetsThemAll) {
+    constexpr int kNombre = 3 * envoisEnCours::kMax;
+    ASSERT_TRUE(agent.Initialise());
+    auto zone = Grande();
+    for (int i = 0; i < kNombre; ++i) {
+        ASSERT_TRUE(zone.SelectionneIntervalle(0, 1)) << i;
+    }
+    bureau.DonneCommande().AttendsAppels("SelectionneIntervalle", kNombre);
 }
 
 TEST_F(BridgeSends, NothingLeavesUnderNamesThatNoBusCanHaveOrOverABusThatIsGone) {

@@ -1,13 +1,28 @@
 // SPDX-License-Identifier: MPL-2.0
 // Any process of the user can answer a call that another was asked: the number is all it takes.
-#include "Faussaire.h"
+#include "outils/bus/Faussaire.h"
 #include "AgentDeTest.h"
 #include "outils/bus/BureauDeTest.h"
 #include "outils/bus/BusPrive.h"
+#include "outils/bus/LienBus.h"
+
+#include <QDBusConnectionInterface>
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <thread>
+
 namespace {
+
+/// Waits until the name has an owner, or has none.
+void AttendsNom(QDBusConnection const& bus, QString const& service, bool possede) {
+    auto const echeance = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+    while (bus.interface()->isServiceRegistered(service).value() != possede) {
+        ASSERT_LT(std::chrono::steady_clock::now(), echeance) << service.toStdString();
+        std::this_thread::yield();
+    }
+}
 
 class BridgeAndAForger : public testing::Test {
   protected:
@@ -53,4 +68,43 @@ TEST_F(BridgeAndAForger, AForgedYesIsNoYesEvenBeforeTheOwnerIsKnown) {
     }
     bureau.DonneCommande().Retablis();
     EXPECT_TRUE(agent.Initialise());
+}
+
+TEST_F(BridgeAndAForger, AFormerOwnerOfTheNameIsNotBelievedAnyMore) {
+    auto const service = QStringLiteral("com.ombrel.vocalyne.texteurs.OpenOffice.place");
+    LienBus const temoin(service, QStringLiteral("/"), QString());
+    AgentDeTest invite("place~doc1");
+    Faussaire faussaire(bus.Adresse(), "DonneTitreDocument", Faussaire::Reponse::Texte);
+    faussaire.PrendsLeNom(service.toStdString());
+    AttendsNom(temoin.Connexion(), service, true);
+    EXPECT_EQ(S(invite.DonneTitreDocument()), "forged") << "it is the companion now";
+    EXPECT_EQ(S(invite.DonneTitreDocument()), "forged");
+
+    faussaire.LaisseLeNom(service.toStdString());
+    AttendsNom(temoin.Connexion(), service, false);
+    // Whoever has the name now says nothing: another forger, of a method that nobody calls.
+    Faussaire muet(bus.Adresse(), "Rien", Faussaire::Reponse::Vrai);
+    muet.PrendsLeNom(service.toStdString());
+    AttendsNom(temoin.Connexion(), service, true);
+    constexpr int kFois = 100;
+    int const avant = faussaire.DonneNombre();
+    for (int i = 0; i < kFois; ++i) {
+        EXPECT_EQ(S(invite.DonneTitreDocument()), "") << i;
+    }
+    EXPECT_EQ(faussaire.DonneNombre() - avant, kFois);
+}
+
+TEST_F(BridgeAndAForger, ANameThatComesBackToItsFirstOwnerIsItsAgain) {
+    auto const service = QStringLiteral("com.ombrel.vocalyne.texteurs.OpenOffice.place");
+    LienBus const temoin(service, QStringLiteral("/"), QString());
+    AgentDeTest invite("place~doc1");
+    Faussaire compagnon(bus.Adresse(), "DonneTitreDocument", Faussaire::Reponse::Texte);
+    for (int tour = 0; tour < 3; ++tour) {
+        compagnon.PrendsLeNom(service.toStdString());
+        AttendsNom(temoin.Connexion(), service, true);
+        EXPECT_EQ(S(invite.DonneTitreDocument()), "forged") << tour;
+        compagnon.LaisseLeNom(service.toStdString());
+        AttendsNom(temoin.Connexion(), service, false);
+        EXPECT_EQ(S(invite.DonneTitreDocument()), "") << tour;
+    }
 }

@@ -31,6 +31,29 @@ Faussaire::~Faussaire() {
     dbus_connection_unref(connexion_);
 }
 
+void Faussaire::PrendsLeNom(std::string const& service) {
+    Envoie("RequestName", service);
+}
+
+void Faussaire::LaisseLeNom(std::string const& service) {
+    Envoie("ReleaseName", service);
+}
+
+void Faussaire::Envoie(char const* methode, std::string const& service) {
+    auto* const appel = dbus_message_new_method_call(DBUS_SERVICE_DBUS, DBUS_PATH_DBUS,
+                                                     DBUS_INTERFACE_DBUS, methode);
+    char const* const nom = service.c_str();
+    dbus_uint32_t const sansAttendre = DBUS_NAME_FLAG_DO_NOT_QUEUE;
+    dbus_message_append_args(appel, DBUS_TYPE_STRING, &nom, DBUS_TYPE_INVALID);
+    if (std::string(methode) == "RequestName") {
+        dbus_message_append_args(appel, DBUS_TYPE_UINT32, &sansAttendre, DBUS_TYPE_INVALID);
+    }
+    dbus_message_set_no_reply(appel, 1);
+    dbus_connection_send(connexion_, appel, nullptr);
+    dbus_connection_flush(connexion_);
+    dbus_message_unref(appel);
+}
+
 void Faussaire::Ecoute() {
     constexpr int kTourMs = 20; // how long the end may have to wait
     while (!fini_ && dbus_connection_read_write(connexion_, kTourMs) != 0) {
@@ -46,9 +69,12 @@ void Faussaire::Ecoute() {
 
 void Faussaire::Reponds(DBusMessage* appel) {
     auto* const reponse = dbus_message_new_method_return(appel);
-    char const* const texte = "forged";
+    std::string const objet = dbus_message_get_path(appel);
+    auto const liste = R"([{"id": ")" + objet.substr(objet.rfind('/') + 1) +
+                       R"(~forged", "titre": "forged", "chemin": ""}])";
+    char const* const texte = reponse_ == Reponse::Documents ? liste.c_str() : "forged";
     dbus_bool_t const vrai = 1;
-    if (reponse_ == Reponse::Texte) {
+    if (reponse_ != Reponse::Vrai) {
         dbus_message_append_args(reponse, DBUS_TYPE_STRING, &texte, DBUS_TYPE_INVALID);
     } else {
         dbus_message_append_args(reponse, DBUS_TYPE_BOOLEAN, &vrai, DBUS_TYPE_INVALID);

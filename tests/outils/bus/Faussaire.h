@@ -12,17 +12,24 @@ struct DBusMessage;
 /// whoever was asked, with the call's own number. Stands ready from its construction on.
 class Faussaire {
   public:
-    enum class Reponse { Texte, Vrai };
+    /// A text; true; the list of one document, of whichever companion was asked.
+    enum class Reponse { Texte, Vrai, Documents };
 
     Faussaire(std::string const& adresse, std::string methode, Reponse reponse);
     ~Faussaire();
     Faussaire(Faussaire const&) = delete;
     Faussaire& operator=(Faussaire const&) = delete;
 
+    /// Asks the bus for a name, or gives it back; does not wait until it is so. As its owner it
+    /// answers in nobody's place.
+    void PrendsLeNom(std::string const& service);
+    void LaisseLeNom(std::string const& service);
+
     /// How many forged answers have left.
     int DonneNombre() const noexcept { return nombre_; }
 
   private:
+    void Envoie(char const* methode, std::string const& service);
     void Ecoute();
     void Reponds(DBusMessage* appel);
 
