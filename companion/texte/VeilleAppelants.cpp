@@ -23,18 +23,26 @@ void VeilleAppelants::Surveille(QString const& nomUnique) {
         return;
     }
     guetteur_.addWatchedService(nomUnique);
-    // It may have left before the watch began.
-    QDBusMessage question = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameHasOwner"));
+    VerifieQuIlEstLa(nomUnique);
+}
+
+// It may have left before the watch began.
+void VeilleAppelants::VerifieQuIlEstLa(QString const& nomUnique) {
+    auto const nomDuBus = QStringLiteral("org.freedesktop.DBus");
+    QDBusMessage question =
+        QDBusMessage::createMethodCall(nomDuBus, QStringLiteral("/org/freedesktop/DBus"), nomDuBus,
+                                       QStringLiteral("NameHasOwner"));
     question.setArguments({nomUnique});
     auto* const reponse = new QDBusPendingCallWatcher(connexion_.asyncCall(question), this);
-    connect(reponse, &QDBusPendingCallWatcher::finished, this, [this, reponse, nomUnique] {
+    connect(reponse, &QDBusPendingCallWatcher::finished, this, [=] {
+        reponse->deleteLater();
+        auto const expediteur = reponse->reply().service();
         QDBusPendingReply<bool> const existe = *reponse;
-        if (existe.isValid() && !existe.value()) {
+        if (!expediteur.isEmpty() && expediteur != nomDuBus) {
+            VerifieQuIlEstLa(nomUnique); // somebody answered in the bus's place
+        } else if (existe.isValid() && !existe.value()) {
             EstParti(nomUnique);
         }
-        reponse->deleteLater();
     });
 }
 

@@ -25,6 +25,7 @@ class VeilleAppelants : public QObject {
     void DernierParti();
 
   private:
+    void VerifieQuIlEstLa(QString const& nomUnique);
     void EstParti(QString const& nomUnique);
 
     QDBusConnection connexion_;

@@ -2,19 +2,16 @@
 #include "EnumereDocuments.h"
 
 #include "Contrat.h"
-#include "ProxyDocuments.h"
+#include "Questions.h"
 #include "commun/ErreurHote.h"
 #include "commun/MessagesHote.h"
 
 #include <QDBusConnection>
+#include <QDBusError>
 #include <QDBusMessage>
-#include <QDBusPendingReply>
 #include <QElapsedTimer>
-#include <QEventLoop>
-#include <QTimer>
 
 #include <algorithm>
-#include <memory>
 
 namespace hote {
 
@@ -42,63 +39,66 @@ class ConnexionPrivee {
     QDBusConnection bus_;
 };
 
-/// Lets events run until all calls are answered or the time is up. (Blocking on a reply would be
-/// simpler, but that wait does not end when the bus itself dies.)
-void Attends(std::vector<QDBusPendingCall> const& appels, int delaiMs) {
-    QEventLoop boucle;
-    std::vector<std::unique_ptr<QDBusPendingCallWatcher>> guetteurs;
-    std::size_t restants = 0;
-    for (QDBusPendingCall const& appel : appels) {
-        if (appel.isFinished()) {
-            continue;
-        }
-        ++restants;
-        guetteurs.push_back(std::make_unique<QDBusPendingCallWatcher>(appel));
-        QObject::connect(guetteurs.back().get(), &QDBusPendingCallWatcher::finished, &boucle, [&] {
-            if (--restants == 0) {
-                boucle.quit();
-            }
-        });
-    }
-    if (restants == 0) {
-        return;
-    }
-    QTimer minuterie;
-    QObject::connect(&minuterie, &QTimer::timeout, &boucle, &QEventLoop::quit);
-    minuterie.start(std::max(delaiMs, 0));
-    boucle.exec();
-}
-
-ErreurHote DonneErreurSansBus(QString const& raison) {
+ErreurHote DonneErreurSansBus(std::string const& raison) {
     return {kSortieDocument, Tr("Pas de bus de session D-Bus ({1}).", raison)};
 }
 
-QStringList DonneServices(QDBusConnection const& bus, int delaiMs) {
-    QDBusMessage const demande = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("ListNames"));
-    QDBusPendingReply<QStringList> const reponse = bus.asyncCall(demande, delaiMs);
-    Attends({reponse}, delaiMs);
-    if (!reponse.isFinished()) {
-        throw DonneErreurSansBus(QString::fromStdString(Tr("il ne répond pas")));
-    }
-    if (reponse.isError()) {
-        throw DonneErreurSansBus(reponse.error().message());
-    }
-    QStringList services = reponse.value();
-    services.sort();
-    return services;
+void AvertisUsurpation(QString const& instance, ListeDocuments& liste) {
+    liste.avertissements.push_back(
+        Tr("Un autre programme répond à la place du compagnon {1} : ses documents manquent.",
+           instance));
 }
 
-void Recueille(QString const& instance, QDBusPendingReply<QString> const& reponse,
-               ListeDocuments& liste) {
-    if (!reponse.isFinished()) {
+/// A companion by its name on the bus, and whoever has that now.
+struct Compagnon {
+    QString instance;
+    QString proprietaire;
+};
+
+std::vector<Compagnon> DonneCompagnons(QDBusConnection const& bus, int delaiMs,
+                                       ListeDocuments& liste) {
+    auto const noms = Pose(bus, {QuestionAuBus(QStringLiteral("ListNames"))}, delaiMs).front();
+    if (noms.genre == Reponse::Genre::Usurpee) {
+        throw DonneErreurSansBus(Tr("un autre programme répond à sa place"));
+    }
+    if (noms.genre == Reponse::Genre::Muette) {
+        throw DonneErreurSansBus(Tr("il ne répond pas"));
+    }
+    if (noms.message.type() == QDBusMessage::ErrorMessage) {
+        throw DonneErreurSansBus(noms.message.errorMessage().toStdString());
+    }
+    QStringList services = noms.message.arguments().value(0).toStringList();
+    services.sort();
+    std::vector<Compagnon> compagnons;
+    std::vector<QDBusMessage> questions;
+    for (QString const& service : services) {
+        QString const instance = DonneInstance(service);
+        if (!instance.isEmpty()) {
+            compagnons.push_back({instance, {}});
+            questions.push_back(QuestionAuBus(QStringLiteral("GetNameOwner"), {service}));
+        }
+    }
+    auto const reponses = Pose(bus, questions, delaiMs);
+    for (std::size_t i = 0; i < compagnons.size(); ++i) {
+        // Without an owner it has left meanwhile, and is none any more.
+        compagnons[i].proprietaire = reponses[i].message.arguments().value(0).toString();
+        if (reponses[i].genre == Reponse::Genre::Usurpee) {
+            AvertisUsurpation(compagnons[i].instance, liste);
+        }
+    }
+    return compagnons;
+}
+
+void Recueille(QString const& instance, Reponse const& reponse, ListeDocuments& liste) {
+    if (reponse.genre == Reponse::Genre::Usurpee) {
+        AvertisUsurpation(instance, liste);
+    } else if (reponse.genre == Reponse::Genre::Muette) {
         liste.avertissements.push_back(Tr("Le compagnon {1} ne répond pas.", instance));
-    } else if (reponse.isError()) {
+    } else if (reponse.message.type() == QDBusMessage::ErrorMessage) {
         liste.avertissements.push_back(Tr("Le compagnon {1} ne donne pas ses documents : {2}",
-                                          instance, reponse.error().message()));
+                                          instance, reponse.message.errorMessage()));
     } else {
-        LisDocuments(instance, reponse.value(), liste);
+        LisDocuments(instance, reponse.message.arguments().value(0).toString(), liste);
     }
 }
 
@@ -119,27 +119,23 @@ ListeDocuments EnumereDocuments(int delaiMs) {
     ConnexionPrivee const connexion;
     QDBusConnection const& bus = connexion.Donne();
     if (!bus.isConnected()) {
-        throw DonneErreurSansBus(bus.lastError().message());
+        throw DonneErreurSansBus(bus.lastError().message().toStdString());
     }
-
-    QStringList instances;
-    std::vector<std::unique_ptr<ProxyDocuments>> proxys;
-    std::vector<QDBusPendingCall> appels;
-    for (QString const& service : DonneServices(bus, delaiMs)) {
-        QString const instance = DonneInstance(service);
-        if (instance.isEmpty()) {
-            continue;
-        }
-        proxys.push_back(std::make_unique<ProxyDocuments>(
-            service, QLatin1String(contrat::kPrefixeChemin) + instance, bus));
-        instances.append(instance);
-        appels.push_back(proxys.back()->DonneDocuments());
-    }
-    Attends(appels, reste());
 
     ListeDocuments liste;
-    for (int i = 0; i < instances.size(); ++i) {
-        Recueille(instances.at(i), appels[static_cast<std::size_t>(i)], liste);
+    auto compagnons = DonneCompagnons(bus, reste(), liste);
+    compagnons.erase(std::remove_if(compagnons.begin(), compagnons.end(),
+                                    [](auto const& c) { return c.proprietaire.isEmpty(); }),
+                     compagnons.end());
+    std::vector<QDBusMessage> questions;
+    for (Compagnon const& compagnon : compagnons) {
+        questions.push_back(QDBusMessage::createMethodCall(
+            compagnon.proprietaire, QLatin1String(contrat::kPrefixeChemin) + compagnon.instance,
+            QLatin1String(contrat::kInterfaceDocuments), QStringLiteral("DonneDocuments")));
+    }
+    auto const reponses = Pose(bus, questions, reste());
+    for (std::size_t i = 0; i < compagnons.size(); ++i) {
+        Recueille(compagnons[i].instance, reponses[i], liste);
     }
     return liste;
 }

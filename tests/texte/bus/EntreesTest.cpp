@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
+#include "outils/bus/Arroseur.h"
 #include "outils/bus/BureauDeTest.h"
 #include "outils/bus/BusPrive.h"
 #include "outils/bus/ClientBureau.h"
@@ -98,6 +99,15 @@ TEST_F(BadInput, WrongOptionsShowTheUsageAndEndWithTwo) {
     }
 }
 
+TEST_F(BadInput, NamesAreToldWithoutWhatSteersATerminalOrHides) {
+    EXPECT_EQ(Lance({"/nulle/\x1b[2Jpart\xE2\x80\xAEtxt.exe\n\xC2\x9B"
+                     "31m\xFF"}),
+              1);
+    EXPECT_TRUE(
+        Dit("/nulle/<U+001B>[2Jpart<U+202E>txt.exe<U+000A><U+009B>31m\xEF\xBF\xBD: no such"))
+        << erreurs;
+}
+
 TEST_F(BadInput, HelpAndVersionGoToStandardOutputAndNeedNoBus) {
     bus.Tue();
     EXPECT_EQ(Lance({"--help"}), 0);
@@ -134,6 +144,15 @@ TEST_F(BadInput, AnInstanceThatIsTakenIsRefusedAndItsOwnerUndisturbed) {
     ClientBureau const client("moi");
     client.Initialise("doc1");
     EXPECT_EQ(client.Texte("DonneTitreDocument"), "a.txt");
+}
+
+TEST_F(BadInput, AnswersThatTheBusHasNotGivenKeepNoOfficeFromStarting) {
+    Arroseur const arroseur(bus.Adresse());
+    for (int i = 0; i < 20; ++i) {
+        BureauTexte const bureau({{"a.txt", "a"}}, {"--instance", "moi"});
+        EXPECT_EQ(bureau.Identifiant(), "moi~doc1");
+    }
+    EXPECT_GT(arroseur.DonneNombre(), 20);
 }
 
 TEST_F(BadInput, TwoOfficesOnOneBusHaveInstancesOfTheirOwn) {

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "CompagnonHostile.h"
 #include "Hote.h"
+#include "outils/bus/Arroseur.h"
 #include "outils/bus/BureauDeTest.h"
 #include "outils/bus/BusPrive.h"
+#include "outils/bus/Faussaire.h"
 
 #include <QCoreApplication>
 #include <QDBusMessage>
@@ -172,4 +174,35 @@ TEST_F(HostDocuments, ABusThatDiesMidwayEndsTheListing) {
     Fin const fin = Documents();
     EXPECT_EQ(fin.code, 0);
     EXPECT_TRUE(fin.erreurs.contains("companion complice "));
+}
+
+TEST_F(HostDocuments, WhoAnswersInACompanionsPlaceIsNotBelievedAndToldOf) {
+    CompagnonHostile const muet(QStringLiteral("muet"), CompagnonHostile::Muet());
+    BureauDeTest bureau({{"a.txt", "a\n"}}, {"--instance", "sain"});
+    Faussaire const faussaire(bus_.Adresse(), "DonneDocuments", Faussaire::Reponse::Documents);
+    Fin const fin = Documents();
+    EXPECT_GE(faussaire.DonneNombre(), 2);
+    EXPECT_TRUE(fin.erreurs.contains("Another program answers in place of companion muet"))
+        << fin.erreurs.toStdString();
+    // The other's own answer may be in first: both are quick.
+    EXPECT_TRUE(Ids(fin) == "sain~doc1" ||
+                fin.erreurs.contains("Another program answers in place of companion sain"))
+        << fin.sortie.toStdString() << fin.erreurs.toStdString();
+}
+
+TEST_F(HostDocuments, AnswersThatNobodyAskedForAreNotBelieved) {
+    BureauDeTest bureau({{"a.txt", "a\n"}}, {"--instance", "sain"});
+    Arroseur const arroseur(bus_.Adresse());
+    constexpr int kFois = 20;
+    for (int i = 0; i < kFois; ++i) {
+        Fin const fin = Documents();
+        if (fin.code == 0) {
+            EXPECT_TRUE(Ids(fin) == "sain~doc1" || fin.erreurs.contains("Another program answers"))
+                << fin.sortie.toStdString() << fin.erreurs.toStdString();
+        } else {
+            EXPECT_TRUE(fin.erreurs.contains("another program answers in its place"))
+                << fin.erreurs.toStdString();
+        }
+    }
+    EXPECT_GT(arroseur.DonneNombre(), kFois);
 }
