@@ -18,8 +18,10 @@ struct Contexte {
 /// (never inside a pair).
 Contexte DonneContexte(QString const& texte, int debut, int fin, int largeur);
 
-/// The text as a terminal may show it: controls (which could move the cursor or worse), fillers,
-/// direction marks and lone surrogates stand as a middle dot; a soft hyphen is left out.
+/// The text as a terminal may show it: controls (which could move the cursor or worse), fillers and
+/// lone surrogates stand as a middle dot. What turns the reading direction or does not show is
+/// spelled out ("<U+202E>"), but for joiners where scripts and pictures need them; a soft hyphen is
+/// left out.
 QString DonnePourTerminal(QString const& texte);
 
 } // namespace hote

@@ -48,8 +48,20 @@ TEST(Contexte, TheEndsOfATextAreNoReasonToCut) {
 
 TEST(DonnePourTerminal, NothingThatATerminalObeysIsLeft) {
     EXPECT_EQ(DonnePourTerminal(S("a\u001b[2Jb\u009bc\u0007\n")), S("a·[2Jb·c··"));
-    EXPECT_EQ(DonnePourTerminal(S("a\u202eb\u2066c\u2028d\u2029")), S("a·b·c·d·"));
+    EXPECT_EQ(DonnePourTerminal(S("a\u2028d\u2029")), S("a·d·"));
     EXPECT_EQ(DonnePourTerminal(QString(QChar(0xD800)) + QChar(0)), S("··"));
+}
+
+TEST(DonnePourTerminal, WhatTurnsTheReadingDirectionOrDoesNotShowIsSpelledOut) {
+    EXPECT_EQ(DonnePourTerminal(S("a\u202etxt.exe\u2066b\u200f")),
+              S("a<U+202E>txt.exe<U+2066>b<U+200F>"));
+    EXPECT_EQ(DonnePourTerminal(S("pay\u200bpal\ufeff\u2060\U000e0041")),
+              S("pay<U+200B>pal<U+FEFF><U+2060><U+E0041>"));
+    EXPECT_EQ(DonnePourTerminal(S("pay\u200dpal \u200cx")), S("pay<U+200D>pal <U+200C>x"));
+}
+
+TEST(DonnePourTerminal, JoinersStayWhereScriptsAndPicturesNeedThem) {
+    EXPECT_EQ(DonnePourTerminal(S("می\u200cخواهم 👩\u200d🔬")), S("می\u200cخواهم 👩\u200d🔬"));
 }
 
 TEST(DonnePourTerminal, WhatReadsAsTextStays) {
