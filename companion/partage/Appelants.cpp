@@ -28,6 +28,11 @@ Appelant& Appelants::Donne(std::string const& nom) {
     return nouveau;
 }
 
+bool Appelants::ANomme(std::string const& nom) const {
+    auto const appelant = appelants_.find(nom);
+    return appelant != appelants_.end() && !appelant->second.document.empty();
+}
+
 std::string const& Appelants::DonneDocument(std::string const& nom) {
     Appelant const* const appelant = Cherche(nom);
     if (!appelant || appelant->document.empty()) {

@@ -48,6 +48,8 @@ class Appelants {
     void Nomme(std::string const& nom, std::string const& cle) { Donne(nom).document = cle; }
     /// Key of the document that it last named. Throws `AucunDocument`.
     std::string const& DonneDocument(std::string const& nom);
+    /// Has it named one, and not let go of it?
+    bool ANomme(std::string const& nom) const;
     /// The caller names a zone of a document, and thereby that document. Its belief of the zone,
     /// valid until the caller is given the document anew or forgotten. Throws `ZoneInconnue` where
     /// it was not given the zone, and changes nothing then.

@@ -69,6 +69,12 @@ auto ObjetBureau::Sers(Travail travail) -> decltype(travail(std::string())) {
     return decltype(travail(std::string()))();
 }
 
+void ObjetBureau::FinisTravail(std::string const& qui) {
+    if (bureau_.DonneAppelants().ANomme(qui)) {
+        Q_EMIT TravailFini(VersQString(bureau_.DonneAppelants().DonneDocument(qui)));
+    }
+}
+
 void ObjetBureau::ActivePourCorrecteur() {
     Sers([this](std::string const& qui) { bureau_.Active(qui); });
 }
@@ -167,11 +173,17 @@ void ObjetBureau::RemplaceEtReselectionne(QString const& leMot) {
 }
 
 void ObjetBureau::RompsLienCorrecteur() {
-    Sers([this](std::string const& qui) { bureau_.DonneAppelants().LacheZones(qui); });
+    Sers([this](std::string const& qui) {
+        FinisTravail(qui);
+        bureau_.DonneAppelants().LacheZones(qui);
+    });
 }
 
 void ObjetBureau::RompsLienTexteur() {
-    Sers([this](std::string const& qui) { bureau_.DonneAppelants().LacheDocument(qui); });
+    Sers([this](std::string const& qui) {
+        FinisTravail(qui);
+        bureau_.DonneAppelants().LacheDocument(qui);
+    });
 }
 
 void ObjetBureau::SelectionneIntervalle(QString const& idZone, int leDebut, int laFin) {

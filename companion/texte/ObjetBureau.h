@@ -59,6 +59,8 @@ class ObjetBureau : public QObject, protected QDBusContext {
   Q_SIGNALS:
     /// A connection that the office now remembers something of, at each of its calls.
     void AppelantVu(QString const& nomUnique);
+    /// A caller lets go of the document of this key: what it wanted to change in it stands.
+    void TravailFini(QString const& cle);
 
   protected:
     /// Answers one call of the 24; `sers` does the work and gives the reply, at the time it is
@@ -71,6 +73,8 @@ class ObjetBureau : public QObject, protected QDBusContext {
     /// never sent. It is kept until the reply: what it needs of the call is copied into it.
     template <class Travail>
     auto Sers(Travail travail) -> decltype(travail(std::string()));
+
+    void FinisTravail(std::string const& qui);
 
     Bureau& bureau_;
     bool peutEnregistrer_;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Programme.h"
 
+#include "ChainesQt.h"
+#include "Montrable.h"
 #include "ObjetBureau.h"
 #include "Publication.h"
 #include "Signaux.h"
@@ -8,6 +10,7 @@
 #include "coeur/Bureau.h"
 #include "coeur/MessagesTexte.h"
 #include "coeur/OptionsBureau.h"
+#include "coeur/Voisins.h"
 #include "documentsadaptor.h"
 #include "proxyadaptor.h"
 
@@ -25,7 +28,7 @@ namespace {
 enum Code { kTout = 0, kFichier = 1, kOption = 2, kBus = 3, kEnregistrement = 4 };
 
 void Avertis(std::string const& message) {
-    std::cerr << "vocalyne-bureau-texte: " << message << std::endl;
+    std::cerr << "vocalyne-bureau-texte: " << Montrable(message) << std::endl;
 }
 
 /// Nobody else's, nor one of our own of another day: a process number comes back.
@@ -40,10 +43,10 @@ std::string InstanceNouvelle() {
 }
 
 /// All files or none: a person who mistypes one name is told before anything is served.
-bool OuvreTous(Bureau& bureau, std::vector<std::string> const& fichiers) {
+bool OuvreTous(Bureau& bureau, OptionsBureau const& options) {
     bool tous = true;
     std::vector<LectureFichier> lues;
-    for (std::string const& chemin : fichiers) {
+    for (std::string const& chemin : options.fichiers) {
         LectureFichier lecture = LisFichier(chemin);
         std::error_code sansErreur;
         std::string const absolu = std::filesystem::absolute(chemin, sansErreur).string();
@@ -66,27 +69,29 @@ bool OuvreTous(Bureau& bureau, std::vector<std::string> const& fichiers) {
                              "{1}: read-only, nothing will be corrected in it"},
                             {chemin}));
             }
+            if (!options.sansEnregistrer) {
+                for (std::string const& copie : RangeLesRestes(lecture.cheminReel)) {
+                    Avertis(Dis({"{1} : un texte dont l'enregistrement fut interrompu est dans {2}",
+                                 "{1}: a text that was being saved when all ended is in {2}"},
+                                {chemin, copie}));
+                }
+            }
             bureau.Ouvre(absolu, std::move(lecture));
         }
     }
     return tous;
 }
 
-bool EnregistreTous(Bureau& bureau) {
-    bool tous = true;
-    for (DocumentTexte& document : bureau.DonneDocuments()) {
-        std::optional<Ecriture> const ecriture = document.Enregistre();
-        if (!ecriture) {
-            continue;
-        }
-        if (ecriture->issue == IssueEcriture::Faite) {
-            Avertis(Dis({"{1} : enregistré", "{1}: saved"}, {document.DonneChemin()}));
-        } else {
-            Avertis(DisEcriture(*ecriture, document.DonneChemin()));
-            tous = false;
-        }
+/// Saves and says so; does it stand in its place?
+bool Enregistre(DocumentTexte& document) {
+    std::optional<Ecriture> const ecriture = document.Enregistre();
+    if (!ecriture) {
+        return true;
     }
-    return tous;
+    bool const enPlace = ecriture->issue == IssueEcriture::Faite;
+    Avertis(enPlace ? Dis({"{1} : enregistré", "{1}: saved"}, {document.DonneChemin()})
+                    : DisEcriture(*ecriture, document.DonneChemin()));
+    return enPlace;
 }
 
 int Sers(OptionsBureau const& options, Bureau& bureau, FabriqueDObjet const& fabrique) {
@@ -103,6 +108,14 @@ int Sers(OptionsBureau const& options, Bureau& bureau, FabriqueDObjet const& fab
     VeilleAppelants veille(publication.DonneConnexion(), bureau.DonneAppelants());
     Signaux signaux;
     QObject::connect(objet.get(), &ObjetBureau::AppelantVu, &veille, &VeilleAppelants::Surveille);
+    bool toutEnPlace = true;
+    if (!options.sansEnregistrer) {
+        QObject::connect(objet.get(), &ObjetBureau::TravailFini, [&](QString const& cle) {
+            if (DocumentTexte* const document = bureau.Cherche(VersUtf8(cle))) {
+                toutEnPlace = Enregistre(*document) && toutEnPlace;
+            }
+        });
+    }
     QObject::connect(&signaux, &Signaux::FinDemandee, [] { QCoreApplication::exit(kTout); });
     QObject::connect(&publication, &Publication::BusPerdu, [] {
         Avertis(Dis({"Le bus de session a disparu", "The session bus is gone"}));
@@ -123,10 +136,12 @@ int Sers(OptionsBureau const& options, Bureau& bureau, FabriqueDObjet const& fab
     std::cout.flush();
 
     int const code = QCoreApplication::exec();
-    if (!options.sansEnregistrer && !EnregistreTous(bureau)) {
-        return kEnregistrement;
+    if (!options.sansEnregistrer) {
+        for (DocumentTexte& document : bureau.DonneDocuments()) {
+            toutEnPlace = Enregistre(document) && toutEnPlace;
+        }
     }
-    return code;
+    return toutEnPlace ? code : kEnregistrement;
 }
 
 } // namespace
@@ -149,7 +164,7 @@ int Programme(int argc, char* argv[], FabriqueDObjet const& fabrique) {
     }
     Signaux::Bloque();
     Bureau bureau(options.instance.empty() ? InstanceNouvelle() : options.instance);
-    if (!OuvreTous(bureau, options.fichiers)) {
+    if (!OuvreTous(bureau, options)) {
         return kFichier;
     }
     QCoreApplication application(argc, argv);

@@ -11,7 +11,7 @@ namespace {
 sigset_t SignauxDeFin() {
     sigset_t ensemble;
     sigemptyset(&ensemble);
-    for (int const numero : {SIGTERM, SIGINT, SIGHUP}) {
+    for (int const numero : {SIGTERM, SIGINT, SIGHUP, SIGQUIT}) {
         sigaddset(&ensemble, numero);
     }
     return ensemble;

@@ -10,12 +10,12 @@
 
 namespace compagnon {
 
-/// SIGTERM, SIGINT and SIGHUP as a Qt signal, so that the end is an event like any other.
+/// SIGTERM, SIGINT, SIGHUP and SIGQUIT as a Qt signal, so that the end is an event like any other.
 class Signaux : public QObject {
     Q_OBJECT
 
   public:
-    /// Blocks the three in the calling thread and in those it makes: to be called before any other
+    /// Blocks them in the calling thread and in those it makes: to be called before any other
     /// thread exists. A broken pipe is an error of its write from then on.
     static void Bloque();
 

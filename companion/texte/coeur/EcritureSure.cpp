@@ -1,27 +1,18 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "EcritureSure.h"
 
+#include "Attributs.h"
 #include "Descripteur.h"
+#include "Voisins.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
-#include <sys/stat.h>
 
 namespace compagnon {
 
 namespace {
-
-std::string Dossier(std::string const& chemin) {
-    std::size_t const barre = chemin.find_last_of('/');
-    return barre == 0 ? "/" : chemin.substr(0, barre);
-}
-
-std::string Nom(std::string const& chemin) {
-    return chemin.substr(chemin.find_last_of('/') + 1);
-}
 
 /// Is the file there, and does it hold just that?
 bool Contient(std::string const& chemin, std::string_view attendu) {
@@ -42,51 +33,9 @@ bool EcrisEtSynchronise(int descripteur, std::string_view octets) {
     return EcrisTout(descripteur, octets) && ::fsync(descripteur) == 0;
 }
 
-/// The new file gets what the old one had. Another's file keeps its owner only where we may give
-/// it; the group's rights then go, as they would be another group's.
-bool ReprendsDroits(int descripteur, struct stat const& etat) {
-    mode_t mode = etat.st_mode & 07777;
-    if (::fchown(descripteur, etat.st_uid, etat.st_gid) != 0 &&
-        ::fchown(descripteur, static_cast<uid_t>(-1), etat.st_gid) != 0) {
-        mode &= ~static_cast<mode_t>(S_IRWXG | S_ISUID | S_ISGID);
-    }
-    return ::fchmod(descripteur, mode) == 0;
-}
-
 /// A file of a name that nobody had, its name ending in six characters of the system's choice.
 Descripteur CreeUnique(std::string& modele) {
     return Descripteur(::mkostemp(modele.data(), O_CLOEXEC));
-}
-
-/// No more than so many bytes of a name, whole UTF-8 sequences only: with what is added to it a
-/// name may have 255.
-std::string Raccourcis(std::string nom) {
-    std::size_t fin = std::min<std::size_t>(nom.size(), 200);
-    while (fin > 0 && fin < nom.size() && (static_cast<unsigned char>(nom[fin]) & 0xC0) == 0x80) {
-        --fin;
-    }
-    nom.resize(fin);
-    return nom;
-}
-
-/// "letter.txt" -> "letter.corrige-1.txt", the first number that is free.
-Descripteur CreeCopie(std::string const& chemin, std::string& copie) {
-    std::string const nom = Nom(chemin);
-    std::size_t const point = nom.find_last_of('.');
-    bool const avecSuffixe = point != std::string::npos && point > 0 && nom.size() - point < 20;
-    std::string const suffixe = avecSuffixe ? nom.substr(point) : std::string();
-    std::string const debut = chemin.substr(0, chemin.size() - nom.size()) +
-                              Raccourcis(nom.substr(0, nom.size() - suffixe.size())) + ".corrige-";
-    for (int numero = 1; numero < 1000; ++numero) {
-        copie = debut;
-        copie.append(std::to_string(numero)).append(suffixe);
-        Descripteur fichier(
-            ::open(copie.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0600));
-        if (fichier || errno != EEXIST) {
-            return fichier;
-        }
-    }
-    return {};
 }
 
 enum class Echange { Fait, Impossible, Echoue };
@@ -106,14 +55,14 @@ Ecriture EcritureSure::Sauve(std::string_view nouveau, IssueEcriture issue,
     std::string copie;
     if (Descripteur const fichier = CreeCopie(chemin_, copie);
         fichier && EcrisEtSynchronise(fichier.Donne(), nouveau)) {
-        SynchroniseDossier(Dossier(chemin_));
+        SynchroniseDossier(DonneDossier(chemin_));
         return {issue, erreurSysteme, copie};
     } else if (fichier) {
         ::unlink(copie.c_str()); // a part of a text would be taken for the whole
     }
     char const* const temporaires = std::getenv("TMPDIR");
     std::string secours = std::string(temporaires && *temporaires ? temporaires : "/tmp") + "/" +
-                          Raccourcis(Nom(chemin_)) + ".corrige-XXXXXX";
+                          Raccourcis(DonneNom(chemin_)) + ".corrige-XXXXXX";
     if (Descripteur const fichier = CreeUnique(secours);
         fichier && EcrisEtSynchronise(fichier.Donne(), nouveau)) {
         return {issue, erreurSysteme, secours};
@@ -127,10 +76,9 @@ Ecriture EcritureSure::Ecris(std::string_view nouveau) {
     if (!Contient(chemin_, lu_)) {
         return Sauve(nouveau, IssueEcriture::Conflit, 0);
     }
-    std::string const dossier = Dossier(chemin_);
-    std::string voisin = dossier + "/.vocalyne-XXXXXX";
-    struct stat etat {};
-    Descripteur const fichier = CreeUnique(voisin);
+    std::string const dossier = DonneDossier(chemin_);
+    std::string voisin;
+    Descripteur const fichier = CreeVoisin(chemin_, voisin);
     if (!fichier) {
         return Sauve(nouveau, IssueEcriture::Echec, errno);
     }
@@ -138,8 +86,9 @@ Ecriture EcritureSure::Ecris(std::string_view nouveau) {
         ::unlink(voisin.c_str());
         return Sauve(nouveau, issue, erreur);
     };
-    if (::stat(chemin_.c_str(), &etat) != 0 || !ReprendsDroits(fichier.Donne(), etat) ||
-        !EcrisEtSynchronise(fichier.Donne(), nouveau)) {
+    Descripteur const ancien(::open(chemin_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    if (!ancien || !ReprendsAttributs(ancien.Donne(), fichier.Donne()) ||
+        !EcrisEtSynchronise(fichier.Donne(), nouveau) || !Acheve(voisin)) {
         return renonce(IssueEcriture::Echec, errno);
     }
     if (avantEchange) {

@@ -26,9 +26,10 @@ struct Ecriture {
 /// if what comes out is not `lu`, they are exchanged back. Where the file system cannot exchange,
 /// the content is compared right before the rename.
 ///
-/// Keeps mode and, where the system lets us, owner. `chemin`: absolute, without symbolic links.
-/// `lu`: the content that the file must still have. On a conflict the copy is put beside the file,
-/// on a failure beside it or else in the folder for temporary files.
+/// Keeps mode, group, access control list and extended attributes and, where the system lets us,
+/// the owner; a file with some that cannot be kept is not replaced (`Echec`). `chemin`: absolute,
+/// without symbolic links. `lu`: the content that the file must still have. On a conflict the copy
+/// is put beside the file, on a failure beside it or else in the folder for temporary files.
 class EcritureSure {
   public:
     EcritureSure(std::string chemin, std::string_view lu)

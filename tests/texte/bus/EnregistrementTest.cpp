@@ -56,9 +56,32 @@ TEST_F(Saving, HappensAtTheEndForWhatHasChanged) {
     EXPECT_EQ(NombreDeFichiers(), 2U);
 }
 
+TEST_F(Saving, HappensWhenACallerLetsGoOfTheDocument) {
+    for (auto const* methode : {"RompsLienCorrecteur", "RompsLienTexteur"}) {
+        client.Synchronise(bureau.Identifiant());
+        EXPECT_EQ(client.Corrige("z2", 0, 0, "x"), "");
+        EXPECT_EQ(client.Erreur(methode), "");
+        EXPECT_NE(bureau.Contenu().find("\nx"), std::string::npos) << methode;
+    }
+    EXPECT_EQ(bureau.Contenu(), "Un chat.\r\nxxDeux.\n");
+}
+
+TEST_F(SavingNothing, LeavesTheFileAloneWhenACallerLetsGoOfIt) {
+    Corrige();
+    EXPECT_EQ(client.Erreur("RompsLienCorrecteur"), "");
+    EXPECT_EQ(bureau.Contenu(), "Un chat.\r\nDeux.\n");
+}
+
 TEST_F(Saving, HappensForEverySignalThatEndsAProgram) {
     Corrige();
     bureau.DonneProcessus().Signale(SIGINT);
+    EXPECT_EQ(bureau.DonneProcessus().Attends(), 0);
+    EXPECT_EQ(bureau.Contenu(), "Un chien.\r\nDeux.\n");
+}
+
+TEST_F(Saving, HappensWhenTheProgramIsMadeToQuit) {
+    Corrige();
+    bureau.DonneProcessus().Signale(SIGQUIT);
     EXPECT_EQ(bureau.DonneProcessus().Attends(), 0);
     EXPECT_EQ(bureau.Contenu(), "Un chien.\r\nDeux.\n");
 }

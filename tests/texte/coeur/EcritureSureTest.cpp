@@ -2,9 +2,15 @@
 #include "coeur/EcritureSure.h"
 #include "outils/DossierEssai.h"
 
+#include <cerrno>
 #include <csignal>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 
 using compagnon::Ecriture;
 using compagnon::EcritureSure;
@@ -30,6 +36,72 @@ TEST_F(SafeWriting, KeepsModeAndOwner) {
     EXPECT_EQ(apres.st_mode, avant.st_mode);
     EXPECT_EQ(apres.st_uid, avant.st_uid);
     EXPECT_EQ(apres.st_gid, avant.st_gid);
+}
+
+namespace {
+
+/// An access control list as Linux keeps it (linux/posix_acl_xattr.h): version 2, then entries of a
+/// tag, rights and an identity. Owner and a user named by number read and write, all others
+/// nothing.
+std::string ListeDAcces(std::uint32_t nomme) {
+    struct Entree {
+        std::uint16_t genre;
+        std::uint16_t droits;
+        std::uint32_t qui;
+    };
+    constexpr std::uint32_t kPersonne = 0xFFFFFFFF;
+    std::uint32_t const version = 2;
+    Entree const entrees[] = {{0x01, 6, kPersonne},
+                              {0x02, 6, nomme},
+                              {0x04, 0, kPersonne},
+                              {0x10, 6, kPersonne},
+                              {0x20, 0, kPersonne}};
+    std::string liste(reinterpret_cast<char const*>(&version), sizeof version);
+    liste.append(reinterpret_cast<char const*>(entrees), sizeof entrees);
+    return liste;
+}
+
+std::string Attribut(std::string const& chemin, char const* nom) {
+    char tampon[200];
+    auto const taille = ::getxattr(chemin.c_str(), nom, tampon, sizeof tampon);
+    return taille < 0 ? "none" : std::string(tampon, static_cast<std::size_t>(taille));
+}
+
+bool MetsAttribut(std::string const& chemin, char const* nom, std::string const& valeur) {
+    return ::setxattr(chemin.c_str(), nom, valeur.data(), valeur.size(), 0) == 0;
+}
+
+} // namespace
+
+TEST_F(SafeWriting, KeepsAccessControlLists) {
+    std::string const chemin = Ecris("a.txt", "avant");
+    auto const liste = ListeDAcces(12345);
+    ASSERT_TRUE(MetsAttribut(chemin, "system.posix_acl_access", liste)) << std::strerror(errno);
+    EXPECT_EQ(EcritureSure(chemin, "avant").Ecris("après").issue, IssueEcriture::Faite);
+    EXPECT_EQ(Lis(chemin), "après");
+    EXPECT_EQ(Attribut(chemin, "system.posix_acl_access"), liste);
+}
+
+TEST_F(SafeWriting, KeepsExtendedAttributes) {
+    // Where the tests were built: a folder for temporary files may have none, in memory.
+    auto modele = (std::filesystem::current_path() / "attributs-XXXXXX").string();
+    ASSERT_NE(::mkdtemp(modele.data()), nullptr);
+    auto const chemin = modele + "/a.txt";
+    std::ofstream(chemin) << "avant";
+    EXPECT_TRUE(MetsAttribut(chemin, "user.origine", "ici")) << std::strerror(errno);
+    EXPECT_EQ(EcritureSure(chemin, "avant").Ecris("après").issue, IssueEcriture::Faite);
+    EXPECT_EQ(Lis(chemin), "après");
+    EXPECT_EQ(Attribut(chemin, "user.origine"), "ici");
+    std::filesystem::remove_all(modele);
+}
+
+TEST_F(SafeWriting, GivesNobodyRightsThatOnlyTheFolderWouldGive) {
+    std::string const chemin = Ecris("a.txt", "avant");
+    ASSERT_EQ(::chmod(chemin.c_str(), 0660), 0);
+    ASSERT_TRUE(MetsAttribut(dossier.string(), "system.posix_acl_default", ListeDAcces(12345)))
+        << std::strerror(errno);
+    EXPECT_EQ(EcritureSure(chemin, "avant").Ecris("après").issue, IssueEcriture::Faite);
+    EXPECT_EQ(Attribut(chemin, "system.posix_acl_access"), "none");
 }
 
 TEST_F(SafeWriting, AFileThatSomeoneChangedIsLeftAndOursIsPutBeside) {
