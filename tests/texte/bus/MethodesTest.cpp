@@ -320,7 +320,7 @@ TEST_F(SeveralDocuments, AreListedWithIdentifierTitleAndPath) {
     for (int i = 0; i < 3; ++i) {
         auto const rang = static_cast<std::size_t>(i);
         QJsonObject const document = liste[i].toObject();
-        EXPECT_EQ(document.keys().join(QLatin1Char(' ')), QStringLiteral("chemin id titre"));
+        EXPECT_EQ(document.keys().join(QLatin1Char(' ')), QStringLiteral("chemin genre id titre"));
         EXPECT_EQ(document[QLatin1String("id")].toString().toStdString(), bureau.Identifiant(rang));
         EXPECT_EQ(document[QLatin1String("chemin")].toString().toStdString(),
                   bureau.Chemin(rang).string());
