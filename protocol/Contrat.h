@@ -72,6 +72,11 @@ inline constexpr std::size_t kLimiteReponse = kLimiteMessage - (std::size_t{64} 
 /// UTF-16 code units of the longest text that may leave as an argument: 120 MiB where each of them
 /// takes three bytes.
 inline constexpr std::size_t kUnitesArgumentMax = std::size_t{40} << 20;
+/// UTF-16 code units of the longest text that a correction puts in: more than a page, in one
+/// paragraph. An office lays a paragraph out as a whole, in time by the square of its length: 64 Ki
+/// of emoji and words took LibreOffice more than a minute. Impress parts a paragraph of 16 Ki in
+/// two.
+inline constexpr std::size_t kUnitesRemplacementMax = std::size_t{8} << 10;
 
 // How long the plug-in waits for a reply, in milliseconds.
 /// For "DocEstMort", asked often: it must not hold up the host.

@@ -56,8 +56,9 @@ Bilingue Message(Erreur code) {
         return {"Le nouveau texte contient une fin de ligne ou un caractère qui ne peut pas y être",
                 "The new text holds a line end or a character that cannot stand there"};
     case Erreur::TropGrand:
-        return {"Trop grand\u00a0: le document ou la réponse dépasserait sa limite",
-                "Too large: the document or the reply would pass its limit"};
+        return {
+            "Trop grand\u00a0: le nouveau texte, le document ou la réponse dépasserait sa limite",
+            "Too large: the new text, the document or the reply would pass its limit"};
     case Erreur::PlageRefusee:
         return {"Intervalle refusé\u00a0: {1}", "Range refused: {1}"};
     case Erreur::ChampDetruit:

@@ -15,8 +15,8 @@ from suite.hote import Cible
 from suite.protocole import Protocole
 from suite.registre import REGLES
 
-# What nothing in LibreOffice can show: its person saves, and a paragraph of it has no limit.
-SANS_OBJET = {"documents.enregistre", "corrige.trop-grand"}
+# What nothing in LibreOffice can show: its person saves.
+SANS_OBJET = {"documents.enregistre"}
 
 
 def setUpModule():

@@ -66,6 +66,7 @@ FAUTES = {
     "desordre": ["corrige.ordre"],
     "tronque": ["corrige.longue"],
     "grand-interne": ["corrige.trop-grand"],
+    "grand-passe": ["corrige.trop-grand"],
     "plage-rognee": ["refus.plage", "peut.plage", "selection.refusee"],
     "coupe-paire": ["refus.paire", "selection.refusee"],
     "zone-premiere": ["refus.zone-inconnue"],
@@ -117,12 +118,12 @@ FAUTES = {
     "muet": ["reponse.rendue"],
     "meurt": ["liens.correcteur", "reponse.rendue"],
 }
-TOUTES = Options("moi~k1", "moi~k2", "moi~k3", enregistre=True, grand=True)
+TOUTES = Options("moi~k1", "moi~k2", "moi~k3", enregistre=True)
 
 
 def options(fautes) -> Options:
     return (TOUTES if "cle-bavarde" not in fautes
-            else Options("moi~essai-un", "moi~k2", "moi~k3", enregistre=True, grand=True))
+            else Options("moi~essai-un", "moi~k2", "moi~k3", enregistre=True))
 
 
 class Essai(unittest.TestCase):

@@ -34,7 +34,7 @@ class Bureau(unittest.TestCase):
                                   env=env) as bureau:
                 un, autre, fige = (bureau.suivante().split()[0] for _ in TEXTES)
                 dit = commun.lance(CONTRAT, un.split("~")[0], un, "--autre", autre,
-                                   "--lecture-seule", fige, "--enregistre", "--grand",
+                                   "--lecture-seule", fige, "--enregistre",
                                    "--sortie", "json", env=env, statut=None)
         bilan = json.loads(dit.stdout)
         self.assertEqual({r["id"]: r["constats"] for r in bilan["regles"]

@@ -3,6 +3,7 @@
 
 #include "commun/ChainesUno.h"
 #include "modele/Utf.h"
+#include "partage/LimiteDeRemplacement.h"
 #include "squelette.h"
 
 #include <string>
@@ -137,7 +138,8 @@ gboolean SurCorrige(GObject* /*s*/, Invocation* invocation, char const* zone, gi
                     char const* texte, gboolean automatique, gpointer methodes) {
     return Sert(
         methodes, invocation,
-        [zone = std::string(zone), plage = Intervalle{debut, fin}, texte = DepuisUtf8(texte),
+        [zone = std::string(zone), plage = Intervalle{debut, fin},
+         texte = compagnon::RemplacementDepuisUtf8(texte),
          automatique](Service& service, std::string const& appelant) {
             service.CorrigeDansTexteur({appelant, automatique != FALSE}, zone, plage, texte);
             return static_cast<GVariant*>(nullptr);
@@ -165,7 +167,8 @@ gboolean SurSelectionne(GObject* /*s*/, Invocation* invocation, char const* zone
 
 gboolean SurRemplace(GObject* /*s*/, Invocation* invocation, char const* mot, gpointer methodes) {
     return Sert(methodes, invocation,
-                [mot = DepuisUtf8(mot)](Service& service, std::string const& appelant) {
+                [mot = compagnon::RemplacementDepuisUtf8(mot)](Service& service,
+                                                               std::string const& appelant) {
                     service.RemplaceEtReselectionne(appelant, mot);
                     return static_cast<GVariant*>(nullptr);
                 });

@@ -5,6 +5,7 @@
 #include "commun/NomDeCorrection.h"
 #include "modele/EditionMinimale.h"
 #include "modele/Utf.h"
+#include "partage/LimiteDeRemplacement.h"
 
 using compagnon::ErreurDuService;
 using compagnon::Intervalle;
@@ -72,6 +73,7 @@ void Corrige(DocumentOuvert& document, DialogueModal const& dialogue, ZoneOuvert
              compagnon::TexteSuivi& croyance, Intervalle plage, std::u16string const& texte,
              Auteur const& auteur) {
     try {
+        compagnon::VerifieRemplacement(texte);
         if (auto const raison = RaisonDeRefuser(document, dialogue, zone)) {
             throw ErreurDuService(*raison);
         }

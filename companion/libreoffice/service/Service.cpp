@@ -10,6 +10,7 @@
 #include "partage/EcritureDocuments.h"
 #include "partage/EcritureNoms.h"
 #include "partage/ErreurDuService.h"
+#include "partage/LimiteDeRemplacement.h"
 #include "partage/Messages.h"
 
 #include <algorithm>
@@ -247,6 +248,7 @@ void Service::AjusteSelectionPourOutils(std::string const& appelant, std::int32_
 
 void Service::RemplaceEtReselectionne(std::string const& appelant, std::u16string const& mot) {
     std::shared_ptr<DocumentOuvert> const document = DocumentDe(appelant);
+    compagnon::VerifieRemplacement(mot);
     if (auto const raison = RaisonDeRefuser(*document, dialogue_)) {
         throw ErreurDuService(*raison);
     }

@@ -3,6 +3,7 @@
 
 #include "modele/EcrivainZones.h"
 #include "partage/EcritureNoms.h"
+#include "partage/LimiteDeRemplacement.h"
 #include "partage/Messages.h"
 
 #include <algorithm>
@@ -158,6 +159,7 @@ void Bureau::Corrige(std::string const& appelant, std::string const& zone, Inter
     Place const place = ChercheZone(zone);
     TexteSuivi& croyance = Croyance(appelant, place);
     try {
+        VerifieRemplacement(texte);
         place.document->VerifieInscriptible();
         Localisation const trouvee = croyance.Localise(plage, Texte(place));
         if (!trouvee) {
@@ -219,6 +221,7 @@ void Bureau::AjusteSelection(std::string const& appelant, std::int32_t deltaDebu
 
 void Bureau::RemplaceEtReselectionne(std::string const& appelant, std::u16string_view mot) {
     DocumentTexte& document = Courant(appelant);
+    VerifieRemplacement(mot);
     document.VerifieInscriptible();
     appelants_.VerifieSelection(appelant, Dite(document));
     Selection const selection = document.DonneSelection();

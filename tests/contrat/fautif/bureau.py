@@ -5,8 +5,10 @@ strings of UTF-16 units, one character each, so that slices are the contract's p
 import unicodedata
 from dataclasses import dataclass, field
 
+from suite.protocole import UNITES_REMPLACEMENT_MAX
+
 INTERDITS = set(map(chr, range(32))) - {"\t"} | {"\x7f"}
-LIMITE = 32 << 20
+LIMITE = UNITES_REMPLACEMENT_MAX
 
 
 def en_unites(texte: str) -> str:
@@ -168,6 +170,11 @@ class Bureau:
             raise Refus("LectureSeule")
         if zone.protegee:
             raise Refus("Protege")
+
+    def mesure(self, texte: str) -> None:
+        """Refuses what is too long to be put in anywhere."""
+        if len(en_unites(texte)) > LIMITE and not self.a("grand-passe"):
+            raise Refus("Interne" if self.a("grand-interne") else "TropGrand")
 
     def nouveau(self, zone: Zone, debut: int, fin: int, texte: str) -> str:
         """The text to put in; refused where the zone cannot take it."""

@@ -4,7 +4,7 @@
 import base64
 import json
 
-from .bureau import LIMITE, Bureau, Croyance, Refus, coupe, en_texte, en_unites
+from .bureau import Bureau, Croyance, Refus, coupe, en_texte, en_unites
 
 
 def b64(texte: str) -> str:
@@ -164,13 +164,12 @@ class Methodes(Bureau):
     def CorrigeDansTexteur(self, qui, nom, debut, fin, texte, automatique):
         document, zone, croyance = self.place(qui, nom)
         try:
+            self.mesure(texte)
             if not self.a("protege-perce"):
                 self.examine(document, zone)
             if self.a("lettres-avant-plage"):
                 self.nouveau(zone, 0, 0, en_unites(texte))
             place = self.localise(zone, croyance, debut, fin)
-            if len(texte) > LIMITE:  # seen before anything slow is done with it
-                raise Refus("Interne" if self.a("grand-interne") else "TropGrand")
             nouveau = self.nouveau(zone, *place, en_unites(texte))
         except Refus:
             if not self.a("refus-oublie"):
@@ -256,6 +255,7 @@ class Methodes(Bureau):
 
     def RemplaceEtReselectionne(self, qui, mot):
         document = self.courant(qui)
+        self.mesure(mot)
         rang, debut, fin, _ = self._vue(document)
         zone = document.zones[rang]
         self.examine(document, zone)

@@ -24,7 +24,6 @@ class Options:
     autre: str | None = None
     lecture_seule: str | None = None
     enregistre: bool = False
-    grand: bool = False
 
 
 class Pose:

@@ -68,9 +68,6 @@ def analyse() -> argparse.ArgumentParser:
     lecteur.add_argument("--enregistre", action="store_true", help=dis(
         "permet d'enregistrer DOCUMENT dans son fichier",
         "allows saving DOCUMENT to its file"))
-    lecteur.add_argument("--grand", action="store_true", help=dis(
-        "permet d'y écrire un mot de 40 Mio, ce qui peut occuper le compagnon longtemps",
-        "allows a word of 40 MiB in it, which may keep the companion busy for long"))
     lecteur.add_argument("--regle", metavar="ID", action="append", help=dis(
         "n'essaie que cette règle ; répétable", "tries this rule only; may be given again"))
     lecteur.add_argument("--patience", metavar="S", type=int, default=60, help=dis(
@@ -140,7 +137,7 @@ def main() -> int:
         return identifiant and (identifiant if "~" in identifiant
                                 else f"{cible.instance}~{identifiant}")
     options = Options(entier(voulu.document), entier(voulu.autre), entier(voulu.lecture_seule),
-                      voulu.enregistre, voulu.grand)
+                      voulu.enregistre)
     choisies = [r for r in REGLES.values() if not voulu.regle or r.identifiant in voulu.regle]
     rapport = (Json(contrat, len(choisies), options.document) if voulu.sortie == "json"
                else Texte(contrat, len(choisies)))

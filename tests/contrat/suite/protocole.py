@@ -10,6 +10,7 @@ CHEMIN = "/com/ombrel/vocalyne/texteurs/OpenOffice/"
 PROXY = "com.ombrel.vocalyne.texteurs.openoffice.proxy.interface"
 DOCUMENTS = "com.ombrel.vocalyne.texteurs.openoffice.documents.interface"
 LIMITE_REPONSE = (128 << 20) - (64 << 10)  # bytes of a zone document
+UNITES_REMPLACEMENT_MAX = 8 << 10  # of a new text
 BITS_DE_STYLE = 0xFF7F  # the high byte is the number of a language
 
 ERREUR = "com.ombrel.vocalyne.texteurs.Erreur."

@@ -1,11 +1,12 @@
 # SPDX-License-Identifier: MPL-2.0
 """CorrigeDansTexteur, where it is done."""
 
-from ..registre import ACCORD, CONTRAT, ZONES, NonEssayee, regle
+from ..protocole import UNITES_REMPLACEMENT_MAX
+from ..registre import ACCORD, CONTRAT, ZONES, regle
 from ..textes import remplace, unites
 
 MOTS = " Le chat \U0001f600 dort"
-LONGUEUR = 5000  # letters
+LONGUEUR = UNITES_REMPLACEMENT_MAX // 8 * 8  # units
 
 
 def corrige(e, pose, debut: int, fin: int, par: str, automatique: bool = False) -> None:
@@ -104,29 +105,29 @@ def _(e):
 
 
 @regle("corrige.longue", CONTRAT,
-       f"Un texte de {LONGUEUR} lettres fait l'aller et le retour.",
-       f"A text of {LONGUEUR} letters makes the way there and back.")
+       f"Un texte de {LONGUEUR} unités fait l'aller et le retour.",
+       f"A text of {LONGUEUR} units makes the way there and back.")
 def _(e):
     pose = e.pose(MOTS)
-    long = ("\U0001f600é mot " * (LONGUEUR // 7))
+    long = "\U0001f600é mot " * (LONGUEUR // 8)
     debut, fin = pose.place("chat")
     corrige(e, pose, debut, fin, long)
     corrige(e, pose, debut, debut + unites(long), "chat")
 
 
 @regle("corrige.trop-grand", ACCORD,
-       "Un texte qui passe les limites du document reçoit TropGrand ; sinon il se relit tel quel.",
-       "A text that passes the document's limits gets TropGrand; otherwise it reads back as it is.")
+       f"Un texte de plus de {UNITES_REMPLACEMENT_MAX} unités reçoit TropGrand, où que ce soit.",
+       f"A text of more than {UNITES_REMPLACEMENT_MAX} units gets TropGrand, wherever it is to go.")
 def _(e):
-    if not e.options.grand:
-        raise NonEssayee("il faut la permission d'écrire 40 Mio (--grand)",
-                         "the permission to write 40 MiB is needed (--grand)")
     pose = e.pose(MOTS)
-    enorme = "mot " * (10 << 20)
+    enorme = "a" * (UNITES_REMPLACEMENT_MAX + 1)
     debut, fin = pose.place("chat")
-    reponse = pose.hote.appelle("CorrigeDansTexteur", pose.nom, debut, fin, enorme, False)
-    if reponse.erreur:
-        e.egal("TropGrand", reponse.erreur, "CorrigeDansTexteur")
+    e.refuse("ZoneInconnue", pose.hote, "CorrigeDansTexteur", "?", debut, fin, enorme, False)
+    for texte in (enorme, enorme[1:] + "\r", "\U0001f600" * (UNITES_REMPLACEMENT_MAX // 2 + 1)):
+        hote, _ = e.lie()
+        e.refuse("TropGrand", hote, "CorrigeDansTexteur", pose.nom, fin, debut, texte, False)
         e.inchange(pose)
-    else:
-        e.egal(remplace(pose.entier, debut, fin, enorme), e.texte(pose), "CorrigeDansTexteur")
+    hote, _ = e.lie()
+    e.reussit(hote, "SelectionneIntervalle", pose.nom, debut, fin)
+    e.refuse("TropGrand", hote, "RemplaceEtReselectionne", enorme)
+    e.inchange(pose)
