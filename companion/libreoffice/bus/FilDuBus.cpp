@@ -157,6 +157,7 @@ void FilDuBus::Connecte() {
                          soi->Reessaie();
                      }),
                      this);
+    SuisLesDeparts();
     DemandeLeNom();
 }
 
@@ -168,7 +169,7 @@ void FilDuBus::DemandeLeNom() {
     constexpr guint kDeja = 4;         // DBUS_REQUEST_NAME_REPLY_ALREADY_OWNER
     // First the object, so that no call to the name finds nothing behind it.
     methodes_ = std::make_unique<Methodes>(*appels_, vivantes_, delais_,
-                                           [this](char const* qui) { SuisAppelant(qui); });
+                                           [this](char const* qui) { appelants_.insert(qui); });
     GError* erreur = nullptr;
     if (!methodes_->Publie(connexion_, chemin_.c_str(), &erreur)) {
         Tenu<GError> const tenue(erreur);
@@ -220,27 +221,28 @@ void FilDuBus::NomPris() {
         this, nullptr);
 }
 
-void FilDuBus::SuisAppelant(char const* appelant) {
-    if (appelants_.count(appelant) > 0) {
-        return;
-    }
-    appelants_[appelant] = g_dbus_connection_signal_subscribe(
+// One subscription for all, made before anybody can call: whoever leaves after its call is heard of
+// behind that call. One for each caller would come too late for those who have gone by then.
+void FilDuBus::SuisLesDeparts() {
+    departs_ = g_dbus_connection_signal_subscribe(
         connexion_, "org.freedesktop.DBus", "org.freedesktop.DBus", "NameOwnerChanged",
-        "/org/freedesktop/DBus", appelant, G_DBUS_SIGNAL_FLAGS_NONE,
-        [](GDBusConnection* connexion, char const*, char const*, char const*, char const*,
+        "/org/freedesktop/DBus", nullptr, G_DBUS_SIGNAL_FLAGS_NONE,
+        [](GDBusConnection*, char const*, char const*, char const*, char const*,
            GVariant* parametres, gpointer donnee) {
-            auto* const soi = static_cast<FilDuBus*>(donnee);
             char const* qui = nullptr;
-            g_variant_get(parametres, "(&s&s&s)", &qui, nullptr, nullptr);
-            auto const trouve = soi->appelants_.find(qui);
-            if (trouve != soi->appelants_.end()) {
-                g_dbus_connection_signal_unsubscribe(connexion, trouve->second);
-                soi->appelants_.erase(trouve);
+            char const* nouveau = nullptr;
+            g_variant_get(parametres, "(&s&s&s)", &qui, nullptr, &nouveau);
+            if (*nouveau == '\0') {
+                static_cast<FilDuBus*>(donnee)->Part(qui);
             }
-            soi->appels_->Poste(
-                [nom = std::string(qui)](Service& service) { service.Oublie(nom); });
         },
         this, nullptr);
+}
+
+void FilDuBus::Part(std::string const& qui) {
+    if (appelants_.erase(qui) > 0) {
+        appels_->Poste([qui](Service& service) { service.Oublie(qui); });
+    }
 }
 
 void FilDuBus::Deconnecte() {
@@ -251,9 +253,7 @@ void FilDuBus::Deconnecte() {
     if (garde_ != 0) {
         g_bus_unwatch_name(std::exchange(garde_, 0));
     }
-    for (auto const& [appelant, abonnement] : appelants_) {
-        g_dbus_connection_signal_unsubscribe(connexion_, abonnement);
-    }
+    g_dbus_connection_signal_unsubscribe(connexion_, std::exchange(departs_, 0));
     appelants_.clear();
     methodes_.reset();
     g_dbus_connection_flush_sync(connexion_, nullptr, nullptr);

@@ -7,9 +7,9 @@
 
 #include <gio/gio.h>
 
-#include <map>
 #include <memory>
 #include <mutex>
+#include <set>
 #include <string>
 #include <thread>
 
@@ -42,7 +42,8 @@ class FilDuBus {
     void DemandeLeNom();
     void NomPris();
     void Reessaie();
-    void SuisAppelant(char const* appelant);
+    void SuisLesDeparts();
+    void Part(std::string const& qui);
     void MetsEtat(EtatDuBus etat);
 
     std::string const nom_;
@@ -60,7 +61,8 @@ class FilDuBus {
     std::unique_ptr<Methodes> methodes_;
     guint garde_ = 0;    // watches the name that another holds
     unsigned pause_ = 0; // ms before the next attempt
-    std::map<std::string, guint> appelants_;
+    guint departs_ = 0; // the subscription to whoever leaves the bus
+    std::set<std::string> appelants_; // on the bus, and known to the service
 
     mutable std::mutex mutex_;
     EtatDuBus etat_;
