@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "FilDuBus.h"
 
+#include "BusDeSession.h"
 #include "Contrat.h"
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 #include <utility>
 
 namespace extension {
@@ -14,31 +14,6 @@ namespace {
 
 constexpr unsigned kPremierePause = 200;
 constexpr unsigned kPauseMax = 5'000;
-
-struct Liberation {
-    void operator()(char* chaine) const { g_free(chaine); }
-    void operator()(GVariant* valeur) const { g_variant_unref(valeur); }
-    void operator()(GError* erreur) const { g_error_free(erreur); }
-};
-template <typename T>
-using Tenu = std::unique_ptr<T, Liberation>;
-
-} // namespace
-
-std::string AdresseDuBus() {
-    char const* const voulue = std::getenv("DBUS_SESSION_BUS_ADDRESS");
-    if (voulue != nullptr && *voulue != '\0') {
-        return voulue;
-    }
-    Tenu<char> const prise(g_build_filename(g_get_user_runtime_dir(), "bus", nullptr));
-    if (g_file_test(prise.get(), G_FILE_TEST_EXISTS) == FALSE) {
-        return {};
-    }
-    Tenu<char> const echappee(g_dbus_address_escape_value(prise.get()));
-    return std::string("unix:path=") + echappee.get();
-}
-
-namespace {
 
 /// Runs a member function on the bus thread after a pause.
 template <typename Objet, void (Objet::*Operation)()>
@@ -53,13 +28,6 @@ void Apres(GMainContext* contexte, Objet* objet, unsigned pause) {
         objet, nullptr);
     g_source_attach(source, contexte);
     g_source_unref(source);
-}
-
-/// A call to the bus itself; null on failure.
-Tenu<GVariant> DemandeAuBus(GDBusConnection* connexion, char const* methode, GVariant* arguments) {
-    return Tenu<GVariant>(g_dbus_connection_call_sync(
-        connexion, "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", methode,
-        arguments, nullptr, G_DBUS_CALL_FLAGS_NONE, 5'000, nullptr, nullptr));
 }
 
 } // namespace
@@ -114,10 +82,10 @@ void FilDuBus::Tourne() {
     g_main_context_push_thread_default(contexte_);
     Connecte();
     g_main_loop_run(boucle_);
-    Deconnecte();
-    // Let the last replies and the end of the connection go out.
-    while (g_main_context_iteration(contexte_, FALSE) != FALSE) {
+    if (connexion_ != nullptr) {
+        Ecoule(contexte_, connexion_); // the last replies
     }
+    Deconnecte();
     g_main_context_pop_thread_default(contexte_);
 }
 
@@ -177,8 +145,8 @@ void FilDuBus::DemandeLeNom() {
         methodes_.reset();
         return;
     }
-    Tenu<GVariant> const reponse =
-        DemandeAuBus(connexion_, "RequestName", g_variant_new("(su)", nom_.c_str(), kSansAttendre));
+    Tenu<GVariant> const reponse = DemandeAuBus(connexion_, arret_, "RequestName",
+                                                g_variant_new("(su)", nom_.c_str(), kSansAttendre));
     guint resultat = 0;
     if (reponse) {
         g_variant_get(reponse.get(), "(u)", &resultat);
@@ -195,13 +163,13 @@ void FilDuBus::DemandeLeNom() {
 void FilDuBus::NomPris() {
     std::string qui = "somebody";
     Tenu<GVariant> const reponse =
-        DemandeAuBus(connexion_, "GetNameOwner", g_variant_new("(s)", nom_.c_str()));
+        DemandeAuBus(connexion_, arret_, "GetNameOwner", g_variant_new("(s)", nom_.c_str()));
     if (reponse) {
         char const* proprietaire = nullptr;
         g_variant_get(reponse.get(), "(&s)", &proprietaire);
         qui = proprietaire;
-        Tenu<GVariant> const processus = DemandeAuBus(connexion_, "GetConnectionUnixProcessID",
-                                                      g_variant_new("(s)", proprietaire));
+        Tenu<GVariant> const processus = DemandeAuBus(
+            connexion_, arret_, "GetConnectionUnixProcessID", g_variant_new("(s)", proprietaire));
         if (processus) {
             guint pid = 0;
             g_variant_get(processus.get(), "(u)", &pid);
@@ -256,8 +224,8 @@ void FilDuBus::Deconnecte() {
     g_dbus_connection_signal_unsubscribe(connexion_, std::exchange(departs_, 0));
     appelants_.clear();
     methodes_.reset();
-    g_dbus_connection_flush_sync(connexion_, nullptr, nullptr);
-    g_dbus_connection_close_sync(connexion_, nullptr, nullptr);
+    // Not waited for: a bus that stands still would have the office wait for good.
+    g_dbus_connection_close(connexion_, nullptr, nullptr, nullptr);
     g_clear_object(&connexion_);
     // Unique names mean other connections on the next bus.
     appels_->Poste([](Service& service) { service.OublieTous(); });

@@ -15,10 +15,6 @@
 
 namespace extension {
 
-/// The session bus's address; empty without one. GLib would start a bus of its own then: not for us
-/// to do. Any thread.
-std::string AdresseDuBus();
-
 /// The extension's own connection to the session bus, on a thread and a GLib context of its own:
 /// the office's belong to its window system. Quiet without a bus, and back with it.
 class FilDuBus {
@@ -59,9 +55,9 @@ class FilDuBus {
     // Bus thread only.
     GDBusConnection* connexion_ = nullptr;
     std::unique_ptr<Methodes> methodes_;
-    guint garde_ = 0;    // watches the name that another holds
-    unsigned pause_ = 0; // ms before the next attempt
-    guint departs_ = 0; // the subscription to whoever leaves the bus
+    guint garde_ = 0;                 // watches the name that another holds
+    unsigned pause_ = 0;              // ms before the next attempt
+    guint departs_ = 0;               // the subscription to whoever leaves the bus
     std::set<std::string> appelants_; // on the bus, and known to the service
 
     mutable std::mutex mutex_;

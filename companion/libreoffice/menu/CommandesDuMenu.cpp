@@ -3,6 +3,7 @@
 
 #include "Avis.h"
 #include "Constat.h"
+#include "bus/BusDeSession.h"
 #include "extension/Extension.h"
 #include "menu/lancement/EnvironnementEnfant.h"
 #include "menu/lancement/Lance.h"
