@@ -125,6 +125,25 @@ void Appelants::LacheZones(std::string const& nom) {
     }
 }
 
+void Appelants::NoteRefus(std::string const& nom, std::string const& zone, Intervalle plage) {
+    Appelant* const appelant = Cherche(nom);
+    if (!appelant) {
+        return;
+    }
+    for (auto& [cle, donne] : appelant->donnes) {
+        auto const croyance = donne.zones.find(zone);
+        if (croyance != donne.zones.end()) {
+            croyance->second.NoteRefus(plage);
+        }
+    }
+}
+
+void Appelants::OublieZones(std::string const& nom) {
+    if (Appelant* const appelant = Cherche(nom)) {
+        appelant->donnes.clear();
+    }
+}
+
 void Appelants::LacheDocument(std::string const& nom) {
     LacheZones(nom);
     if (Appelant* const appelant = Cherche(nom)) {

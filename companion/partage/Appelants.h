@@ -80,9 +80,12 @@ class Appelants {
     void LacheZones(std::string const& nom);
     /// It lets go of the document that it last named as a whole.
     void LacheDocument(std::string const& nom);
+    /// A correction of its was given up before it was looked at, in a zone of that key.
+    void NoteRefus(std::string const& nom, std::string const& zone, Intervalle plage);
+    /// It lets go of the zones of every document.
+    void OublieZones(std::string const& nom);
     /// It has left the bus.
     void Oublie(std::string const& nom) noexcept { appelants_.erase(nom); }
-    void OublieTous() noexcept { appelants_.clear(); }
     /// Documents that are not open any more are no longer anybody's.
     void GardeDocuments(std::function<bool(std::string const& cle)> const& ouvert);
 

@@ -94,6 +94,30 @@ TEST_F(Callers, LettingGoOfTheZonesKeepsTheDocumentNamed) {
     EXPECT_EQ(Nomme(":1.1", "doc1", "z1"), Erreur::ZoneInconnue);
 }
 
+TEST_F(Callers, MayLetGoOfTheZonesOfEveryDocument) {
+    appelants.Donne(":1.1", "doc1", Donne({"z1"}));
+    appelants.Donne(":1.1", "doc2", Donne({"z2"}));
+    appelants.Donne(":1.2", "doc2", Donne({"z2"}));
+    appelants.OublieZones(":1.1");
+    appelants.OublieZones(":9.9");
+    EXPECT_EQ(Nomme(":1.1", "doc1", "z1"), Erreur::ZoneInconnue);
+    EXPECT_EQ(Nomme(":1.1", "doc2", "z2"), Erreur::ZoneInconnue);
+    EXPECT_EQ(appelants.DonneDocument(":1.1"), "doc2");
+    EXPECT_EQ(Nomme(":1.2", "doc2", "z2"), std::nullopt);
+}
+
+TEST_F(Callers, CountOnNoCorrectionThatWasGivenUpAndNameNothingByIt) {
+    appelants.Donne(":1.1", "doc1", Donne({"z1", "z2"}));
+    appelants.Donne(":1.1", "doc2", Donne({"z3"}));
+    appelants.NoteRefus(":1.1", "z1", {1, 3});
+    appelants.NoteRefus(":1.1", "z9", {1, 3});
+    appelants.NoteRefus(":9.9", "z1", {1, 3});
+    EXPECT_EQ(appelants.DonneDocument(":1.1"), "doc2");
+    EXPECT_FALSE(appelants.NommeZone(":1.1", "doc1", "z1").Localise({2, 3}, u"texte"));
+    EXPECT_TRUE(appelants.NommeZone(":1.1", "doc1", "z1").Localise({0, 1}, u"texte"));
+    EXPECT_TRUE(appelants.NommeZone(":1.1", "doc1", "z2").Localise({2, 3}, u"texte"));
+}
+
 TEST_F(Callers, LettingGoOfADocumentLeavesTheOthers) {
     appelants.Donne(":1.1", "doc1", Donne({"z1"}));
     appelants.Donne(":1.1", "doc2", Donne({"z2"}));

@@ -1,51 +1,41 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include <functional>
 #include <mutex>
-#include <utility>
 
 namespace extension {
 
-/// Work asked of the main thread that may be given up until it starts, and never after. One lock
+/// What was asked of the main thread: it may be given up whenever that is not at it. One lock
 /// decides: a caller who was told "too late" can rely on nothing happening any more, and work that
-/// has started is never reported as given up. All operations from any thread.
+/// goes on is never reported as given up. All operations from any thread.
 class Demande {
   public:
-    explicit Demande(std::function<void()> travail)
-        : travail_(std::move(travail)) {}
-
-    /// Runs the work unless it was given up or ran before; on the calling thread.
-    void Execute() {
-        std::function<void()> travail;
-        {
-            std::lock_guard<std::mutex> verrou(mutex_);
-            if (etat_ != Etat::EnAttente) {
-                return;
-            }
-            etat_ = Etat::Commencee;
-            travail = std::move(travail_);
-        }
-        travail();
-    }
-
-    /// Gives the work up; false when it has started already.
-    bool Annule() {
-        std::lock_guard<std::mutex> verrou(mutex_);
-        if (etat_ != Etat::EnAttente) {
-            return false;
-        }
-        etat_ = Etat::Annulee;
-        travail_ = nullptr;
-        return true;
+    /// The main thread takes it up, or goes on with it; false when it was given up, or when that
+    /// thread is at it already, farther up in its calls.
+    bool Commence() { return Passe(Etat::EnAttente, Etat::EnCours); }
+    /// The main thread leaves it for a while.
+    void Suspends() { Passe(Etat::EnCours, Etat::EnAttente); }
+    /// Gives it up; false when the main thread is at it, and where it was given up before.
+    bool Annule() { return Passe(Etat::EnAttente, Etat::Annulee); }
+    bool EstAnnulee() const {
+        std::lock_guard<std::mutex> const verrou(mutex_);
+        return etat_ == Etat::Annulee;
     }
 
   private:
-    enum class Etat { EnAttente, Commencee, Annulee };
+    enum class Etat { EnAttente, EnCours, Annulee };
 
-    std::mutex mutex_;
+    bool Passe(Etat depuis, Etat vers) {
+        std::lock_guard<std::mutex> const verrou(mutex_);
+        if (etat_ != depuis) {
+            return false;
+        }
+        etat_ = vers;
+        return true;
+    }
+
+    mutable std::mutex mutex_;
     Etat etat_ = Etat::EnAttente;
-    std::function<void()> travail_;
 };
 
 } // namespace extension

@@ -209,7 +209,7 @@ void FilDuBus::SuisLesDeparts() {
 
 void FilDuBus::Part(std::string const& qui) {
     if (appelants_.erase(qui) > 0) {
-        appels_->Poste([qui](Service& service) { service.Oublie(qui); });
+        appels_->Part(qui);
     }
 }
 
@@ -222,13 +222,14 @@ void FilDuBus::Deconnecte() {
         g_bus_unwatch_name(std::exchange(garde_, 0));
     }
     g_dbus_connection_signal_unsubscribe(connexion_, std::exchange(departs_, 0));
-    appelants_.clear();
     methodes_.reset();
     // Not waited for: a bus that stands still would have the office wait for good.
     g_dbus_connection_close(connexion_, nullptr, nullptr, nullptr);
     g_clear_object(&connexion_);
     // Unique names mean other connections on the next bus.
-    appels_->Poste([](Service& service) { service.OublieTous(); });
+    for (std::string const& qui : std::exchange(appelants_, {})) {
+        appels_->Part(qui);
+    }
 }
 
 } // namespace extension

@@ -15,13 +15,13 @@ namespace {
 
 class Rappel : public cppu::WeakImplHelper1<awt::XCallback> {
   public:
-    explicit Rappel(std::shared_ptr<Demande> demande)
-        : demande_(std::move(demande)) {}
+    explicit Rappel(std::function<void()> travail)
+        : travail_(std::move(travail)) {}
 
-    void SAL_CALL notify(uno::Any const& /*donnee*/) override { demande_->Execute(); }
+    void SAL_CALL notify(uno::Any const& /*donnee*/) override { travail_(); }
 
   private:
-    std::shared_ptr<Demande> demande_;
+    std::function<void()> travail_;
 };
 
 } // namespace
@@ -31,8 +31,8 @@ FilPrincipal::FilPrincipal(uno::Reference<uno::XComponentContext> const& context
                 "com.sun.star.awt.AsyncCallback", contexte),
             uno::UNO_QUERY_THROW) {}
 
-void FilPrincipal::Poste(std::shared_ptr<Demande> demande) {
-    file_->addCallback(new Rappel(std::move(demande)), uno::Any());
+void FilPrincipal::Poste(std::function<void()> travail) {
+    file_->addCallback(new Rappel(std::move(travail)), uno::Any());
 }
 
 } // namespace extension

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "Demande.h"
-
 #include <com/sun/star/awt/XRequestCallback.hpp>
 #include <com/sun/star/uno/XComponentContext.hpp>
 
-#include <memory>
+#include <functional>
 
 namespace extension {
 
@@ -17,10 +15,10 @@ class FilPrincipal {
     /// Office lock not needed; any thread.
     explicit FilPrincipal(css::uno::Reference<css::uno::XComponentContext> const& contexte);
 
-    /// Queues the work; it runs in the order of posting, with the office's lock held, once the main
-    /// thread is free (also beneath a modal dialog). While the office starts or quits it may never
-    /// run: whoever needs an answer sets a time limit and gives the work up. Any thread.
-    void Poste(std::shared_ptr<Demande> demande);
+    /// Queues the work, which throws nothing; it runs in the order of posting, with the office's
+    /// lock held, once the main thread is free (also beneath a modal dialog). While the office
+    /// starts or quits it may never run. Any thread.
+    void Poste(std::function<void()> travail);
 
   private:
     css::uno::Reference<css::awt::XRequestCallback> file_;

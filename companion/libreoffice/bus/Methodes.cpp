@@ -42,12 +42,26 @@ GVariant* Entier(std::int32_t nombre) {
 }
 
 /// Sends a call to the main thread; the signal's answer is "handled".
+gboolean Envoie(gpointer methodes, Appels::Appel appel) {
+    auto& soi = *static_cast<Methodes*>(methodes);
+    soi.Note(g_dbus_method_invocation_get_sender(appel.invocation));
+    soi.Cible().Sert(std::move(appel));
+    return TRUE;
+}
+
+/// Work that is done in one piece.
+template <typename Travail>
+Appels::Travail DUneTraite(Travail travail) {
+    return [travail = std::move(travail)](Service& service, Appels::Morceau const& morceau) {
+        return Appels::Issue(travail(service, morceau.appelant));
+    };
+}
+
 template <typename Travail>
 gboolean Sert(gpointer methodes, Invocation* invocation, Travail travail) {
-    auto& soi = *static_cast<Methodes*>(methodes);
-    soi.Note(g_dbus_method_invocation_get_sender(invocation));
-    soi.Cible().Sert(invocation, soi.DonneDelais().ordinaire, std::move(travail));
-    return TRUE;
+    auto const& delais = static_cast<Methodes*>(methodes)->DonneDelais();
+    return Envoie(methodes,
+                  {invocation, delais.ordinaire, DUneTraite(std::move(travail)), nullptr});
 }
 
 /// A call without argument or result.
@@ -136,14 +150,20 @@ gboolean SurAjuste(GObject* /*s*/, Invocation* invocation, gint debut, gint fin,
 
 gboolean SurCorrige(GObject* /*s*/, Invocation* invocation, char const* zone, gint debut, gint fin,
                     char const* texte, gboolean automatique, gpointer methodes) {
-    return Sert(
-        methodes, invocation,
-        [zone = std::string(zone), plage = Intervalle{debut, fin},
-         texte = compagnon::RemplacementDepuisUtf8(texte),
-         automatique](Service& service, std::string const& appelant) {
-            service.CorrigeDansTexteur({appelant, automatique != FALSE}, zone, plage, texte);
-            return static_cast<GVariant*>(nullptr);
-        });
+    auto travail = [zone = std::string(zone), plage = Intervalle{debut, fin},
+                    texte = compagnon::RemplacementDepuisUtf8(texte),
+                    automatique](Service& service, std::string const& appelant) {
+        service.CorrigeDansTexteur({appelant, automatique != FALSE}, zone, plage, texte);
+        return static_cast<GVariant*>(nullptr);
+    };
+    // Most hosts do not wait for it: given up, it is still in their own copy of the text.
+    auto renonce = [zone = std::string(zone),
+                    plage = Intervalle{debut, fin}](Service& service, std::string const& appelant) {
+        service.RenonceACorriger(appelant, zone, plage);
+    };
+    auto const& delais = static_cast<Methodes*>(methodes)->DonneDelais();
+    return Envoie(methodes, {invocation, delais.ordinaire, DUneTraite(std::move(travail)),
+                             std::move(renonce)});
 }
 
 gboolean SurPeutCorriger(GObject* /*s*/, Invocation* invocation, char const* zone, gint debut,
@@ -183,14 +203,13 @@ gboolean SurSynchronise(GObject* /*s*/, Invocation* invocation, char const* leId
 }
 
 gboolean SurInitialise(GObject* /*s*/, Invocation* invocation, char const* cle, gpointer methodes) {
-    auto& soi = *static_cast<Methodes*>(methodes);
-    soi.Note(g_dbus_method_invocation_get_sender(invocation));
-    soi.Cible().Sert(invocation, soi.DonneDelais().initialisation,
-                     [cle = std::string(cle)](Service& service, std::string const& appelant) {
-                         service.InitialiseTexteur(appelant, cle);
-                         return static_cast<GVariant*>(nullptr);
-                     });
-    return TRUE;
+    auto const& delais = static_cast<Methodes*>(methodes)->DonneDelais();
+    auto travail = [cle = std::string(cle)](Service& service, std::string const& appelant) {
+        service.InitialiseTexteur(appelant, cle);
+        return static_cast<GVariant*>(nullptr);
+    };
+    return Envoie(methodes,
+                  {invocation, delais.initialisation, DUneTraite(std::move(travail)), nullptr});
 }
 
 /// Answered here and now: who asks waits a second and a half at most, and a busy office is alive.

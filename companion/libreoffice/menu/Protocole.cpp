@@ -78,10 +78,9 @@ class Protocole : public cppu::WeakImplHelper4<frame::XDispatchProvider, frame::
         }
         extension::Extension::Demarre(contexte_);
         // Whatever thread asks: boxes belong on the main one, and the caller waits for none.
-        fil_.Poste(std::make_shared<extension::Demande>(
-            [commande, contexte = contexte_, cadre = uno::Reference<frame::XFrame>(cadre_)] {
-                Execute(*commande, contexte, cadre);
-            }));
+        fil_.Poste([commande, contexte = contexte_, cadre = uno::Reference<frame::XFrame>(cadre_)] {
+            Execute(*commande, contexte, cadre);
+        });
     }
 
     void SAL_CALL addStatusListener(uno::Reference<frame::XStatusListener> const& ecouteur,

@@ -28,7 +28,13 @@ class Service {
     std::string DonneIdentifiant(DocumentOuvert const& document) const;
     /// That caller has left the bus.
     void Oublie(std::string const& appelant) { appelants_.Oublie(appelant); }
-    void OublieTous() { appelants_.OublieTous(); }
+    /// It may count on a correction that was not made: it synchronises before its next one.
+    void OublieZones(std::string const& appelant) { appelants_.OublieZones(appelant); }
+    /// A correction of its was given up before it was looked at.
+    void RenonceACorriger(std::string const& appelant, std::string const& zone,
+                          compagnon::Intervalle plage) {
+        appelants_.NoteRefus(appelant, zone, plage);
+    }
 
     std::string DonneDocuments();
     /// What a person would call each zone of the document that the caller was given. `leId`: a

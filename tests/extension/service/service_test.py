@@ -11,11 +11,9 @@ import gi
 gi.require_version("Gio", "2.0")
 from gi.repository import Gio, GLib  # noqa: E402
 
-import unohelper  # noqa: E402
-from com.sun.star.io import XOutputStream  # noqa: E402
-
 import banc  # noqa: E402
 from ecrivain import Ecrivain  # noqa: E402
+from occupe import Occupe  # noqa: E402
 
 METHODES = {
     "ActivePourCorrecteur": (), "ActivePourOutils": (), "AjusteSelectionPourOutils": (0, 0),
@@ -26,43 +24,6 @@ METHODES = {
     "PermetsRetourDeCharriot": (), "RompsLienCorrecteur": (), "Suspends": (),
     "RompsLienTexteur": (),
 }
-
-
-class Barrage(unohelper.Base, XOutputStream):
-    """A file that takes no byte until it is opened: the office waits on it, its lock held."""
-
-    def __init__(self):
-        self.atteint = threading.Event()
-        self.ouvert = threading.Event()
-
-    def writeBytes(self, octets):
-        self.atteint.set()
-        self.ouvert.wait(banc.PATIENCE)
-
-    def flush(self):
-        pass
-
-    def closeOutput(self):
-        pass
-
-
-class Occupe:
-    """An office whose main thread is kept busy while the block runs."""
-
-    def __init__(self, doc):
-        self.barrage = Barrage()
-        self.fil = threading.Thread(target=lambda: doc.storeToURL(
-            "private:stream", (banc.pv("OutputStream", self.barrage),
-                               banc.pv("FilterName", "writer8"))))
-
-    def __enter__(self):
-        self.fil.start()
-        assert self.barrage.atteint.wait(banc.PATIENCE)
-        return self
-
-    def __exit__(self, *_):
-        self.barrage.ouvert.set()
-        self.fil.join()
 
 
 class Cas(unittest.TestCase):
