@@ -23,7 +23,8 @@ void PlanDePortions::Ajoute(GenrePortion genre, std::u16string source, std::uint
     }
     std::size_t const debut = texte_.size();
     portions_.push_back({genre, std::move(source), style});
-    if (genre == GenrePortion::Texte) {
+    if (genre == GenrePortion::Texte || genre == GenrePortion::Champ ||
+        genre == GenrePortion::Fixe) {
         AjouteTexte(portions_.size() - 1);
     } else if (genre == GenrePortion::Substitut) {
         std::u16string const& montre = portions_.back().source;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
+#include "NonLus.h"
 #include "PlagesDeStyle.h"
 #include "Portion.h"
 
@@ -34,10 +35,16 @@ class PlanDePortions {
     /// Appends letters of one format whose styles differ by script: `styles` in order, in units of
     /// the source.
     void Ajoute(std::u16string source, std::vector<PlageDeStyle> const& styles);
+    /// From now on nothing in it may be changed: any edit would take something along that the
+    /// portions do not show.
+    void Fige() noexcept { fige_ = true; }
+    /// Something in the paragraph that a person may have put there is not among the portions' text.
+    void NoteNonLu(RaisonNonLu raison) noexcept { nonLus_.Note(raison); }
 
     std::u16string const& DonneTexte() const noexcept { return texte_; }
     std::vector<PlageDeStyle> const& DonneStyles() const noexcept { return styles_.Donne(); }
     std::vector<Portion> const& DonnePortions() const noexcept { return portions_; }
+    NonLus const& DonneNonLus() const noexcept { return nonLus_; }
 
     /// May any text at all be put in place of this range (in bounds) without harm to anything that
     /// is not a letter? False as soon as the range holds such a thing.
@@ -77,11 +84,15 @@ class PlanDePortions {
     std::optional<Morceau> PointInsertion(std::size_t decalage) const;
     bool ContientObstacle(std::size_t avant, std::size_t apres) const;
     bool EstAuBordDe(GenrePortion genre, std::size_t portion, bool apres) const;
+    bool EstChamp(std::size_t portion) const {
+        return portions_[portion].genre == GenrePortion::Champ;
+    }
     std::size_t DonneSource(std::size_t portion, std::size_t decalage) const;
     bool Ecris(Morceau const& morceau, std::u16string_view part,
                std::vector<EtapeEdition>& etapes) const;
     bool EcrisSource(std::size_t portion, std::size_t debut, std::size_t fin,
                      std::u16string const& ajout, std::vector<EtapeEdition>& etapes) const;
+    bool PeutProlonger(std::size_t debut, std::size_t fin, std::size_t decalage) const;
     bool Prolonge(std::size_t decalage, bool versLaSuite, std::size_t limite,
                   std::u16string_view ajout, std::vector<EtapeEdition>& etapes) const;
     bool VideUneEtendue(std::vector<Morceau> const& morceaux,
@@ -91,6 +102,8 @@ class PlanDePortions {
     PlagesDeStyle styles_;
     std::vector<Portion> portions_;
     std::vector<Segment> segments_;
+    NonLus nonLus_;
+    bool fige_ = false;
 };
 
 } // namespace compagnon

@@ -15,11 +15,12 @@ namespace {
 
 bool EstObstacle(GenrePortion genre) noexcept {
     return genre == GenrePortion::Exclue || genre == GenrePortion::Substitut ||
-           genre == GenrePortion::Ancre;
+           genre == GenrePortion::Ancre || genre == GenrePortion::Attache ||
+           genre == GenrePortion::Fixe;
 }
 
-bool EstSansEtendue(GenrePortion genre) noexcept {
-    return genre == GenrePortion::Repere || genre == GenrePortion::Limite;
+bool EstFaiteDeLettres(GenrePortion genre) noexcept {
+    return genre == GenrePortion::Texte || genre == GenrePortion::Champ;
 }
 
 } // namespace
@@ -47,8 +48,7 @@ bool PlanDePortions::EstAuBordDe(GenrePortion genre, std::size_t portion, bool a
         if (voisine.genre == genre) {
             return true;
         }
-        bool const vide = voisine.genre == GenrePortion::Texte && voisine.source.empty();
-        if (!vide && !EstSansEtendue(voisine.genre)) {
+        if (!voisine.EstSansEtendue()) {
             return false;
         }
     }
@@ -76,7 +76,7 @@ auto PlanDePortions::Decoupe(std::size_t debut, std::size_t fin) const
         if (it->taille == 0) {
             continue;
         }
-        if (portions_[it->portion].genre != GenrePortion::Texte) {
+        if (!EstFaiteDeLettres(portions_[it->portion].genre)) {
             return std::nullopt;
         }
         std::size_t const de = std::max(debut, it->debut);
@@ -101,7 +101,10 @@ auto PlanDePortions::PointInsertion(std::size_t decalage) const -> std::optional
             return segment.debut + segment.taille < decalage;
         });
     for (auto it = premier; it != segments_.end() && it->debut <= decalage; ++it) {
-        if (portions_[it->portion].genre != GenrePortion::Texte) {
+        // At its borders letters stand outside of a field, as when typing.
+        bool const dansUnChamp =
+            EstChamp(it->portion) && it->debut < decalage && decalage < it->debut + it->taille;
+        if (portions_[it->portion].genre != GenrePortion::Texte && !dansUnChamp) {
             continue;
         }
         // Letters go with the ones before them, as when typing; an empty portion comes last.
@@ -121,6 +124,9 @@ auto PlanDePortions::PointInsertion(std::size_t decalage) const -> std::optional
 }
 
 bool PlanDePortions::PeutModifier(std::size_t debut, std::size_t fin) const {
+    if (fige_) {
+        return false;
+    }
     if (debut == fin) {
         return PointInsertion(debut).has_value();
     }
@@ -130,6 +136,9 @@ bool PlanDePortions::PeutModifier(std::size_t debut, std::size_t fin) const {
     }
     for (Morceau const& morceau : *morceaux) {
         Portion const& portion = portions_[morceau.portion];
+        if (EstChamp(morceau.portion)) {
+            continue;
+        }
         bool const auDebut = morceau.source == 0;
         bool const entiere =
             auDebut && DonneSource(morceau.portion, morceau.fin - 1) + 1 == portion.source.size();
@@ -147,8 +156,7 @@ bool PlanDePortions::PeutModifier(std::size_t debut, std::size_t fin) const {
 bool PlanDePortions::VideUneEtendue(std::vector<Morceau> const& morceaux,
                                     std::vector<std::u16string_view> const& parts) const {
     auto const appartient = [&](std::size_t i) {
-        return portions_[i].genre == GenrePortion::Texte ||
-               portions_[i].genre == GenrePortion::Repere;
+        return EstFaiteDeLettres(portions_[i].genre) || portions_[i].genre == GenrePortion::Repere;
     };
     for (Morceau const& vise : morceaux) {
         std::size_t debut = vise.portion;
@@ -194,6 +202,12 @@ bool PlanDePortions::Ecris(Morceau const& morceau, std::u16string_view part,
     std::size_t const portion = morceau.portion;
     std::size_t const a = morceau.debut + edition.debut;
     if (edition.retire == 0) {
+        // At an end of the piece they would take what stands beyond it for their own.
+        bool const auDebut = edition.debut == 0;
+        if (morceau.debut < morceau.fin && (auDebut || a == morceau.fin) &&
+            Prolonge(a, auDebut, auDebut ? morceau.fin : morceau.debut, edition.ajout, etapes)) {
+            return true;
+        }
         std::size_t const u = edition.debut == 0 ? morceau.source : DonneSource(portion, a - 1) + 1;
         etapes.push_back({portion, u, u, std::u16string(edition.ajout), portions_[portion].source});
         return true;
@@ -207,17 +221,19 @@ bool PlanDePortions::EcrisSource(std::size_t portion, std::size_t debut, std::si
                                  std::u16string const& ajout,
                                  std::vector<EtapeEdition>& etapes) const {
     std::u16string const& source = portions_[portion].source;
-    if (debut == 0 && EstAuBordDe(GenrePortion::Repere, portion, false)) {
-        return false;
+    bool const champ = EstChamp(portion);
+    if (champ ? ajout.empty() && debut == 0 && fin == source.size()
+              : debut == 0 && EstAuBordDe(GenrePortion::Repere, portion, false)) {
+        return false; // an empty field shows nobody where it stands
     }
     // New letters are put in before the old ones leave, in between letters of the same portion, so
     // that they take its format and whatever spans it never becomes empty.
     std::size_t place = fin;
     std::u16string apres = source;
     if (!ajout.empty()) {
-        if (fin == source.size() && debut > 0) {
+        if (!champ && fin == source.size() && debut > 0) {
             place = debut;
-        } else if (fin == source.size()) {
+        } else if (!champ && fin == source.size()) {
             std::size_t const un = CoupePaire(source, 1) ? 2 : 1;
             if (un == source.size() && EstAuBordDe(GenrePortion::Limite, portion, true)) {
                 return false;
@@ -237,16 +253,32 @@ bool PlanDePortions::EcrisSource(std::size_t portion, std::size_t debut, std::si
     return true;
 }
 
+/// May letters put in at an end of this range be given to the portion of the letter beside them?
+bool PlanDePortions::PeutProlonger(std::size_t debut, std::size_t fin, std::size_t decalage) const {
+    if (debut < fin) {
+        return decalage == debut || decalage == fin;
+    }
+    // Nothing stands before a paragraph's start that they could go with. What begins there with
+    // the first letter (a link, a field) begins behind them, as when typing.
+    auto const place = decalage == 0 ? DonnePlace(0, true) : std::nullopt;
+    return place && portions_[place->portion].genre == GenrePortion::Texte &&
+           !EstAuBordDe(GenrePortion::Limite, place->portion, false);
+}
+
 bool PlanDePortions::Prolonge(std::size_t decalage, bool versLaSuite, std::size_t limite,
                               std::u16string_view ajout, std::vector<EtapeEdition>& etapes) const {
     auto const place = DonnePlace(decalage, versLaSuite);
-    if (!place || portions_[place->portion].genre != GenrePortion::Texte) {
+    if (!place || !EstFaiteDeLettres(portions_[place->portion].genre)) {
         return false;
     }
     std::size_t const portion = place->portion;
     std::u16string const& source = portions_[portion].source;
+    if (EstChamp(portion)) {
+        etapes.push_back({portion, place->unite, place->unite, std::u16string(ajout), source});
+        return true;
+    }
     bool const auBord = place->unite == (versLaSuite ? 0 : source.size());
-    bool const utile = versLaSuite ? portion > 0 : EstAuBordDe(GenrePortion::Limite, portion, true);
+    bool const utile = versLaSuite || EstAuBordDe(GenrePortion::Limite, portion, true);
     if (!auBord || !utile || source.empty()) {
         return false;
     }
@@ -254,8 +286,8 @@ bool PlanDePortions::Prolonge(std::size_t decalage, bool versLaSuite, std::size_
     while (voisine > 0 && voisine < source.size() && CoupeCaractere(source, voisine)) {
         voisine += versLaSuite ? 1 : -1;
     }
-    // A single letter would have to be emptied around what is put in.
-    if (voisine == 0 || voisine == source.size()) {
+    // Before its border's last letter nothing is left of the portion to put letters behind.
+    if (voisine == 0) {
         return false;
     }
     std::size_t const atteint = DonneDecalage({portion, voisine});
@@ -277,7 +309,7 @@ std::optional<std::vector<EtapeEdition>> PlanDePortions::Prepare(std::size_t deb
     if (edition.EstVide()) {
         return etapes;
     }
-    if (!EstTapable(edition.ajout)) {
+    if (fige_ || !EstTapable(edition.ajout)) {
         return std::nullopt;
     }
     std::size_t const a = debut + edition.debut;
@@ -285,8 +317,8 @@ std::optional<std::vector<EtapeEdition>> PlanDePortions::Prepare(std::size_t deb
         // At an end of the range the letters belong to its words, and to what spans them: they go
         // in with the letter beside them where they would fall outside by themselves.
         bool const auDebut = a == debut;
-        if (debut < fin && (auDebut || a == fin) &&
-            Prolonge(a, auDebut, auDebut ? fin : debut, edition.ajout, etapes)) {
+        std::size_t const limite = debut == fin ? texte_.size() : auDebut ? fin : debut;
+        if (PeutProlonger(debut, fin, a) && Prolonge(a, auDebut, limite, edition.ajout, etapes)) {
             return etapes;
         }
         auto const point = PointInsertion(a);
@@ -295,7 +327,18 @@ std::optional<std::vector<EtapeEdition>> PlanDePortions::Prepare(std::size_t deb
         }
         return etapes;
     }
-    auto const morceaux = Decoupe(a, a + edition.retire);
+    // What is put in where a portion starts goes with the letter before it, as when typing: that
+    // one takes part in the sharing out.
+    std::size_t avant = 0;
+    while (avant < edition.debut && (avant == 0 || CoupeCaractere(texte_, a - avant))) {
+        ++avant;
+    }
+    auto morceaux = Decoupe(a - avant, a + edition.retire);
+    auto const seuls = avant > 0 ? Decoupe(a, a + edition.retire) : morceaux;
+    if (!morceaux || !seuls || morceaux->size() == seuls->size()) {
+        avant = 0;
+        morceaux = seuls;
+    }
     if (!morceaux || morceaux->empty()) {
         return std::nullopt;
     }
@@ -305,7 +348,8 @@ std::optional<std::vector<EtapeEdition>> PlanDePortions::Prepare(std::size_t deb
         tailles.push_back(morceau.fin - morceau.debut);
     }
     auto const parts =
-        RepartisTexte(ancien.substr(edition.debut, edition.retire), tailles, edition.ajout);
+        RepartisTexte(ancien.substr(edition.debut - avant, edition.retire + avant), tailles,
+                      texte.substr(edition.debut - avant, edition.ajout.size() + avant));
     if (VideUneEtendue(*morceaux, parts)) {
         return std::nullopt;
     }

@@ -42,9 +42,10 @@ ModeleDeParagraphe ModeleDeParagraphe::AuHasard(std::mt19937& hasard) {
     for (auto i = hasard() % 8; i > 0; --i) {
         // Letters as often as everything else together.
         auto const genre =
-            hasard() % 2 == 0 ? GenrePortion::Texte : static_cast<GenrePortion>(hasard() % 6);
+            hasard() % 2 == 0 ? GenrePortion::Texte : static_cast<GenrePortion>(hasard() % 9);
         Portion portion{genre, {}, static_cast<std::uint16_t>(hasard() % 3)};
-        if (genre == GenrePortion::Texte || genre == GenrePortion::Exclue) {
+        if (genre == GenrePortion::Texte || genre == GenrePortion::Champ ||
+            genre == GenrePortion::Fixe || genre == GenrePortion::Exclue) {
             for (char16_t const unite : LettresAuHasard(hasard)) {
                 portion.lettres.push_back({unite, ++identite});
             }
@@ -76,13 +77,27 @@ compagnon::PlanDePortions ModeleDeParagraphe::Plan() const {
     return plan;
 }
 
+bool ModeleDeParagraphe::EstPrecedeeDUnSignet(std::size_t portion) const {
+    while (portion > 0) {
+        Portion const& avant = portions[--portion];
+        if (avant.genre == GenrePortion::Repere) {
+            return true;
+        }
+        if (avant.genre != GenrePortion::Limite && avant.genre != GenrePortion::Attache) {
+            return false;
+        }
+    }
+    return false;
+}
+
 std::string ModeleDeParagraphe::Execute(compagnon::EtapeEdition const& etape, bool suivi) {
     if (etape.portion >= portions.size()) {
         return "no such portion";
     }
     Portion& portion = portions[etape.portion];
     std::u16string const lettres = Chaine(portion.lettres);
-    if (portion.genre != GenrePortion::Texte) {
+    bool const champ = portion.genre == GenrePortion::Champ;
+    if (portion.genre != GenrePortion::Texte && !champ) {
         return "touches what is not text";
     }
     if (etape.debut > etape.fin || etape.fin > lettres.size()) {
@@ -104,18 +119,20 @@ std::string ModeleDeParagraphe::Execute(compagnon::EtapeEdition const& etape, bo
         portion.lettres.insert(debut, nouvelles.begin(), nouvelles.end());
         return {};
     }
-    if (etape.debut == 0 && etape.portion > 0 &&
-        portions[etape.portion - 1].genre == GenrePortion::Repere) {
+    if (!champ && etape.debut == 0 && EstPrecedeeDUnSignet(etape.portion)) {
         return "takes a bookmark along";
     }
     auto const fin = portion.lettres.begin() + static_cast<long>(etape.fin);
-    if (suivi) {
+    if (suivi && !champ) { // a field's words are given anew, not deleted
         for (auto it = debut; it != fin; ++it) {
             it->supprimee = true;
         }
         return {};
     }
     portion.lettres.erase(debut, fin);
+    if (champ && portion.lettres.empty()) {
+        return "empties a field";
+    }
     bool const entreLimites = etape.portion > 0 && etape.portion + 1 < portions.size() &&
                               portions[etape.portion - 1].genre == GenrePortion::Limite &&
                               portions[etape.portion + 1].genre == GenrePortion::Limite;

@@ -32,4 +32,8 @@ class ModeleDeParagraphe {
     std::string Execute(compagnon::EtapeEdition const& etape, bool suivi);
 
     std::vector<Portion> portions;
+
+  private:
+    /// Does a bookmark without extent stand right where the portion starts?
+    bool EstPrecedeeDUnSignet(std::size_t portion) const;
 };

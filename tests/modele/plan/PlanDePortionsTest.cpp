@@ -147,6 +147,39 @@ TEST(PortionPlan, LettersPutInAtTheEndOfABookmarkStandInsideIt) {
     EXPECT_THAT(*etapes, ElementsAre(Attendue{1, 3, 3, u"ts"}, Attendue{1, 5, 6, u""}));
 }
 
+TEST(PortionPlan, LettersPutInAtTheEndOfABookmarkAmongOtherChangesStandInsideIt) {
+    PlanDePortions plan;
+    plan.Ajoute(GenrePortion::Texte, u"le ");
+    plan.Ajoute(GenrePortion::Limite);
+    plan.Ajoute(GenrePortion::Texte, u"chat");
+    plan.Ajoute(GenrePortion::Limite);
+    plan.Ajoute(GenrePortion::Texte, u" noir");
+    auto const etapes = plan.Prepare(0, 12, u"les chats noir");
+    ASSERT_TRUE(etapes);
+    EXPECT_THAT(*etapes, ElementsAre(Attendue{2, 3, 3, u"ts"}, Attendue{2, 5, 6, u""},
+                                     Attendue{0, 2, 2, u"s"}));
+}
+
+TEST(PortionPlan, LettersPutInAtAParagraphsStartGoWithItsFirstLetter) {
+    PlanDePortions plan;
+    plan.Ajoute(GenrePortion::Texte, u"eau");
+    for (std::size_t const fin : {0, 3}) {
+        auto const etapes = plan.Prepare(0, fin, u"l'" + std::u16string(u"eau").substr(0, fin));
+        ASSERT_TRUE(etapes);
+        EXPECT_THAT(*etapes, ElementsAre(Attendue{0, 1, 1, u"l'e"}, Attendue{0, 0, 1, u""}));
+    }
+}
+
+TEST(PortionPlan, LettersPutInBeforeAParagraphThatABookmarkStartsStandOutsideOfIt) {
+    PlanDePortions plan;
+    plan.Ajoute(GenrePortion::Limite);
+    plan.Ajoute(GenrePortion::Texte, u"eau");
+    plan.Ajoute(GenrePortion::Limite);
+    auto const etapes = plan.Prepare(0, 0, u"l'");
+    ASSERT_TRUE(etapes);
+    EXPECT_THAT(*etapes, ElementsAre(Attendue{1, 0, 0, u"l'"}));
+}
+
 TEST(PortionPlan, AWholePortionIsFilledBeforeItIsEmptied) {
     auto const etapes = ChatEnGras().Prepare(3, 7, u"lion");
     ASSERT_TRUE(etapes);
@@ -191,6 +224,8 @@ TEST_P(ObstacleTest, BesideTheChangedSpanLetsTheEditThrough) {
 INSTANTIATE_TEST_SUITE_P(Kinds, ObstacleTest,
                          testing::Values(CasRefuse{"Field", GenrePortion::Substitut},
                                          CasRefuse{"CommentAnchor", GenrePortion::Ancre},
+                                         CasRefuse{"FrameAnchor", GenrePortion::Attache},
+                                         CasRefuse{"FixedLetters", GenrePortion::Fixe},
                                          CasRefuse{"TrackedDeletion", GenrePortion::Exclue}),
                          [](auto const& cas) { return std::string(cas.param.quoi); });
 
@@ -215,6 +250,65 @@ TEST(PortionPlan, ADeletionNeverStartsOnABookmarkWithoutExtent) {
     EXPECT_FALSE(plan.PeutModifier(3, 7));
     EXPECT_TRUE(plan.Prepare(3, 7, u"chut"));
     EXPECT_TRUE(plan.Prepare(0, 3, u"le "));
+}
+
+TEST(PortionPlan, ABookmarkWithoutExtentBesideAFramesAnchorIsSeenAcrossIt) {
+    PlanDePortions plan;
+    plan.Ajoute(GenrePortion::Texte, u"un ");
+    plan.Ajoute(GenrePortion::Repere);
+    plan.Ajoute(GenrePortion::Attache);
+    plan.Ajoute(GenrePortion::Texte, u"chat");
+    EXPECT_FALSE(plan.Prepare(3, 7, u"lion"));
+    EXPECT_FALSE(plan.PeutModifier(3, 7));
+    EXPECT_TRUE(plan.Prepare(3, 7, u"chut"));
+}
+
+TEST(PortionPlan, AFieldsLettersAreReadAndChangedInsideOfIt) {
+    PlanDePortions plan;
+    plan.Ajoute(GenrePortion::Texte, u"voir ");
+    plan.Ajoute(GenrePortion::Champ, u"un lien");
+    plan.Ajoute(GenrePortion::Texte, u".");
+    EXPECT_EQ(plan.DonneTexte(), u"voir un lien.");
+    EXPECT_TRUE(plan.PeutModifier(8, 12));
+    struct {
+        std::size_t debut, fin;
+        char16_t const* texte;
+        char16_t const* champ;
+    } const cas[] = {{8, 12, u"liens", u"un liens"},
+                     {5, 7, u"aun", u"aun lien"},
+                     {5, 12, u"le site", u"le site"},
+                     {9, 9, u"x", u"un lxien"},
+                     {5, 8, u"", u"lien"}};
+    for (auto const& un : cas) {
+        auto const etapes = plan.Prepare(un.debut, un.fin, un.texte);
+        ASSERT_TRUE(etapes);
+        ASSERT_FALSE(etapes->empty());
+        for (EtapeEdition const& etape : *etapes) {
+            EXPECT_EQ(etape.portion, 1U);
+        }
+        EXPECT_EQ(etapes->back().DonneApres(), un.champ);
+    }
+}
+
+TEST(PortionPlan, AFieldIsNeverEmptiedAndWhatIsTypedBesideItStandsOutside) {
+    PlanDePortions plan;
+    plan.Ajoute(GenrePortion::Texte, u"a ");
+    plan.Ajoute(GenrePortion::Champ, u"lien");
+    EXPECT_FALSE(plan.Prepare(2, 6, u""));
+    auto const avant = plan.Prepare(2, 2, u"x");
+    ASSERT_TRUE(avant);
+    EXPECT_THAT(*avant, ElementsAre(Attendue{0, 2, 2, u"x"}));
+    EXPECT_FALSE(plan.Prepare(6, 6, u"x")); // nothing to put it into
+}
+
+TEST(PortionPlan, NothingOfAFixedParagraphCanBeChanged) {
+    PlanDePortions plan = ChatEnGras();
+    plan.Fige();
+    EXPECT_FALSE(plan.PeutModifier(0, 2));
+    EXPECT_FALSE(plan.Prepare(0, 2, u"le"));
+    auto const rien = plan.Prepare(0, 2, u"un");
+    ASSERT_TRUE(rien);
+    EXPECT_THAT(*rien, IsEmpty());
 }
 
 TEST(PortionPlan, TheFillerAndControlCharactersNeverGoIntoADocument) {

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MPL-2.0
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+namespace compagnon {
+
+/// Why something that a person may have put into a document is not read.
+enum class RaisonNonLu : std::uint8_t {
+    Choix,    ///< chosen, not typed: an entry of a list, a date, a box that is ticked
+    Masque,   ///< hidden letters
+    Supprime, ///< deleted while changes were recorded
+    kNombre
+};
+
+/// How often each of these reasons was met. Any thread.
+class NonLus {
+  public:
+    void Note(RaisonNonLu raison) noexcept { ++nombres_[static_cast<std::size_t>(raison)]; }
+    void Ajoute(NonLus const& autres) noexcept {
+        for (std::size_t i = 0; i < nombres_.size(); ++i) {
+            nombres_[i] += autres.nombres_[i];
+        }
+    }
+    /// Passages: a field, a run of hidden letters.
+    std::uint32_t Donne(RaisonNonLu raison) const noexcept {
+        return nombres_[static_cast<std::size_t>(raison)];
+    }
+
+  private:
+    std::array<std::uint32_t, static_cast<std::size_t>(RaisonNonLu::kNombre)> nombres_{};
+};
+
+} // namespace compagnon
