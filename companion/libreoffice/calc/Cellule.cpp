@@ -2,6 +2,7 @@
 #include "Cellule.h"
 
 #include "commun/ChainesUno.h"
+#include "commun/Proprietes.h"
 #include "dessin/EditionEnCours.h"
 #include "document/SelectionDuBureau.h"
 #include "lecture/StyleDeLettres.h"
@@ -10,6 +11,7 @@
 #include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/beans/XPropertyState.hpp>
+#include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/sheet/CellFlags.hpp>
 #include <com/sun/star/sheet/XCellAddressable.hpp>
 #include <com/sun/star/sheet/XCellRangeData.hpp>
@@ -110,12 +112,12 @@ bool Cellule::EstEnFrappe() const {
            EstEnTrainDeTaper(DonneModele()->getCurrentController(), Frappe::DansUneCellule);
 }
 
-bool Cellule::Remplace(std::size_t rang, std::size_t debut, std::u16string const& avant,
-                       std::u16string const& apres) {
+std::optional<Gestes> Cellule::Remplace(std::size_t rang, std::size_t debut,
+                                        std::u16string const& avant, std::u16string const& apres) {
     std::vector<ParagrapheLu> const lus = LisTout();
     auto const etapes = Prepare(lus, rang, debut, avant, apres);
     if (!etapes) {
-        return false;
+        return std::nullopt;
     }
     std::u16string lettres;
     std::vector<std::size_t> departs;
@@ -140,9 +142,11 @@ bool Cellule::Remplace(std::size_t rang, std::size_t debut, std::u16string const
     if (EstUniforme()) {
         DonneTexte()->setString(EnUno(lettres)); // as text, whatever it looks like
     } else {
+        std::vector<Geste> gestes;
         for (compagnon::EtapeEdition const& etape : *etapes) {
-            Execute(lus[rang], etape);
+            gestes.push_back(GesteDe(lus[rang].plan, etape));
         }
+        Fais(lus[rang], gestes);
     }
     // The cell ends as it was but for its text: a format of the style's is no format of its own.
     if (herite) {
@@ -152,7 +156,21 @@ bool Cellule::Remplace(std::size_t rang, std::size_t debut, std::u16string const
     } else if (proprietes->getPropertyValue("NumberFormat") != format) {
         proprietes->setPropertyValue("NumberFormat", format);
     }
-    return true;
+    return Gestes();
+}
+
+uno::Reference<text::XTextContent> Cellule::ChampAvec(uno::Reference<text::XTextField> const& champ,
+                                                      OUString const& texte) const {
+    // A cell takes none but a field of its document's own making.
+    uno::Reference<lang::XMultiServiceFactory> const fabrique(DonneModele(), uno::UNO_QUERY_THROW);
+    uno::Reference<beans::XPropertySet> const neuf(
+        fabrique->createInstance("com.sun.star.text.TextField.URL"), uno::UNO_QUERY_THROW);
+    uno::Reference<beans::XPropertySet> const ancien(champ, uno::UNO_QUERY_THROW);
+    for (char const* nom : {"URL", "TargetFrame"}) {
+        neuf->setPropertyValue(OUString::createFromAscii(nom), Valeur(ancien, nom));
+    }
+    neuf->setPropertyValue("Representation", uno::Any(texte));
+    return uno::Reference<text::XTextContent>(neuf, uno::UNO_QUERY_THROW);
 }
 
 uno::Any Cellule::DonneFormatDeTexte() const {

@@ -23,8 +23,8 @@ class Cellule : public TexteDessine {
     bool SAnnuleSeul() const override { return true; }
     bool EstProtege() const override;
     bool EstEnFrappe() const override;
-    bool Remplace(std::size_t rang, std::size_t debut, std::u16string const& avant,
-                  std::u16string const& apres) override;
+    std::optional<Gestes> Remplace(std::size_t rang, std::size_t debut, std::u16string const& avant,
+                                   std::u16string const& apres) override;
     void Selectionne() override;
 
     /// The paragraph of a cell of one format and one line.
@@ -33,6 +33,9 @@ class Cellule : public TexteDessine {
   protected:
     css::uno::Reference<css::text::XText> DonneTexte() const override;
     std::vector<ParagrapheLu> LisTout() const override;
+    css::uno::Reference<css::text::XTextContent>
+    ChampAvec(css::uno::Reference<css::text::XTextField> const& champ,
+              rtl::OUString const& texte) const override;
 
   private:
     bool EstUniforme() const;

@@ -3,13 +3,12 @@
 
 #include "TexteDessine.h"
 #include "commun/ChainesUno.h"
+#include "partage/ErreurDuService.h"
 
-#include <com/sun/star/document/UndoFailedException.hpp>
 #include <com/sun/star/document/XUndoAction.hpp>
 #include <com/sun/star/document/XUndoManagerSupplier.hpp>
 #include <cppuhelper/implbase1.hxx>
 
-#include <string>
 #include <utility>
 
 using namespace com::sun::star;
@@ -20,47 +19,40 @@ namespace {
 
 class Annulation : public cppu::WeakImplHelper1<document::XUndoAction> {
   public:
-    Annulation(std::shared_ptr<TexteDessine> texte, std::size_t rang,
-               CorrectionPrete const& correction)
+    Annulation(std::shared_ptr<TexteDessine> texte, Gestes gestes, rtl::OUString nom)
         : texte_(std::move(texte))
-        , rang_(rang)
-        , debut_(correction.debut)
-        , avant_(correction.avant)
-        , apres_(correction.apres)
-        , nom_(EnUno(correction.nom)) {}
+        , gestes_(std::move(gestes))
+        , nom_(std::move(nom)) {}
 
     rtl::OUString SAL_CALL getTitle() override { return nom_; }
-    void SAL_CALL undo() override { Remplace(apres_, avant_); }
-    void SAL_CALL redo() override { Remplace(avant_, apres_); }
+    void SAL_CALL undo() override { Rejoue(true); }
+    void SAL_CALL redo() override { Rejoue(false); }
 
   private:
-    void Remplace(std::u16string const& avant, std::u16string const& apres) {
-        bool fait = false;
+    /// A step that fails takes the document's whole undo list along. So this one never does: where
+    /// the text is gone, or another program has changed it, it leaves it as it is.
+    void Rejoue(bool aLEnvers) {
         try {
-            fait = texte_->Remplace(rang_, debut_, avant, apres);
+            texte_->Rejoue(gestes_, aLEnvers);
         } catch (uno::Exception const&) {
-            fait = false; // the shape is gone
-        }
-        if (!fait) {
-            throw document::UndoFailedException("the text has changed", *this, uno::Any());
+            return;
+        } catch (compagnon::ErreurDuService const&) {
+            return;
         }
     }
 
     std::shared_ptr<TexteDessine> texte_;
-    std::size_t rang_;
-    std::size_t debut_;
-    std::u16string avant_;
-    std::u16string apres_;
+    Gestes gestes_;
     rtl::OUString nom_;
 };
 
 } // namespace
 
-void AjouteAnnulation(std::shared_ptr<TexteDessine> const& texte, std::size_t rang,
-                      CorrectionPrete const& correction) {
+void AjouteAnnulation(std::shared_ptr<TexteDessine> const& texte, Gestes gestes,
+                      std::u16string const& nom) {
     uno::Reference<document::XUndoManagerSupplier> const document(texte->DonneModele(),
                                                                   uno::UNO_QUERY_THROW);
-    document->getUndoManager()->addUndoAction(new Annulation(texte, rang, correction));
+    document->getUndoManager()->addUndoAction(new Annulation(texte, std::move(gestes), EnUno(nom)));
 }
 
 } // namespace extension

@@ -42,11 +42,12 @@ bool ParagrapheDessine::EstProtegee() {
 
 void ParagrapheDessine::Applique(CorrectionPrete const& correction) {
     std::shared_ptr<TexteDessine> const texte = DonneTexte();
-    if (!texte->Remplace(rang_, correction.debut, correction.avant, correction.apres)) {
+    auto gestes = texte->Remplace(rang_, correction.debut, correction.avant, correction.apres);
+    if (!gestes) {
         throw compagnon::ErreurDuService(contrat::Erreur::ChampDetruit);
     }
     if (!texte->SAnnuleSeul()) {
-        AjouteAnnulation(texte, rang_, correction);
+        AjouteAnnulation(texte, std::move(*gestes), correction.nom);
     }
 }
 

@@ -4,6 +4,7 @@
 #include "ParagrapheDessine.h"
 #include "commun/ChainesUno.h"
 #include "commun/Objets.h"
+#include "commun/Proprietes.h"
 #include "lecture/Curseur.h"
 #include "lecture/PlaceParmi.h"
 #include "modele/ParagraphesRetrouves.h"
@@ -20,16 +21,6 @@ using compagnon::PlanDePortions;
 namespace extension {
 
 namespace {
-
-/// Where a portion starts, in the drawing engine's positions: a field takes one.
-std::size_t Depart(PlanDePortions const& plan, std::size_t portion) {
-    std::size_t position = 0;
-    for (std::size_t i = 0; i < portion; ++i) {
-        compagnon::Portion const& avant = plan.DonnePortions()[i];
-        position += avant.genre == compagnon::GenrePortion::Substitut ? 1 : avant.source.size();
-    }
-    return position;
-}
 
 /// The engine gives letters put in where a portion became empty the format of another one. Where no
 /// letter is put in, none can get a wrong one.
@@ -150,31 +141,74 @@ TexteDessine::Prepare(std::vector<ParagrapheLu> const& lus, std::size_t rang, st
     return etapes;
 }
 
-bool TexteDessine::Remplace(std::size_t rang, std::size_t debut, std::u16string const& avant,
-                            std::u16string const& apres) {
+std::optional<Gestes> TexteDessine::Remplace(std::size_t rang, std::size_t debut,
+                                             std::u16string const& avant,
+                                             std::u16string const& apres) {
     std::vector<ParagrapheLu> const lus = LisTout();
     auto const etapes = Prepare(lus, rang, debut, avant, apres);
     if (!etapes || lus[rang].etendues.empty()) {
+        return std::nullopt;
+    }
+    std::optional<Gestes> gestes = GestesPour(lus[rang], *etapes);
+    if (gestes) {
+        gestes->rang = rang;
+        Fais(lus[rang], gestes->aller);
+    }
+    return gestes;
+}
+
+bool TexteDessine::Rejoue(Gestes const& gestes, bool aLEnvers) {
+    std::vector<ParagrapheLu> const lus = LisTout();
+    if (gestes.rang >= lus.size() || lus[gestes.rang].etendues.empty() ||
+        LettresDe(lus[gestes.rang].plan) != (aLEnvers ? gestes.apres : gestes.avant)) {
         return false;
     }
-    for (compagnon::EtapeEdition const& etape : *etapes) {
-        Execute(lus[rang], etape);
-    }
+    Fais(lus[gestes.rang], aLEnvers ? gestes.retour : gestes.aller);
     return true;
 }
 
-void TexteDessine::Execute(ParagrapheLu const& lu, compagnon::EtapeEdition const& etape) {
-    // The engine's ranges do not follow edits: each step counts from the paragraph's start, and
-    // what stands before it has not changed.
+void TexteDessine::Fais(ParagrapheLu const& lu, std::vector<Geste> const& gestes) {
     uno::Reference<text::XText> const texte = DonneTexte();
-    uno::Reference<text::XTextCursor> const curseur =
-        PlaceCurseur(texte, lu.etendues.front(), Depart(lu.plan, etape.portion) + etape.debut);
-    if (etape.EstInsertion()) {
-        texte->insertString(curseur.get(), EnUno(etape.ajout), false);
-    } else {
-        Avance(curseur, etape.fin - etape.debut, true);
-        curseur->setString(rtl::OUString());
+    // The engine's ranges do not follow edits: each gesture counts from the paragraph's start, and
+    // what stands before it has not changed.
+    auto const curseur = [&](std::size_t position, std::size_t taille) {
+        auto const place = PlaceCurseur(texte, lu.etendues.front(), position);
+        Avance(place, taille, true);
+        return place;
+    };
+    auto const champs = ChampsDe(lu);
+    for (Geste const& geste : gestes) {
+        if (geste.champ) {
+            texte->insertTextContent(curseur(geste.position, 1).get(),
+                                     ChampAvec(champs.at(*geste.champ), EnUno(geste.ajout)), true);
+        } else if (geste.ajout.empty()) {
+            curseur(geste.position, geste.retire)->setString(rtl::OUString());
+        } else {
+            texte->insertString(curseur(geste.position, 0).get(), EnUno(geste.ajout), false);
+            geste.format.Mets(curseur(geste.position, geste.ajout.size()).get());
+        }
     }
+}
+
+std::vector<uno::Reference<text::XTextField>> TexteDessine::ChampsDe(ParagrapheLu const& lu) {
+    std::vector<uno::Reference<text::XTextField>> champs;
+    for (std::size_t i = 0; i < lu.etendues.size(); ++i) {
+        if (lu.plan.DonnePortions()[i].genre == compagnon::GenrePortion::Champ) {
+            uno::Reference<beans::XPropertySet> const portion(lu.etendues[i], uno::UNO_QUERY_THROW);
+            champs.emplace_back();
+            Valeur(portion, "TextField") >>= champs.back();
+        }
+    }
+    return champs;
+}
+
+uno::Reference<text::XTextContent>
+TexteDessine::ChampAvec(uno::Reference<text::XTextField> const& champ,
+                        rtl::OUString const& texte) const {
+    // The engine gives a copy of its field, and takes a copy again.
+    uno::Reference<beans::XPropertySet> const proprietes(champ, uno::UNO_QUERY_THROW);
+    proprietes->setPropertyValue("Representation", uno::Any(texte));
+    return uno::Reference<text::XTextContent>(champ, uno::UNO_QUERY_THROW);
 }
 
 void RecueilleZones(TexteDessine const& texte, std::vector<ParagrapheLu>&& lus,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
+#include "Gestes.h"
 #include "document/CarnetDeZones.h"
 #include "document/Contenant.h"
 #include "document/ZoneOuverte.h"
@@ -9,6 +10,8 @@
 
 #include <com/sun/star/frame/XModel.hpp>
 #include <com/sun/star/text/XText.hpp>
+#include <com/sun/star/text/XTextCursor.hpp>
+#include <com/sun/star/text/XTextField.hpp>
 
 #include <functional>
 #include <memory>
@@ -38,10 +41,15 @@ class TexteDessine : public Inscrit, public std::enable_shared_from_this<TexteDe
     }
     void Quitte(CarnetDeZones& carnet) override;
 
-    /// Puts one text in place of another, letter for letter as `PlanDePortions::Prepare` says;
-    /// false when what stands there is another text, or it cannot be done safely.
-    virtual bool Remplace(std::size_t rang, std::size_t debut, std::u16string const& avant,
-                          std::u16string const& apres);
+    /// Puts one text in place of another, letter for letter as `PlanDePortions::Prepare` says, and
+    /// tells what it did (nothing to tell where the office itself can take it back). No value when
+    /// what stands there is another text, or it cannot be done safely.
+    virtual std::optional<Gestes> Remplace(std::size_t rang, std::size_t debut,
+                                           std::u16string const& avant,
+                                           std::u16string const& apres);
+    /// Takes back what `Remplace` did, or does it once more, to the letter and to the format;
+    /// false, and nothing done, when the paragraph is not as it was left.
+    bool Rejoue(Gestes const& gestes, bool aLEnvers);
     /// Does the office make an undo step of its own for a change of this text?
     virtual bool SAnnuleSeul() const = 0;
     virtual bool EstProtege() const { return contenant_ && contenant_->EstProtege(); }
@@ -65,10 +73,17 @@ class TexteDessine : public Inscrit, public std::enable_shared_from_this<TexteDe
     static std::optional<std::vector<compagnon::EtapeEdition>>
     Prepare(std::vector<ParagrapheLu> const& lus, std::size_t rang, std::size_t debut,
             std::u16string const& avant, std::u16string const& apres);
-    /// Carries one of them out, after those before it.
-    void Execute(ParagrapheLu const& lu, compagnon::EtapeEdition const& etape);
+    /// Does them in the paragraph that was just read.
+    void Fais(ParagrapheLu const& lu, std::vector<Geste> const& gestes);
+    /// A field like that one with other words, to put in its place.
+    virtual css::uno::Reference<css::text::XTextContent>
+    ChampAvec(css::uno::Reference<css::text::XTextField> const& champ,
+              rtl::OUString const& texte) const;
 
   private:
+    /// The fields of a paragraph whose words are read. None may be kept beyond the call.
+    static std::vector<css::uno::Reference<css::text::XTextField>> ChampsDe(ParagrapheLu const& lu);
+
     css::uno::Reference<css::uno::XInterface> objet_;
     css::uno::Reference<css::frame::XModel> modele_;
     std::shared_ptr<Contenant const> contenant_;

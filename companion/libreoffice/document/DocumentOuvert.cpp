@@ -148,8 +148,10 @@ void DocumentOuvert::Parcours(Visiteur const& visiteur) {
     std::unique_ptr<SelectionVue> const selection = LisSelection();
     carnet_.Commence();
     nombre_ = 0;
+    nonLus_ = {};
     ParcoursZones([&](std::shared_ptr<ZoneOuverte> const& zone, compagnon::PlanDePortions&& plan) {
         ++nombre_;
+        nonLus_.Ajoute(plan.DonneNonLus());
         auto const choisi = selection ? selection->Dans(*zone, plan) : std::nullopt;
         visiteur({zone, std::move(plan), choisi, false});
     });

@@ -57,6 +57,8 @@ class DocumentOuvert {
     /// How many zones the last walk found, and what it left out; before the first one there are
     /// none.
     std::size_t DonneNombreDeZones() const noexcept { return nombre_; }
+    /// What the last walk over all zones left unread in them, by reason.
+    compagnon::NonLus const& DonneNonLus() const noexcept { return nonLus_; }
 
     /// The zone of that key, or null.
     std::shared_ptr<ZoneOuverte> DonneZone(std::string const& cle) const {
@@ -107,6 +109,7 @@ class DocumentOuvert {
     CarnetDeZones carnet_;
     PileDAnnulation annulations_;
     std::optional<Retenue> retenue_;
+    compagnon::NonLus nonLus_;
 };
 
 } // namespace extension

@@ -12,10 +12,10 @@ LecteurPortions::LecteurPortions()
     : proprietes_(NomsDesProprietesDeLettres()) {}
 
 ParagrapheLu LecteurPortions::Lis(uno::Reference<container::XEnumerationAccess> const& paragraphe,
-                                  int& suppressions) const {
+                                  int& suppressions, But but) const {
     ParagrapheLu lu;
     lu.etendues.reserve(8);
-    PassageDePortions(proprietes_, suppressions, lu).Lis(paragraphe);
+    PassageDePortions(proprietes_, but, suppressions, lu).LisTout(paragraphe);
     return lu;
 }
 

@@ -25,6 +25,13 @@ struct ParagrapheLu {
     std::vector<Rencontre> rencontres;
 };
 
+/// What a paragraph is read for. The text is the same for all.
+enum class But {
+    Lecture,          ///< its text alone
+    Correction,       ///< also where links start and end: a question for each portion
+    CorrectionSuivie, ///< the same while changes are recorded: what records none stays as it is
+};
+
 /// Turns a paragraph's portions, of Writer or of the drawing engine's texts, into a plan. Main
 /// thread; operations may throw UNO exceptions.
 class LecteurPortions {
@@ -34,7 +41,7 @@ class LecteurPortions {
     /// `suppressions`: how many tracked deletions are open where the paragraph starts; on return,
     /// where it ends. A deletion that goes on from an earlier paragraph shows in no portion.
     ParagrapheLu Lis(css::uno::Reference<css::container::XEnumerationAccess> const& paragraphe,
-                     int& suppressions) const;
+                     int& suppressions, But but = But::Lecture) const;
 
   private:
     css::uno::Sequence<rtl::OUString> proprietes_;

@@ -6,9 +6,9 @@
 #include "commun/ChainesUno.h"
 #include "commun/Proprietes.h"
 
-#include <com/sun/star/beans/PropertyValue.hpp>
 #include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/container/XContentEnumerationAccess.hpp>
+#include <com/sun/star/container/XNamed.hpp>
 #include <com/sun/star/lang/XServiceInfo.hpp>
 #include <com/sun/star/text/TextContentAnchorType.hpp>
 #include <com/sun/star/text/XTextField.hpp>
@@ -18,6 +18,7 @@
 
 using namespace com::sun::star;
 using compagnon::GenrePortion;
+using compagnon::RaisonNonLu;
 using rtl::OUString;
 
 namespace extension {
@@ -32,34 +33,7 @@ bool EstDansLaLigne(uno::Reference<uno::XInterface> const& objet) {
            ancrage == text::TextContentAnchorType_AS_CHARACTER;
 }
 
-/// A control whose text is chosen, not typed.
-bool EstControleFerme(uno::Reference<beans::XPropertySet> const& controle) {
-    if (!controle.is()) {
-        return true;
-    }
-    for (char const* nom : {"Checkbox", "Picture", "Date"}) {
-        if (EstVrai(Valeur(controle, nom))) {
-            return true;
-        }
-    }
-    uno::Sequence<uno::Sequence<beans::PropertyValue>> choix;
-    Valeur(controle, "ListItems") >>= choix;
-    return choix.getLength() > 0;
-}
-
 } // namespace
-
-/// A portion as the office gives it, with the values of its letters' properties.
-struct PassageDePortions::Vue {
-    uno::Reference<text::XTextRange> etendue;
-    uno::Any const* valeurs;
-    bool exclue; ///< deleted with changes tracked, or hidden
-
-    uno::Reference<beans::XPropertySet> Proprietes() const {
-        return uno::Reference<beans::XPropertySet>(etendue, uno::UNO_QUERY);
-    }
-    bool EstPonctuelle() const { return EstVrai(Valeur(Proprietes(), "IsCollapsed")); }
-};
 
 /// How a kind of portion, named as the office names it, is read.
 struct PassageDePortions::Genre {
@@ -85,8 +59,12 @@ PassageDePortions::Genre const& PassageDePortions::DonneGenre(uno::Any const& no
         {u"LineBreak", false, &P::SautDeLigne},
         {u"InContentMetadata", false, &P::Etiquette},
         {u"ContentControl", false, &P::Controle},
+        {u"TextField", false, &P::Champ},
+        {u"TextFieldStart", true, &P::DebutDeChamp},
+        {u"TextFieldSeparator", true, &P::MilieuDeChamp},
+        {u"TextFieldEnd", true, &P::FinDeChamp},
     };
-    // A field, and whatever a later office may add: one thing, not letters.
+    // Whatever else there is, and a later office may add: one thing, not letters.
     static constexpr Genre kAutre = {u"", false, &P::Chose};
     OUString genre;
     nom >>= genre;
@@ -96,11 +74,17 @@ PassageDePortions::Genre const& PassageDePortions::DonneGenre(uno::Any const& no
     return trouve == std::end(kGenres) ? kAutre : *trouve;
 }
 
-PassageDePortions::PassageDePortions(uno::Sequence<OUString> const& proprietes, int& suppressions,
-                                     ParagrapheLu& lu)
+PassageDePortions::PassageDePortions(uno::Sequence<OUString> const& proprietes, But but,
+                                     int& suppressions, ParagrapheLu& lu)
     : proprietes_(proprietes)
+    , but_(but)
     , suppressions_(suppressions)
     , lu_(lu) {}
+
+void PassageDePortions::LisTout(uno::Reference<container::XEnumerationAccess> const& portions) {
+    Lis(portions);
+    TermineLien();
+}
 
 void PassageDePortions::Lis(uno::Reference<container::XEnumerationAccess> const& portions) {
     uno::Reference<container::XEnumeration> const suite = portions->createEnumeration();
@@ -110,7 +94,7 @@ void PassageDePortions::Lis(uno::Reference<container::XEnumerationAccess> const&
         uno::Reference<beans::XMultiPropertySet> const valeursDe(etendue, uno::UNO_QUERY_THROW);
         uno::Sequence<uno::Any> const valeurs = valeursDe->getPropertyValues(proprietes_);
         uno::Any const* const v = valeurs.getConstArray();
-        Vue const vue{etendue, v, suppressions_ > 0 || EstVrai(v[kMasque])};
+        Vue const vue{etendue, v, suppressions_ > 0 || EstVrai(v[kMasque]) || EstDansUneCommande()};
         Genre const& genre = DonneGenre(v[kGenre]);
         if (vue.exclue && !genre.memeExclue) {
             Ajoute(vue, GenrePortion::Exclue);
@@ -122,14 +106,47 @@ void PassageDePortions::Lis(uno::Reference<container::XEnumerationAccess> const&
 
 void PassageDePortions::Ajoute(Vue const& vue, GenrePortion genre, std::u16string source,
                                std::uint16_t style) {
+    // Whether a link goes on across something that takes a step matters to nobody: no edit does.
+    if (genre == GenrePortion::Substitut || genre == GenrePortion::Ancre ||
+        genre == GenrePortion::Exclue) {
+        TermineLien();
+    }
     lu_.plan.Ajoute(genre, std::move(source), style);
     lu_.etendues.push_back(vue.etendue);
 }
 
+void PassageDePortions::SuisLien(Vue const& vue) {
+    OUString lien;
+    Valeur(vue.Proprietes(), "HyperLinkURL") >>= lien;
+    if (lien == lien_) {
+        return;
+    }
+    TermineLien();
+    if (!lien.isEmpty()) {
+        lu_.plan.Ajoute(GenrePortion::Limite);
+        lu_.etendues.push_back(vue.etendue->getStart());
+    }
+    lien_ = lien;
+}
+
+void PassageDePortions::TermineLien() {
+    if (!lien_.isEmpty()) {
+        lu_.plan.Ajoute(GenrePortion::Limite);
+        lu_.etendues.push_back(lu_.etendues.back()->getEnd());
+        lien_.clear();
+    }
+}
+
 void PassageDePortions::Texte(Vue const& vue) {
+    if (but_ != But::Lecture && !vue.exclue) {
+        SuisLien(vue);
+    }
     OUString const texte = vue.etendue->getString();
     std::u16string source(extension::Vue(texte));
     if (vue.exclue) {
+        if (!source.empty() && !EstDansUneCommande()) {
+            lu_.plan.NoteNonLu(suppressions_ > 0 ? RaisonNonLu::Supprime : RaisonNonLu::Masque);
+        }
         Ajoute(vue, GenrePortion::Exclue, std::move(source));
     } else if (EstToutLatin(source)) {
         Ajoute(vue, GenrePortion::Texte, std::move(source), StyleDeLettres(vue.valeurs));
@@ -153,7 +170,19 @@ void PassageDePortions::Revision(Vue const& vue) {
 void PassageDePortions::Rien(Vue const& /*vue*/) {}
 
 void PassageDePortions::Signet(Vue const& vue) {
-    Ajoute(vue, vue.EstPonctuelle() ? GenrePortion::Repere : GenrePortion::Limite);
+    uno::Reference<container::XNamed> signet;
+    Valeur(vue.Proprietes(), "Bookmark") >>= signet;
+    OUString const nom = signet.is() ? signet->getName() : OUString();
+    bool vide = vue.EstPonctuelle();
+    if (EstVrai(Valeur(vue.Proprietes(), "IsStart"))) {
+        signets_[nom] = static_cast<std::ptrdiff_t>(lu_.plan.DonnePortions().size());
+    } else if (signets_.count(nom) > 0) {
+        // Around a frame's anchor one without extent comes in two parts.
+        std::vector<compagnon::Portion> const& portions = lu_.plan.DonnePortions();
+        vide = vide || std::all_of(portions.begin() + signets_[nom], portions.end(),
+                                   [](auto const& portion) { return portion.EstSansEtendue(); });
+    }
+    Ajoute(vue, vide ? GenrePortion::Repere : GenrePortion::Limite);
 }
 
 void PassageDePortions::Marque(Vue const& vue) {
@@ -195,7 +224,7 @@ void PassageDePortions::Cadres(Vue const& vue) {
         dansLaLigne = dansLaLigne || EstDansLaLigne(objet);
         lu_.rencontres.push_back({Rencontre::Genre::Cadre, objet});
     }
-    Ajoute(vue, dansLaLigne ? GenrePortion::Substitut : GenrePortion::Ancre);
+    Ajoute(vue, dansLaLigne ? GenrePortion::Substitut : GenrePortion::Attache);
 }
 
 void PassageDePortions::SautDeLigne(Vue const& vue) {
@@ -206,17 +235,6 @@ void PassageDePortions::Etiquette(Vue const& vue) {
     uno::Reference<container::XEnumerationAccess> interieur;
     Valeur(vue.Proprietes(), "InContentMetadata") >>= interieur;
     LisEntreBords(vue, interieur);
-}
-
-void PassageDePortions::Controle(Vue const& vue) {
-    uno::Reference<container::XEnumerationAccess> interieur;
-    Valeur(vue.Proprietes(), "ContentControl") >>= interieur;
-    uno::Reference<beans::XPropertySet> const controle(interieur, uno::UNO_QUERY);
-    if (EstControleFerme(controle)) {
-        Ajoute(vue, GenrePortion::Substitut);
-    } else {
-        LisEntreBords(vue, interieur);
-    }
 }
 
 void PassageDePortions::Chose(Vue const& vue) {

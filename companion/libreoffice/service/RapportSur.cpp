@@ -3,6 +3,8 @@
 
 #include "partage/Messages.h"
 
+#include <utility>
+
 namespace extension {
 
 namespace {
@@ -18,6 +20,26 @@ constexpr Reste kProteges{"protege",
                           {"1 paragraphe est protégé", "1 paragraph is protected"},
                           {"{1} paragraphes sont protégés", "{1} paragraphs are protected"}};
 
+/// What is not read, by reason.
+constexpr std::pair<compagnon::RaisonNonLu, Reste> kNonLus[] = {
+    {compagnon::RaisonNonLu::Choix,
+     {"choix",
+      {"1 choix dans une liste, ou une date, n’est pas lu",
+       "1 choice from a list, or date, is not read"},
+      {"{1} choix dans des listes, ou dates, ne sont pas lus",
+       "{1} choices from lists, or dates, are not read"}}},
+    {compagnon::RaisonNonLu::Masque,
+     {"masque",
+      {"1 passage masqué n’est pas lu", "1 hidden passage is not read"},
+      {"{1} passages masqués ne sont pas lus", "{1} hidden passages are not read"}}},
+    {compagnon::RaisonNonLu::Supprime,
+     {"supprime",
+      {"1 passage supprimé (modifications suivies) n’est pas lu",
+       "1 deleted passage (tracked changes) is not read"},
+      {"{1} passages supprimés (modifications suivies) ne sont pas lus",
+       "{1} deleted passages (tracked changes) are not read"}}},
+};
+
 void Ajoute(compagnon::Rapport& rapport, Reste const& reste, std::size_t nombre) {
     rapport.Laisse(
         reste.code, nombre,
@@ -30,6 +52,9 @@ compagnon::Rapport RapportSur(DocumentOuvert const& document) {
     compagnon::Rapport rapport(document.DonneGenre(), document.DonneLangue(),
                                document.DonneNombreDeZones(), document.EstEnLectureSeule());
     Ajoute(rapport, kProteges, document.CompteProtegees());
+    for (auto const& [raison, reste] : kNonLus) {
+        Ajoute(rapport, reste, document.DonneNonLus().Donne(raison));
+    }
     return rapport;
 }
 

@@ -2,6 +2,7 @@
 #include "ParagrapheWriter.h"
 
 #include "commun/ChainesUno.h"
+#include "commun/Proprietes.h"
 #include "dessin/EditionEnCours.h"
 #include "document/SelectionDuBureau.h"
 #include "lecture/Curseur.h"
@@ -28,7 +29,8 @@ Position(uno::Reference<text::XText> const& texte, PlanDePortions const& plan,
          std::vector<uno::Reference<text::XTextRange>> const& etendues, PlaceDansPortion place) {
     compagnon::Portion const& portion = plan.DonnePortions()[place.portion];
     uno::Reference<text::XTextRange> const& etendue = etendues.at(place.portion);
-    if (portion.genre != compagnon::GenrePortion::Texte) {
+    if (portion.genre != compagnon::GenrePortion::Texte &&
+        portion.genre != compagnon::GenrePortion::Fixe) {
         return place.unite == 0 ? etendue->getStart() : etendue->getEnd();
     }
     std::u16string_view const avant = std::u16string_view(portion.source).substr(0, place.unite);
@@ -64,7 +66,10 @@ ParagrapheLu ParagrapheWriter::LisPortions() const {
     uno::Reference<text::XTextRange> const etendue(paragraphe_, uno::UNO_QUERY_THROW);
     int ouvertes = fond_->suppressions.OuvertesAuDebut(etendue, contenant_->texte);
     uno::Reference<container::XEnumerationAccess> const portions(paragraphe_, uno::UNO_QUERY_THROW);
-    return fond_->lecteur.Lis(portions, ouvertes);
+    uno::Reference<beans::XPropertySet> const document(fond_->modele, uno::UNO_QUERY);
+    But const but =
+        Vaut(document, "RecordChanges", false) ? But::CorrectionSuivie : But::Correction;
+    return fond_->lecteur.Lis(portions, ouvertes, but);
 }
 
 std::vector<uno::Reference<text::XTextRange>> ParagrapheWriter::DonneEtendues() const {

@@ -2,6 +2,7 @@
 """What a corrector reads and changes in a spreadsheet."""
 
 import random
+import re
 import time
 import unittest
 
@@ -74,6 +75,21 @@ class Cas(unittest.TestCase):
         self.assertEqual(erreur.exception.nom, raison)
         self.assertEqual(self.client.textes(), avant)
 
+    def champ(self, cellule, place, genre, **proprietes):
+        champ = self.doc.createInstance(f"com.sun.star.text.TextField.{genre}")
+        for nom, valeur in proprietes.items():
+            champ.setPropertyValue(nom, valeur)
+        cellule.insertTextContent(plage(cellule, place, place), champ, False)
+
+    def liens(self, cellule):
+        suite = cellule.TextFields.createEnumeration()
+        vus = []
+        while suite.hasMoreElements():
+            champ = suite.nextElement()
+            if hasattr(champ, "URL"):
+                vus.append((champ.Representation, champ.URL, champ.TargetFrame))
+        return vus
+
     def forme(self, texte, feuille=None):
         forme = self.doc.createInstance("com.sun.star.drawing.RectangleShape")
         forme.setSize(Size(5000, 2000))
@@ -114,12 +130,11 @@ class Lecture(Cas):
         self.assertEqual(cellule.String, "avant mot")
         self.assertEqual(self.client.textes(), ["mot"])
 
-    def test_fields_stand_as_one_filler(self):
-        cellule = self.cellule("A1", "voir  ici")
-        champ = self.doc.createInstance("com.sun.star.text.TextField.URL")
-        champ.URL, champ.Representation = "https://example.org/", "un lien"
-        cellule.insertTextContent(plage(cellule, 5, 5), champ, False)
-        self.assertEqual(self.client.textes(), ["voir \a ici"])
+    def test_fields_stand_as_one_filler_and_links_as_their_words(self):
+        cellule = self.cellule("A1", "voir  ici ")
+        self.champ(cellule, 10, "SheetName")
+        self.champ(cellule, 5, "URL", URL="https://example.org/", Representation="un lien")
+        self.assertEqual(self.client.textes(), ["voir un lien ici \a"])
 
     def test_hidden_sheets_rows_and_columns_are_not_read(self):
         self.doc.Sheets.insertNewByName("cachee", 1)
@@ -340,6 +355,50 @@ class Correction(Cas):
         self.assertEqual([f.Range.RangeAddressesAsString for f in
                           self.feuille.ConditionalFormats.ConditionalFormats], plages)
 
+    def fichier(self):
+        """Styles and body as they would be saved."""
+        chemin = banc.DOSSIER / "conserve.fods"
+        self.doc.storeToURL(chemin.as_uri(),
+                            (banc.pv("FilterName", "OpenDocument Spreadsheet Flat XML"),))
+        contenu = chemin.read_text(encoding="utf-8")
+        return contenu[contenu.index("<office:automatic-styles>"):contenu.index("</office:body>")]
+
+    def conditionne(self, adresse, *formules):
+        plage_ = self.feuille.getCellRangeByName(adresse)
+        formats = plage_.ConditionalFormat
+        for formule in formules:
+            formats.addNew((
+                banc.pv("Operator", uno.Enum("com.sun.star.sheet.ConditionOperator", "EQUAL")),
+                banc.pv("Formula1", formule), banc.pv("StyleName", "Teinte")))
+        plage_.ConditionalFormat = formats
+
+    def test_a_cell_ends_as_it_was_but_for_its_text_and_undone_as_it_was_altogether(self):
+        nombres = self.doc.NumberFormats
+        self.doc.StyleFamilies.getByName("CellStyles").insertByName(
+            "Teinte", self.doc.createInstance("com.sun.star.style.CellStyle"))
+        self.remplis(A1="l2 a", A2="l2 b", A3="l2 c", A4="l2 d", A5="l2 e", B1="l2 f", B3="l2 g")
+        self.cellule("A2").NumberFormat = nombres.queryKey("0.00", self.doc.CharLocale, False)
+        self.cellule("A3").NumberFormat = nombres.addNew('"no "@', self.doc.CharLocale)
+        self.cellule("A4").CellStyle = "Heading"
+        self.feuille.getCellRangeByName("A5:B5").CharWeight = 150.0
+        plage(self.cellule("B3"), 0, 1).CharPosture = ITALIQUE
+        self.conditionne("A1:A3", '"12 a"', '"12 b"')
+        self.conditionne("A4:B5", '"12 d"')
+        self.conditionne("B1:B3", '"x"')
+        self.feuille.getCellRangeByName("A1:A5").Rows.OptimalHeight = True
+        zones = self.client.zones()
+        self.assertEqual(len(zones), 7)
+        avant = self.fichier()
+        for zone in zones:
+            for cherche, remplace in (("l2", "12"), ("12", "12 12"), ("12 12", "xy"), ("xy", "12")):
+                self.client.corrige(zone, cherche, remplace)
+        apres = self.fichier()
+        lettres = re.compile(r'(?<=>)[^<]+(?=<)|(?<= office:string-value=")[^"]*')
+        self.assertEqual(*(lettres.sub("", etat) for etat in (apres, avant)))
+        for _ in range(4 * len(zones)):
+            self.doc.UndoManager.undo()
+        self.assertEqual(self.fichier(), avant)
+
     def test_text_with_formats_stays_text_too(self):
         cellule = self.cellule("A1", "1O5")
         plage(cellule, 1, 2).CharWeight = 150.0
@@ -363,12 +422,48 @@ class Correction(Cas):
 
     def test_a_field_in_the_cell_survives_and_bars_the_way(self):
         cellule = self.cellule("A1", "voir  icy")
-        champ = self.doc.createInstance("com.sun.star.text.TextField.URL")
-        champ.URL, champ.Representation = "https://example.org/", "un lien"
-        cellule.insertTextContent(plage(cellule, 5, 5), champ, False)
+        self.champ(cellule, 5, "SheetName")
         self.refuse("\a", "mot", "ChampDetruit")
         self.corrige("icy", "ici")
-        self.assertEqual(cellule.String, "voir un lien ici")
+        self.assertEqual(cellule.String, f"voir {self.feuille.Name} ici")
+
+    def test_the_words_of_a_link_are_corrected_in_the_link(self):
+        seul = self.cellule("A1", "")
+        self.champ(seul, 0, "URL", URL="https://example.org/1", Representation="un bau lien",
+                   TargetFrame="cadre")
+        parmi = self.cellule("A2", "voir  et  ici")
+        self.champ(parmi, 9, "URL", URL="https://example.org/3", Representation="suitte")
+        self.champ(parmi, 5, "URL", URL="https://example.org/2", Representation="bau")
+        avant = self.liens(seul), self.liens(parmi), self.client.textes()
+        self.doc.UndoManager.clear()
+        self.corrige("bau lien", "beau lien")
+        self.corrige("bau et suitte ici", "beau et suite la")
+        apres = self.liens(seul), self.liens(parmi), self.client.textes()
+        self.assertEqual(apres, ([("un beau lien", "https://example.org/1", "cadre")],
+                                 [("beau", "https://example.org/2", ""),
+                                  ("suite", "https://example.org/3", "")],
+                                 ["un beau lien", "voir beau et suite la"]))
+        self.assertEqual(len(self.doc.UndoManager.AllUndoActionTitles), 2)
+        self.doc.UndoManager.undo()
+        self.doc.UndoManager.undo()
+        self.assertEqual((self.liens(seul), self.liens(parmi), self.client.textes()), avant)
+        self.doc.UndoManager.redo()
+        self.doc.UndoManager.redo()
+        self.assertEqual((self.liens(seul), self.liens(parmi), self.client.textes()), apres)
+
+    def test_a_link_in_a_shape_of_a_sheet_is_corrected_too(self):
+        forme = self.forme("voir ")
+        # The document's own fields are for cells: a shape takes what it gives.
+        source = BUREAU.ouvre("private:factory/simpress")
+        self.addCleanup(lambda: source.close(True))
+        champ = source.createInstance("com.sun.star.text.TextField.URL")
+        champ.URL, champ.Representation = "https://example.org/", "un bau lien"
+        forme.insertTextContent(plage(forme, 5, 5), champ, False)
+        self.corrige("bau", "beau")
+        self.assertEqual((forme.String, self.client.textes()),
+                         ("voir un beau lien", ["voir un beau lien"]))
+        self.doc.UndoManager.undo()
+        self.assertEqual(forme.String, "voir un bau lien")
 
     def test_comments_and_shapes_are_corrected(self):
         self.commente("B2", "une remarke\nsuite")

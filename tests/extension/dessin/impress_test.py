@@ -210,6 +210,175 @@ class Correction(Cas):
         self.annule(2)
         self.assertEqual((forme.String, parties_grasses(forme)), ("un petit\tchat noir", ["chat"]))
 
+    def portions(self, forme):
+        """The first paragraph's letters with their format, neighbours of one format together."""
+        suite = forme.createEnumeration().nextElement().createEnumeration()
+        vues = []
+        while suite.hasMoreElements():
+            p = suite.nextElement()
+            format_ = (p.CharWeight, p.CharPosture.value, p.CharColor, p.CharHeight)
+            if vues and vues[-1][1] == format_:
+                vues[-1] = (vues[-1][0] + p.String, format_)
+            else:
+                vues.append((p.String, format_))
+        return vues
+
+    def test_letters_of_another_script_are_undone_and_redone_and_so_is_all_before_them(self):
+        arabe = "\u0627\u0644\u0646\u0635 \u0627\u0644\u0639\u0631\u0628\u064a"
+        cas = [("\u65e5\u672c\u8a9e\u306e\u6587", "\u8a9e", "abc"),
+               ("\u65e5\u672c\u8a9e\u306e\u6587", "\u65e5\u672c", "Nippon"),
+               (arabe, "\u0639\u0631", "ar"), (arabe, arabe[:4], "text"),
+               ("un mot latin", "mot", "\u65e5\u672c\u8a9e"), ("\u65e5\u672c x \u6587", "x", "\u8a9e"),
+               ("\u65e5\u672cabc\u6587", "abc", ""), ("\u05e9\u05dc\u05d5\u05dd abc", "abc", "\u05dd\u05d5")]
+        premiere = self.forme("mot")
+        formes = [self.forme(texte) for texte, _, _ in cas]
+        avant = [self.portions(f) for f in formes]
+        self.doc.UndoManager.clear()
+        self.corrige("mot", "maux")
+        faites = []
+        for (texte, cherche, remplace), forme in zip(cas, formes):
+            with self.subTest(texte=texte, cherche=cherche):
+                zone = next(z for z in self.client.zones() if z.texte == texte)
+                try:
+                    self.client.corrige(zone, cherche, remplace)
+                    faites.append(forme)
+                except banc.Appel as refus:
+                    self.assertEqual(refus.nom, "ChampDetruit")
+                    self.assertEqual(forme.String, texte)
+        self.assertGreater(len(faites), 4)
+        apres = [f.String for f in formes]
+        self.annule(len(faites))
+        self.assertEqual([self.portions(f) for f in formes], avant)
+        self.annule(len(faites), encore=True)
+        self.assertEqual([f.String for f in formes], apres)
+        self.annule(len(faites) + 1)
+        self.assertEqual(premiere.String, "mot")
+
+    def test_undo_brings_back_the_formats_of_what_was_taken_out(self):
+        forme = self.forme("un petit chat noir")
+        plage(forme, 3, 9).CharPosture = ITALIQUE
+        plage(forme, 3, 9).CharColor = 0xFF0000
+        plage(forme, 9, 14).CharWeight = 150.0
+        forme.insertControlCharacter(forme.End, 0, False)
+        forme.insertString(forme.End, "suite", False)
+        avant = self.portions(forme)
+        faites = 0
+        for cherche in ("petit chat ", "petit ", "chat ", "un petit ", "chat noir", "un petit chat noir"):
+            with self.subTest(cherche=cherche):
+                try:
+                    self.corrige(cherche, "")
+                    faites += 1
+                    self.annule()
+                except banc.Appel as refus:
+                    self.assertEqual(refus.nom, "ChampDetruit")
+                self.assertEqual((self.portions(forme), forme.String),
+                                 (avant, "un petit chat noir\nsuite"))
+        self.assertGreater(faites, 0)
+
+    def test_undo_at_the_border_of_a_format_gives_each_letter_its_own(self):
+        faites = 0
+        for cherche, remplace in (("n", "ab"), ("n", ""), ("un", "x"), ("un", "nu"), ("n mot", "x"),
+                                  ("n mot", ""), (" mot", ""), ("u", "U"), ("un m", "au v")):
+            with self.subTest(cherche=cherche, remplace=remplace):
+                forme = self.forme("un mot")
+                plage(forme, 0, 1).CharWeight = 150.0
+                avant = self.portions(forme)
+                zone = self.client.zones()[-1]
+                try:
+                    self.client.corrige(zone, cherche, remplace)
+                    faites += 1
+                except banc.Appel as refus:
+                    self.assertEqual(refus.nom, "ChampDetruit")
+                    continue
+                apres = self.portions(forme)
+                self.annule()
+                self.assertEqual(self.portions(forme), avant)
+                self.annule(encore=True)
+                self.assertEqual(self.portions(forme), apres)
+        self.assertGreater(faites, 5)
+
+    def test_letters_that_would_not_come_back_as_they_were_are_not_taken_out(self):
+        forme = self.forme("gras simple gras")
+        for debut, fin in ((0, 4), (12, 16)):
+            plage(forme, debut, fin).CharWeight = 150.0
+        avant = self.portions(forme)
+        with self.assertRaises(banc.Appel) as refus:  # between bold letters they come back bold
+            self.corrige(" simple ", "")
+        self.assertEqual(refus.exception.nom, "ChampDetruit")
+        self.assertEqual(self.portions(forme), avant)
+        self.corrige(" simple ", " ")
+        self.assertEqual([texte for texte, _ in self.portions(forme)], ["gras", " ", "gras"])
+        self.annule()
+        self.assertEqual(self.portions(forme), avant)
+
+    def test_a_link_in_a_tables_cell_is_corrected_and_undone(self):
+        modele = self.tableau([["voir ", "x"], ["y", "z"]]).Model
+        cellule = modele.getCellByPosition(0, 0)
+        BUREAU.sur_le_fil_principal(lambda: self.lien(cellule, 5, "un bau lien"))
+        self.corrige("voir un bau", "vois un beau")
+        self.assertEqual(self.client.textes()[0], "vois un beau lien")
+        self.annule()
+        self.assertEqual(self.client.textes()[0], "voir un bau lien")
+
+    def test_an_undo_step_that_finds_another_text_leaves_it_and_the_list_alone(self):
+        premiere, autre, partie = self.forme("un mot"), self.forme("un chat"), self.forme("un lion")
+        self.doc.UndoManager.clear()
+        self.corrige("mot", "maux")
+        self.corrige("lion", "lions")
+        self.corrige("chat", "chats")
+        autre.setString("du texte nouveau")  # which leaves no step
+        BUREAU.sur_le_fil_principal(lambda: self.page.remove(partie))
+        while self.doc.UndoManager.isUndoPossible():
+            self.annule()
+        self.assertEqual(autre.String, "du texte nouveau")
+        self.assertEqual(premiere.String, "un mot")
+
+    def lien(self, forme, place, texte):
+        champ = self.doc.createInstance("com.sun.star.text.TextField.URL")
+        champ.URL, champ.Representation, champ.TargetFrame = "https://example.org/", texte, "cadre"
+        forme.insertTextContent(plage(forme, place, place), champ, False)
+
+    def liens(self, forme):
+        suite = forme.createEnumeration()
+        vus = []
+        while suite.hasMoreElements():
+            portions = suite.nextElement().createEnumeration()
+            while portions.hasMoreElements():
+                p = portions.nextElement()
+                if p.TextPortionType == "TextField" and hasattr(p.TextField, "URL"):
+                    vus.append((p.TextField.Representation, p.TextField.URL,
+                                p.TextField.TargetFrame, p.CharWeight))
+        return vus
+
+    def test_the_words_of_a_link_are_read_corrected_undone_and_redone(self):
+        forme = self.forme("debut\nvoir  et  ici")
+        self.lien(forme, 15, "la suitte")
+        self.lien(forme, 11, "un bau lien")
+        plage(forme, 11, 12).CharWeight = 150.0
+        avant = self.liens(forme)
+        self.assertEqual(self.client.textes(), ["debut", "voir un bau lien et la suitte ici"])
+        zone = self.zone("bau")
+        self.assertTrue(self.client.peut(zone, "bau lien"))
+        self.client.corrige(zone, "bau lien", "beau lien")
+        self.client.corrige(zone, "lien et la suitte", "lieu et les suites")
+        self.client.corrige(zone, "suites", "suites.")
+        self.assertEqual(self.client.textes(), ["debut", "voir un beau lieu et les suites. ici"])
+        apres = self.liens(forme)
+        self.assertEqual(apres, [("un beau lieu", *avant[0][1:]), ("les suites.", *avant[1][1:])])
+        self.annule(3)
+        self.assertEqual(self.liens(forme), avant)
+        self.assertEqual(self.client.textes(), ["debut", "voir un bau lien et la suitte ici"])
+        self.annule(3, encore=True)
+        self.assertEqual(self.liens(forme), apres)
+
+    def test_a_link_never_loses_all_of_its_words(self):
+        forme = self.forme("voir  ici")
+        self.lien(forme, 5, "lien")
+        with self.assertRaises(banc.Appel) as refus:
+            self.client.corrige(self.zone(), "lien", "")
+        self.assertEqual(refus.exception.nom, "ChampDetruit")
+        self.assertEqual([lien[0] for lien in self.liens(forme)], ["lien"])
+
     def test_offsets_behind_emoji_and_fields_are_exact(self):
         forme = self.forme("\U0001f600 a  faute")
         forme.insertTextContent(

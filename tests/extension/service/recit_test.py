@@ -222,6 +222,26 @@ class Rapport(unittest.TestCase):
                            "phrase": "2 paragraphs are protected"}])
 
 
+    def test_it_counts_what_is_not_read_by_reason(self):
+        doc, client = banc.document_et_client(self, BUS, BUREAU)
+        e = Ecrivain(doc)
+        e.ecrit("un deux trois quatre ")
+        for _ in range(2):
+            e.met("com.sun.star.text.textfield.DropDown", Items=("x", "y"), SelectedItem="y")
+            e.ecrit(" ")
+        e.met("com.sun.star.text.textfield.PageNumber")
+        e.plage(3, 8).CharHidden = True
+        doc.RecordChanges = True
+        e.plage(8, 14).setString("")
+        client.zones()
+        client.zones()  # counted anew, not on top
+        self.assertEqual({r["code"]: (r["nombre"], r["phrase"])
+                          for r in client.rapport()["laisses"]},
+                         {"choix": (2, "2 choices from lists, or dates, are not read"),
+                          "masque": (1, "1 hidden passage is not read"),
+                          "supprime": (1, "1 deleted passage (tracked changes) is not read")})
+
+
 class EnFrancais(unittest.TestCase):
     def test_reasons_names_and_the_report_are_in_the_offices_language(self):
         menus.met_en_francais("profil-fr")

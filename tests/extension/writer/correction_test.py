@@ -4,6 +4,7 @@
 import unittest
 
 import uno
+from com.sun.star.lang import Locale
 
 import banc
 import menus
@@ -181,6 +182,142 @@ class Survie(Cas):
         self.assertEqual(self.e.plage(9, 10).HyperLinkURL, "https://example.org/")
         self.assertEqual(self.texte.String, "see the site now")
 
+    def liens(self):
+        """The letters in links."""
+        portions = self.texte.createEnumeration().nextElement().createEnumeration()
+        lettres = ""
+        while portions.hasMoreElements():
+            p = portions.nextElement()
+            lettres += p.String if p.HyperLinkURL else ""
+        return lettres
+
+    def test_a_corrected_word_of_a_link_stays_in_the_link_whole(self):
+        for debut, fin, cherche, remplace, attendu in (
+                (3, 7, "lien", "liens", "liens"), (3, 7, "lien", "aliens", "aliens"),
+                (3, 7, "lien", "liyen", "liyen"), (3, 7, "lien", "site", "site"),
+                (3, 7, "un lien", "les liens", "liens"), (3, 7, "lien ici", "liens la", "liens"),
+                (0, 7, "un", "aun", "aun lien"), (3, 11, "ici", "icis", "lien icis"),
+                (3, 7, "un", "une", "lien"), (3, 7, "ici", "x ici", "lien"),
+                (3, 5, "lien", "liens", "li"), (3, 5, "lien", "liaen", "li"),
+                (5, 7, "lien", "liaen", "en"), (0, 11, "ici", "icis", "un lien icis")):
+            with self.subTest(lien=(debut, fin), remplace=remplace):
+                self.texte.setString("")
+                self.e.ecrit("un lien ici", HyperLinkURL="")
+                self.e.plage(debut, fin).HyperLinkURL = "https://example.org/"
+                self.corrige(cherche, remplace)
+                self.assertEqual(self.texte.String, "un lien ici".replace(cherche, remplace, 1))
+                self.assertEqual(self.liens(), attendu)
+
+    def test_a_link_is_not_lost_with_its_last_letter(self):
+        self.texte.setString("un lien a")
+        self.e.plage(3, 7).HyperLinkURL = "https://example.org/1"
+        self.e.plage(8, 9).HyperLinkURL = "https://example.org/2"
+        with self.assertRaises(banc.Appel) as refus:
+            self.client.corrige(self.zone(), "lien", "")
+        self.assertEqual(refus.exception.nom, "ChampDetruit")
+        self.refuse(self.zone(), "a", "b", "ChampDetruit")
+        self.assertEqual(self.liens(), "liena")
+
+    def test_letters_put_in_at_a_paragraphs_start_have_the_format_of_its_first_letter(self):
+        def langues():
+            portions = self.texte.createEnumeration().nextElement().createEnumeration()
+            vues = []
+            while portions.hasMoreElements():
+                p = portions.nextElement()
+                vues.append((p.String, p.CharLocale.Language))
+            return vues
+
+        for cherche, remplace in (("eau", "l'eau"), ("", "Oh "), ("eau tiede", "beau temps")):
+            with self.subTest(remplace=remplace):
+                self.texte.setString("eau tiede")
+                self.e.plage(0, 4).CharLocale = Locale("de", "DE", "")
+                self.e.plage(4, 9).CharLocale = Locale("it", "IT", "")
+                self.corrige(cherche, remplace)
+                texte = "eau tiede".replace(cherche, remplace, 1)
+                self.assertEqual(self.texte.String, texte)
+                ou = texte.index(" t") + 1
+                self.assertEqual(langues(), [(texte[:ou], "de"), (texte[ou:], "it")])
+
+    def saisie(self):
+        """The input field's words, and all others."""
+        portions = self.texte.createEnumeration().nextElement().createEnumeration()
+        dedans = dehors = ""
+        while portions.hasMoreElements():
+            p = portions.nextElement()
+            if p.TextPortionType == "TextField":
+                self.assertEqual((p.TextField.Hint, p.TextField.Content), ("nom", p.String))
+                dedans += p.String
+            else:
+                dehors += p.String
+        return dedans, dehors
+
+    def test_the_words_of_an_input_field_are_corrected_in_the_field(self):
+        self.e.ecrit("avant ")
+        self.e.met("com.sun.star.text.textfield.Input", Content="jean dupond", Hint="nom")
+        self.e.ecrit(" apres")
+        for cherche, remplace, attendu in (
+                ("jean", "Jean", "Jean dupond"), ("dupond", "dupont", "jean dupont"),
+                ("jean dupond", "x", "x"), ("dupond", "duponds", "jean duponds"),
+                ("jean", "ajean", "ajean dupond"), ("n d", "nd", "jeandupond"),
+                ("avant jean", "devant Jean", "Jean dupond"), ("jean ", "", "dupond"),
+                ("dupond apres", "dupont ensuite", "jean dupont")):
+            with self.subTest(remplace=remplace):
+                zone = self.zone("avant")
+                self.assertEqual(zone.texte, "avant jean dupond apres")
+                self.assertTrue(self.client.peut(zone, cherche))
+                self.doc.UndoManager.clear()
+                self.client.corrige(zone, cherche, remplace)
+                self.assertEqual(self.zone().texte, zone.texte)
+                self.assertEqual(self.saisie()[0], attendu)
+                self.assertEqual(len(self.doc.UndoManager.AllUndoActionTitles), 1)
+                self.doc.UndoManager.undo()
+                self.assertEqual(self.saisie(), ("jean dupond", "avant  apres"))
+                self.doc.UndoManager.redo()
+                self.assertEqual(self.saisie()[0], attendu)
+                self.doc.UndoManager.undo()
+        with self.assertRaises(banc.Appel) as refus:
+            self.client.corrige(self.zone(), "jean dupond", "")
+        self.assertEqual(refus.exception.nom, "ChampDetruit")
+        self.doc.RecordChanges = True  # those in a field are not recorded
+        self.refuse(self.zone(), "dupond", "dupont", "ChampDetruit")
+        self.corrige("apres", "ensuite")
+        self.assertEqual(self.saisie()[0], "jean dupond")
+
+    def test_a_bookmark_beside_an_anchored_frame_survives_or_the_correction_is_refused(self):
+        def cadre(place):
+            cadre = self.doc.createInstance("com.sun.star.text.TextFrame")
+            cadre.AnchorType = uno.Enum("com.sun.star.text.TextContentAnchorType", "AT_CHARACTER")
+            self.texte.insertTextContent(self.e.plage(place, place), cadre, False)
+            return cadre
+
+        def signet(place):
+            self.texte.insertTextContent(
+                self.e.plage(place, place),
+                self.doc.createInstance("com.sun.star.text.Bookmark"), False)
+
+        for place in (0, 3, 5, 7):
+            for poses in ((cadre, signet), (signet, cadre)):
+                for cherche, remplace in (("chat", "lion"), ("chat", "chats"), ("un", "le"),
+                                          ("un chat", "mon lion"), (" ", "  ")):
+                    with self.subTest(place=place, remplace=remplace, premier=poses[0].__name__):
+                        self.texte.setString("un chat noir")
+                        for pose in poses:
+                            pose(place)
+                        zone = self.zone("noir")
+                        permis = self.client.peut(zone, cherche)
+                        try:
+                            self.client.corrige(zone, cherche, remplace)
+                            fait = True
+                        except banc.Appel:
+                            fait = False
+                        self.assertTrue(fait or not permis)
+                        self.assertEqual(len(self.doc.Bookmarks.ElementNames), 1)
+                        self.assertEqual(len(self.doc.TextFrames.ElementNames), 1)
+                        self.assertEqual(self.texte.String, "un chat noir".replace(
+                            cherche, remplace, 1) if fait else "un chat noir")
+                        self.doc.Bookmarks.getByIndex(0).dispose()
+                        self.doc.TextFrames.getByIndex(0).dispose()
+
     def test_a_range_across_a_field_note_image_or_comment_is_refused(self):
         poses = {
             "field": lambda: self.e.met("com.sun.star.text.textfield.PageNumber"),
@@ -217,9 +354,70 @@ class Survie(Cas):
         client.prends(doc)
         zone = next(z for z in client.zones() if z.texte == "un mot gras")
         self.assertEqual(zone.styles, [(3, 6, 1)])
-        with self.assertRaises(banc.Appel):
-            client.corrige(zone, "mot", "maux")
+        self.reste(client, zone)
         self.assertIn("un mot gras", client.textes())
+
+    def reste(self, client, zone):
+        """Nothing in the zone can be corrected, and that is said beforehand."""
+        self.assertFalse(client.peut(zone, "mot"))
+        with self.assertRaises(banc.Appel) as refus:
+            client.corrige(zone, "mot", "maux")
+        self.assertEqual(refus.exception.nom, "ChampDetruit")
+
+    def commentaire(self, *paragraphes, **format_):
+        """A comment whose words have that format."""
+        champ = self.doc.createInstance("com.sun.star.text.textfield.Annotation")
+        texte = champ.TextRange
+        for i, paragraphe in enumerate(paragraphes):
+            if i:
+                texte.insertControlCharacter(texte.End, 0, False)
+            texte.insertString(texte.End, paragraphe, False)
+        curseur = texte.createTextCursor()
+        curseur.gotoStart(False)
+        curseur.gotoEnd(True)
+        for nom, valeur in format_.items():
+            curseur.setPropertyValue(nom, valeur)
+        self.texte.insertTextContent(self.texte.End, champ, False)
+        return champ
+
+    @staticmethod
+    def lettres(champ):
+        """The comment's paragraphs, each with its format."""
+        suite = champ.TextRange.createEnumeration()
+        vus = []
+        while suite.hasMoreElements():
+            p = suite.nextElement()
+            vus.append((p.String, p.CharHeight, p.CharFontName, p.CharColor,
+                        p.CharLocale.Language, p.ParaAdjust))
+        return vus
+
+    def test_a_comment_in_a_font_or_size_of_its_own_is_left_alone(self):
+        for format_ in ({"CharHeight": 8.0}, {"CharFontName": "DejaVu Sans"},
+                        {"CharColor": 0xFF0000}, {"CharLocale": Locale("de", "DE", "")},
+                        {"ParaAdjust": uno.Enum("com.sun.star.style.ParagraphAdjust", "CENTER")}):
+            with self.subTest(format=format_):
+                self.texte.setString("corps")
+                champ = self.commentaire("un mot", "suite", **format_)
+                avant = self.lettres(champ)
+                self.assertEqual([texte for texte, *_ in avant], ["un mot", "suite"])
+                self.reste(self.client, self.zone("mot"))
+                self.assertEqual(self.lettres(champ), avant)
+
+    def test_a_comment_that_ends_with_empty_paragraphs_is_left_alone(self):
+        self.texte.setString("corps")
+        champ = self.commentaire("un mot", "", "")
+        self.reste(self.client, self.zone("mot"))
+        self.assertEqual([texte for texte, *_ in self.lettres(champ)], ["un mot", "", ""])
+
+    def test_a_correction_never_makes_the_last_paragraph_of_a_comment_empty(self):
+        self.texte.setString("corps")
+        champ = self.commentaire("un", "mot")
+        zone = self.zone("mot")
+        with self.assertRaises(banc.Appel) as refus:
+            self.client.corrige(zone, "mot", "")
+        self.assertEqual(refus.exception.nom, "ChampDetruit")
+        self.corrige("mot", "maux")
+        self.assertEqual([texte for texte, *_ in self.lettres(champ)], ["un", "maux"])
 
     def test_the_fillers_of_a_range_never_become_letters(self):
         self.e.ecrit("un ").note("n")

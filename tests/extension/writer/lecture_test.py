@@ -128,6 +128,24 @@ class Caracteres(Cas):
         self.e.ecrit(" end")
         self.assertEqual(self.seule().texte, "page \a end")
 
+    def test_an_input_field_gives_its_words_and_a_list_a_filler(self):
+        self.e.ecrit("a ")
+        self.e.met("com.sun.star.text.textfield.Input", Content="un \U0001f600 mot", Hint="h")
+        self.e.ecrit(" b ")
+        self.e.met("com.sun.star.text.textfield.DropDown", Items=("x", "y"), SelectedItem="y")
+        self.e.ecrit(" c ")
+        self.e.met("com.sun.star.text.textfield.Input", Hint="vide")
+        self.assertEqual(self.seule().texte, "a un \U0001f600 mot b \a c \a")
+
+    def test_a_selection_in_an_input_field_is_told_and_made(self):
+        self.e.ecrit("a ")
+        self.e.met("com.sun.star.text.textfield.Input", Content="un mot", Hint="h")
+        self.e.ecrit(" b")
+        zone = self.seule()
+        self.client.SelectionneIntervalle(zone.nom, 5, 8)
+        self.assertEqual(self.client.DonneContenuSelection(), "mot")
+        self.assertEqual(self.seule().selection, (5, 8))
+
     def test_an_image_in_the_line_stands_as_one_filler(self):
         self.e.ecrit("a")
         self.e.met("com.sun.star.text.TextGraphicObject",
