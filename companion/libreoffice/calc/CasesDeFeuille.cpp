@@ -57,6 +57,15 @@ Blocs(std::vector<table::CellRangeAddress> triees) {
     return blocs;
 }
 
+std::uint32_t Etendue(Adresses const& plages) {
+    std::uint32_t nombre = 0;
+    for (table::CellRangeAddress const& plage : plages) {
+        nombre += static_cast<std::uint32_t>((plage.EndRow - plage.StartRow + 1) *
+                                             (plage.EndColumn - plage.StartColumn + 1));
+    }
+    return nombre;
+}
+
 /// Collects what one sheet has to read.
 class Recolte {
   public:
@@ -69,7 +78,7 @@ class Recolte {
         fusionnee_ = fusion->getIsMerged(); // any of its cells
     }
 
-    std::vector<CaseDeFeuille> Fais() {
+    LectureDeFeuille Fais() {
         LisPivots();
         for (table::CellRangeAddress const& plage :
              requete_->queryContentCells(sheet::CellFlags::FORMATTED)->getRangeAddresses()) {
@@ -83,6 +92,7 @@ class Recolte {
              Blocs(Visibles(sheet::CellFlags::STRING))) {
             LisTextes(bloc);
         }
+        auto const lues = static_cast<std::uint32_t>(cases_.size());
         for (table::CellRangeAddress const& plage : Visibles(sheet::CellFlags::ANNOTATION)) {
             for (sal_Int32 ligne = plage.StartRow; ligne <= plage.EndRow; ++ligne) {
                 for (sal_Int32 colonne = plage.StartColumn; colonne <= plage.EndColumn; ++colonne) {
@@ -94,7 +104,8 @@ class Recolte {
             return std::tie(a.ligne, a.colonne, a.estCommentaire) <
                    std::tie(b.ligne, b.colonne, b.estCommentaire);
         });
-        return std::move(cases_);
+        std::uint32_t const tous = CompteTextes(feuille_);
+        return {std::move(cases_), tous - std::min(tous, lues + generees_), generees_};
     }
 
   private:
@@ -178,7 +189,12 @@ class Recolte {
     void LisTexte(sal_Int32 ligne, sal_Int32 colonne, uno::Any const& valeur,
                   Format const& format) {
         OUString texte;
-        if (format.seLit && (valeur >>= texte) && !EstDansUnPivot(ligne, colonne)) {
+        if (!format.seLit || !(valeur >>= texte)) {
+            return;
+        }
+        if (EstDansUnPivot(ligne, colonne)) {
+            ++generees_;
+        } else {
             bool const uniforme = formatees_.count({ligne, colonne}) == 0 &&
                                   texte.indexOf('\n') < 0 && EstToutLatin(Vue(texte));
             cases_.push_back({ligne, colonne, false, uniforme, format.style, texte});
@@ -264,11 +280,18 @@ class Recolte {
     std::vector<table::CellRangeAddress> pivots_;
     std::set<std::pair<sal_Int32, sal_Int32>> formatees_; // of several formats or lines
     std::vector<CaseDeFeuille> cases_;
+    std::uint32_t generees_ = 0;
 };
 
 } // namespace
 
-std::vector<CaseDeFeuille> CasesDeFeuille(uno::Reference<sheet::XSpreadsheet> const& feuille) {
+std::uint32_t CompteTextes(uno::Reference<sheet::XSpreadsheet> const& feuille) {
+    uno::Reference<sheet::XCellRangesQuery> const requete(feuille, uno::UNO_QUERY_THROW);
+    return Etendue(requete->queryContentCells(static_cast<sal_Int16>(sheet::CellFlags::STRING))
+                       ->getRangeAddresses());
+}
+
+LectureDeFeuille CasesDeFeuille(uno::Reference<sheet::XSpreadsheet> const& feuille) {
     return Recolte(feuille).Fais();
 }
 

@@ -18,11 +18,19 @@ struct CaseDeFeuille {
     rtl::OUString texte;
 };
 
+struct LectureDeFeuille {
+    std::vector<CaseDeFeuille> cases;
+    std::uint32_t masquees = 0; ///< cells with text that are not in view
+    std::uint32_t generees = 0; ///< and that a pivot table has written
+};
+
+/// How many cells of a sheet hold text. Main thread, as the next one.
+std::uint32_t CompteTextes(css::uno::Reference<css::sheet::XSpreadsheet> const& feuille);
+
 /// What there is to read in a sheet, row by row, a cell's comment after its text. Not among it:
 /// numbers and formulas, hidden rows and columns (filtered out or folded away), cells covered by a
 /// merged one or hidden by their protection, what a pivot table has written. Takes time by the
-/// cells in use. Main thread.
-std::vector<CaseDeFeuille>
-CasesDeFeuille(css::uno::Reference<css::sheet::XSpreadsheet> const& feuille);
+/// cells in use.
+LectureDeFeuille CasesDeFeuille(css::uno::Reference<css::sheet::XSpreadsheet> const& feuille);
 
 } // namespace extension

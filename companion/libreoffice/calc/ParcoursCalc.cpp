@@ -15,6 +15,7 @@
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 
 using namespace com::sun::star;
+using compagnon::RaisonNonLu;
 
 namespace extension {
 
@@ -56,6 +57,8 @@ Cellules ParcoursCalc::Parcours() {
         uno::Reference<beans::XPropertySet> const proprietes(feuille, uno::UNO_QUERY_THROW);
         if (Vaut(proprietes, "IsVisible", true)) {
             ParcoursFeuille(feuille, static_cast<std::int16_t>(i));
+        } else {
+            recueil_.Omets(RaisonNonLu::Masque, CompteTextes(feuille));
         }
     }
     return std::move(vues_);
@@ -67,7 +70,10 @@ void ParcoursCalc::ParcoursFeuille(Feuille const& feuille, std::int16_t numero) 
     uno::Reference<container::XNamed> const nomme(feuille, uno::UNO_QUERY_THROW);
     contenant->endroit = std::make_shared<Endroit const>(
         Endroit{Endroit::Genre::Feuille, 0, std::u16string(Vue(nomme->getName())), nullptr});
-    for (CaseDeFeuille const& endroit : CasesDeFeuille(feuille)) {
+    LectureDeFeuille const lecture = CasesDeFeuille(feuille);
+    recueil_.Omets(RaisonNonLu::Masque, lecture.masquees);
+    recueil_.Omets(RaisonNonLu::Genere, lecture.generees);
+    for (CaseDeFeuille const& endroit : lecture.cases) {
         if (endroit.estCommentaire) {
             LisCommentaire(feuille, endroit, contenant);
         } else {

@@ -67,10 +67,16 @@ void LisForme(uno::Reference<uno::XInterface> const& forme, FondDeFormes const& 
     uno::Reference<lang::XServiceInfo> const services(forme, uno::UNO_QUERY);
     // A placeholder shows an invitation that nobody typed; a cell's comment is read with its cell.
     // From LibreOffice 24.8 on a slide's comment has a shape too, a marker with its number.
-    if (!Vaut(proprietes, "Visible", true) ||
-        Vaut(proprietes, "IsEmptyPresentationObject", false) ||
+    if (Vaut(proprietes, "IsEmptyPresentationObject", false) ||
         (services.is() && (services->supportsService("com.sun.star.sheet.CellAnnotationShape") ||
                            services->supportsService("com.sun.star.drawing.AnnotationShape")))) {
+        return;
+    }
+    if (!Vaut(proprietes, "Visible", true)) {
+        uno::Reference<text::XText> const texte(forme, uno::UNO_QUERY);
+        if (texte.is() && !texte->getString().isEmpty()) {
+            fond.recueil.Omets(compagnon::RaisonNonLu::Masque);
+        }
         return;
     }
     uno::Reference<drawing::XShapes> const groupe(forme, uno::UNO_QUERY);

@@ -46,14 +46,22 @@ bool EstDansSectionProtegee(uno::Reference<beans::XPropertySet> const& paragraph
     });
 }
 
-bool EstDansSectionNonLue(uno::Reference<beans::XPropertySet> const& paragraphe) {
-    return UneSection(paragraphe, [](uno::Reference<beans::XPropertySet> const& section) {
+std::optional<compagnon::RaisonNonLu>
+RaisonDeNePasLire(uno::Reference<beans::XPropertySet> const& paragraphe) {
+    std::optional<compagnon::RaisonNonLu> raison;
+    UneSection(paragraphe, [&](uno::Reference<beans::XPropertySet> const& section) {
         uno::Reference<uno::XInterface> index;
         section->getPropertyValue("DocumentIndex") >>= index;
-        // A hidden section whose condition does not hold at present is in view.
-        return index.is() ||
-               (!Vaut(section, "IsVisible", true) && !Vaut(section, "IsCurrentlyVisible", false));
+        if (index.is()) {
+            raison = compagnon::RaisonNonLu::Genere;
+        } else if (!Vaut(section, "IsVisible", true) &&
+                   !Vaut(section, "IsCurrentlyVisible", false)) {
+            // A hidden section whose condition does not hold at present is in view.
+            raison = compagnon::RaisonNonLu::Masque;
+        }
+        return raison.has_value();
     });
+    return raison;
 }
 
 } // namespace extension

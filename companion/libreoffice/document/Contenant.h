@@ -2,12 +2,14 @@
 #pragma once
 
 #include "Endroit.h"
+#include "modele/NonLus.h"
 
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/text/XText.hpp>
 #include <com/sun/star/util/XProtectable.hpp>
 
 #include <memory>
+#include <optional>
 
 namespace extension {
 
@@ -32,7 +34,9 @@ struct Contenant {
 /// Does a section around the paragraph forbid changes?
 bool EstDansSectionProtegee(css::uno::Reference<css::beans::XPropertySet> const& paragraphe);
 
-/// Is a section around the paragraph hidden, or is it generated (an index, a table of contents)?
-bool EstDansSectionNonLue(css::uno::Reference<css::beans::XPropertySet> const& paragraphe);
+/// Why a section around the paragraph is not read: it is hidden, or generated (an index, a table of
+/// contents). Nothing where it is.
+std::optional<compagnon::RaisonNonLu>
+RaisonDeNePasLire(css::uno::Reference<css::beans::XPropertySet> const& paragraphe);
 
 } // namespace extension

@@ -75,7 +75,8 @@ std::size_t DocumentOuvert::CompteProtegees() const {
     std::size_t nombre = 0;
     for (std::shared_ptr<ZoneOuverte> const& zone : carnet_.DonneZones()) {
         try {
-            nombre += zone->EstProtegee() ? 1 : 0;
+            bool const estLue = zone->DonneLieu().endroit != nullptr;
+            nombre += estLue && zone->EstProtegee() ? 1 : 0;
         } catch (compagnon::ErreurDuService const&) {
             continue; // it left the document since
         }
@@ -149,12 +150,14 @@ void DocumentOuvert::Parcours(Visiteur const& visiteur) {
     carnet_.Commence();
     nombre_ = 0;
     nonLus_ = {};
-    ParcoursZones([&](std::shared_ptr<ZoneOuverte> const& zone, compagnon::PlanDePortions&& plan) {
+    auto const recueille = [&](std::shared_ptr<ZoneOuverte> const& zone,
+                               compagnon::PlanDePortions&& plan) {
         ++nombre_;
         nonLus_.Ajoute(plan.DonneNonLus());
         auto const choisi = selection ? selection->Dans(*zone, plan) : std::nullopt;
         visiteur({zone, std::move(plan), choisi, false});
-    });
+    };
+    ParcoursZones(RecueilDeZones(recueille, nonLus_));
     carnet_.Termine();
 }
 

@@ -54,10 +54,9 @@ class DocumentOuvert {
     /// How many of the zones of the last walk cannot be changed, as something around them is
     /// protected. Takes time by the zones.
     std::size_t CompteProtegees() const;
-    /// How many zones the last walk found, and what it left out; before the first one there are
-    /// none.
+    /// How many zones the last walk found; before the first one there are none.
     std::size_t DonneNombreDeZones() const noexcept { return nombre_; }
-    /// What the last walk over all zones left unread in them, by reason.
+    /// What the last walk over all zones left unread, by reason.
     compagnon::NonLus const& DonneNonLus() const noexcept { return nonLus_; }
 
     /// The zone of that key, or null.

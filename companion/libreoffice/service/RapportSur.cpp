@@ -38,6 +38,12 @@ constexpr std::pair<compagnon::RaisonNonLu, Reste> kNonLus[] = {
        "1 deleted passage (tracked changes) is not read"},
       {"{1} passages supprimés (modifications suivies) ne sont pas lus",
        "{1} deleted passages (tracked changes) are not read"}}},
+    {compagnon::RaisonNonLu::Genere,
+     {"genere",
+      {"1 passage que la suite produit (index, table, tableau croisé) n’est pas lu",
+       "1 passage made by the office (index, contents, pivot table) is not read"},
+      {"{1} passages que la suite produit (index, table, tableau croisé) ne sont pas lus",
+       "{1} passages made by the office (index, contents, pivot table) are not read"}}},
 };
 
 void Ajoute(compagnon::Rapport& rapport, Reste const& reste, std::size_t nombre) {

@@ -143,7 +143,9 @@ void ParcoursWriter::ParcoursParagraphe(
     if (aDesSections_ || aDesCadres_ || !rencontres.empty()) {
         proprietes.set(paragraphe, uno::UNO_QUERY_THROW);
     }
-    if (aDesSections_ && EstDansSectionNonLue(proprietes)) {
+    if (auto const raison = aDesSections_ ? RaisonDeNePasLire(proprietes) : std::nullopt) {
+        recueil_.Omets(*raison);
+        zone->MetsLieu({}); // it may have been read before
         return;
     }
     zone->MetsLieu({contenant->endroit, rang});
@@ -207,6 +209,7 @@ void ParcoursWriter::ParcoursCadre(uno::Reference<uno::XInterface> const& objet,
     }
     uno::Reference<beans::XPropertySet> const proprietes(objet, uno::UNO_QUERY);
     if (!Vaut(proprietes, "Visible", true)) {
+        recueil_.Omets(compagnon::RaisonNonLu::Masque);
         return;
     }
     uno::Reference<text::XTextFrame> const cadre(objet, uno::UNO_QUERY);

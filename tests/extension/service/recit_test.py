@@ -242,6 +242,63 @@ class Rapport(unittest.TestCase):
                           "supprime": (1, "1 deleted passage (tracked changes) is not read")})
 
 
+class Laisses(unittest.TestCase):
+    """What the reading leaves out, by code and number."""
+
+    def laisses(self, prepare, genre="swriter"):
+        doc, client = banc.document_et_client(self, BUS, BUREAU, f"private:factory/{genre}")
+        prepare(doc)
+        for _ in range(2):  # the second reading counts anew
+            client.zones()
+        return {reste["code"]: reste["nombre"] for reste in client.rapport()["laisses"]}
+
+    def test_paragraphs_of_hidden_sections_and_of_indexes(self):
+        def prepare(doc):
+            doc.Text.setString("un\rdeux\rtrois\rquatre")
+            Ecrivain(doc).section(3, 13, IsVisible=False)
+            index = doc.createInstance("com.sun.star.text.ContentIndex")
+            doc.Text.insertTextContent(doc.Text.Start, index, False)
+            index.update()
+        laisses = self.laisses(prepare)
+        self.assertEqual(laisses.pop("masque"), 2)
+        self.assertGreater(laisses.pop("genere"), 0)
+        self.assertEqual(laisses, {})
+
+    def test_a_hidden_shape_in_a_text(self):
+        def prepare(doc):
+            Ecrivain(doc).ecrit("un").forme("dedans").Visible = False
+        self.assertEqual(self.laisses(prepare), {"masque": 1})
+
+    def test_cells_of_hidden_rows_and_sheets(self):
+        def prepare(doc):
+            feuille = doc.Sheets.getByIndex(0)
+            for rang in range(4):
+                feuille.getCellByPosition(0, rang).setString("mot")
+            feuille.getCellByPosition(1, 1).setValue(7)
+            feuille.getCellByPosition(1, 2).setFormula('="a"&"b"')
+            feuille.Rows.getByIndex(1).IsVisible = False
+            feuille.Rows.getByIndex(2).IsVisible = False
+            doc.Sheets.insertNewByName("cachée", 1)
+            doc.Sheets.getByIndex(1).getCellByPosition(3, 3).setString("mot")
+            doc.Sheets.getByIndex(1).IsVisible = False
+        self.assertEqual(self.laisses(prepare, "scalc"), {"masque": 3})
+
+    def test_a_hidden_shape_with_text_on_a_slide(self):
+        def prepare(doc):
+            for texte in ("vue", "cachée", ""):
+                forme = doc.createInstance("com.sun.star.drawing.RectangleShape")
+                forme.setSize(Size(5000, 2000))
+                doc.DrawPages.getByIndex(0).add(forme)
+                forme.setString(texte)
+                forme.Visible = texte == "vue"
+        self.assertEqual(self.laisses(prepare, "simpress"), {"masque": 1})
+
+    def test_nothing_where_all_is_read(self):
+        def prepare(doc):
+            Ecrivain(doc).ecrit("un").note("note").Text.setString("x")
+        self.assertEqual(self.laisses(prepare), {})
+
+
 class EnFrancais(unittest.TestCase):
     def test_reasons_names_and_the_report_are_in_the_offices_language(self):
         menus.met_en_francais("profil-fr")
