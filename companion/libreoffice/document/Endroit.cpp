@@ -63,9 +63,9 @@ std::string DisEndroit(Endroit const& endroit) {
         return Dis({"commentaire de {1}", "comment of {1}"}, {DisEndroit(*autour)});
     }
     Mots const mots = MotsDe(endroit.genre);
-    std::string const ici = endroit.nom.empty()
-                                ? Dis(mots.parNumero, {std::to_string(endroit.numero)})
-                                : Dis(mots.parNom, {compagnon::Utf16VersUtf8(endroit.nom)});
+    std::string ici = endroit.nom.empty()
+                          ? Dis(mots.parNumero, {std::to_string(endroit.numero)})
+                          : Dis(mots.parNom, {compagnon::Utf16VersUtf8(endroit.nom)});
     if (!autour) {
         return ici;
     }
@@ -80,8 +80,7 @@ std::string DisLieu(Lieu const& lieu) {
     if (!lieu.endroit) {
         return {};
     }
-    std::string const paragraphe =
-        Dis({"paragraphe {1}", "paragraph {1}"}, {std::to_string(lieu.rang)});
+    std::string paragraphe = Dis({"paragraphe {1}", "paragraph {1}"}, {std::to_string(lieu.rang)});
     if (lieu.endroit->genre == Genre::Corps) {
         return paragraphe;
     }
