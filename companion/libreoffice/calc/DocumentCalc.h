@@ -15,6 +15,7 @@ class DocumentCalc : public DocumentOuvert {
 
   protected:
     NomDeStyle DonneStyleOrdinaire() const override { return {"CellStyles", "Default"}; }
+    bool PeutEtreProtege() const override;
     void ParcoursZones(RecueilDeZones const& recueil) override;
     std::unique_ptr<SelectionVue> LisSelectionDuBureau() override;
 

@@ -73,6 +73,9 @@ std::string DocumentOuvert::DonneLangue() const {
 
 std::size_t DocumentOuvert::CompteProtegees() const {
     std::size_t nombre = 0;
+    if (!PeutEtreProtege()) {
+        return nombre;
+    }
     for (std::shared_ptr<ZoneOuverte> const& zone : carnet_.DonneZones()) {
         try {
             bool const estLue = zone->DonneLieu().endroit != nullptr;

@@ -52,7 +52,7 @@ class DocumentOuvert {
     void Parcours(Visiteur const& visiteur);
 
     /// How many of the zones of the last walk cannot be changed, as something around them is
-    /// protected. Takes time by the zones.
+    /// protected. Takes time by the zones where there may be any.
     std::size_t CompteProtegees() const;
     /// How many zones the last walk found; before the first one there are none.
     std::size_t DonneNombreDeZones() const noexcept { return nombre_; }
@@ -85,6 +85,9 @@ class DocumentOuvert {
         char const* nom;
     };
     virtual NomDeStyle DonneStyleOrdinaire() const { return {nullptr, nullptr}; }
+    /// May anything in it be protected at all? Quick, so that most documents are not asked zone by
+    /// zone.
+    virtual bool PeutEtreProtege() const { return true; }
     virtual void ParcoursZones(RecueilDeZones const& recueil) = 0;
     /// What is selected now; null for nothing with a text.
     virtual std::unique_ptr<SelectionVue> LisSelectionDuBureau() = 0;

@@ -536,6 +536,7 @@ class Refus(Cas):
         self.doc.CurrentController.select(self.cellule("A1"))
         BUREAU.commande(self.doc, ".uno:SetInputMode")
         self.refuse("mot", "x", "Frappe")
+        self.assertEqual(self.client.refus(self.zone("mot"))[0], "Frappe")
         self.corrige("autre", "autres")
         self.doc.CurrentController.select(self.cellule("A2"))
         self.corrige("mot", "maux")

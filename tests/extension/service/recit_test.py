@@ -7,6 +7,7 @@ import unittest
 import uno  # noqa: F401
 from com.sun.star.awt import Size
 from com.sun.star.lang import Locale
+from com.sun.star.util import CellProtection
 
 import banc
 import menus
@@ -282,6 +283,18 @@ class Laisses(unittest.TestCase):
             doc.Sheets.getByIndex(1).getCellByPosition(3, 3).setString("mot")
             doc.Sheets.getByIndex(1).IsVisible = False
         self.assertEqual(self.laisses(prepare, "scalc"), {"masque": 3})
+
+    def test_locked_cells_of_a_protected_sheet(self):
+        def prepare(doc):
+            feuille = doc.Sheets.getByIndex(0)
+            for rang in range(3):
+                feuille.getCellByPosition(0, rang).setString("mot")
+            libre = feuille.getCellByPosition(0, 1)
+            libre.CellProtection = CellProtection(False, False, False, False)
+            feuille.protect("")
+            doc.Sheets.insertNewByName("ouverte", 1)
+            doc.Sheets.getByIndex(1).getCellByPosition(0, 0).setString("mot")
+        self.assertEqual(self.laisses(prepare, "scalc"), {"protege": 2})
 
     def test_a_hidden_shape_with_text_on_a_slide(self):
         def prepare(doc):
