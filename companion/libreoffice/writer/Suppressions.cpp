@@ -7,6 +7,8 @@
 #include <com/sun/star/lang/IllegalArgumentException.hpp>
 #include <com/sun/star/text/XTextRangeCompare.hpp>
 
+#include <utility>
+
 using namespace com::sun::star;
 
 namespace extension {
@@ -35,6 +37,10 @@ int Suppressions::OuvertesAuDebut(uno::Reference<text::XTextRange> const& paragr
             continue;
         }
         try {
+            // One that was made backwards is told with its end first.
+            if (ordre->compareRegionStarts(debut, fin) < 0) {
+                std::swap(debut, fin);
+            }
             if (ordre->compareRegionStarts(debut->getStart(), ici) > 0 &&
                 ordre->compareRegionStarts(ici, fin->getStart()) >= 0) {
                 ++ouvertes;

@@ -737,6 +737,18 @@ class Suivi(Cas):
         self.client.corrige(zone, "bbbb", "ffff")
         self.assertEqual(self.zone("eeee").texte, " eeee ffff")
 
+    def test_a_paragraph_whose_deleted_start_was_replaced_is_selected_and_corrected_at_the_right_place(self):
+        self.doc.RecordChanges = False
+        self.texte.setString("aaaa bbbb\rcccc dddd")
+        self.doc.RecordChanges = True
+        self.e.plage(5, 15).setString("eeee")
+        zone = self.zone("dddd")
+        self.client.SelectionneIntervalle(zone.nom, 0, 4)
+        self.assertEqual((self.client.DonneContenuSelection(), self.client.DonneDebutSelection()),
+                         (zone.texte[:4], 0))
+        self.client.corrige(zone, "dddd", "ffff")
+        self.assertEqual(self.zone("ffff").texte, zone.texte)
+
 
 if __name__ == "__main__":
     unittest.main()
