@@ -1,0 +1,92 @@
+# SPDX-License-Identifier: MPL-2.0
+"""Whose difference is it? The same is done again in a second copy, without the extension."""
+
+import contextlib
+import os
+
+import banc
+from .constats import BUREAU, FAUTE, Bilan
+from .fichier.differences import Difference, differences, partage
+from .fichier.ossature import Ossature
+from .ouvert import Ouvert, PasAnnule, PasEnregistre
+from .temoin import Temoin
+
+
+TABLEUR = "com.sun.star.sheet.SpreadsheetDocument"
+# Its rows are as high as their letters from the first edit on, whoever makes it, and what stands below
+# them moves.
+RANGEES = frozenset({"style:row-height", "svg:y", "table:end-y", "svg:height", "draw:caption-point-y"})
+AUTOUR = 40  # letters on both sides of what differs in a line
+
+
+def _dis(difference: Difference) -> str:
+    if len(difference.perdu) == len(difference.gagne) == 1:
+        perdu, gagne = difference.perdu[0], difference.gagne[0]
+        debut = len(os.path.commonprefix((perdu, gagne)))
+        fin = min(len(os.path.commonprefix((perdu[::-1], gagne[::-1]))),
+                  len(perdu) - debut, len(gagne) - debut)
+        avant, apres = (dit[max(0, debut - AUTOUR):len(dit) - fin + AUTOUR if fin > AUTOUR else None]
+                        for dit in (perdu, gagne))
+        return f"{difference.lieu}: {avant!r} became {apres!r}"
+    return f"{difference.lieu}: -{list(difference.perdu)} +{list(difference.gagne)}"
+
+
+class Controle:
+    """Gathers differences, then judges them all with one more copy, opened only if there are any."""
+
+    def __init__(self, bureau: banc.Bureau, fichier, bilan: Bilan):
+        self._bureau, self._fichier, self._bilan = bureau, fichier, bilan
+        self._vues: dict[str, list[Difference]] = {}
+        self.faits: list = []  # the corrections that were made
+        self.autrement: list[str] = []  # zones that undo did not give back
+        self._tableur = False
+
+    def compare(self, nature: str, avant: Ossature, apres: Ossature) -> None:
+        if trouvees := differences(avant.lignes, apres.lignes):
+            self._vues[nature] = trouvees
+
+    def juge(self) -> None:
+        if self._vues:
+            self._juge_avec_temoin()
+        self._bilan.note("annulation.texte", FAUTE, self.autrement)
+
+    def _juge_avec_temoin(self) -> None:
+        du_bureau, passageres, manques = self._rejoue()
+        for nature, vues in self._vues.items():
+            notres, siennes = partage(vues, du_bureau.get(nature, []), passageres,
+                                      RANGEES if self._tableur else frozenset())
+            suite = [f"not done without the extension: {essai}" for essai in manques if notres]
+            self._bilan.note(nature, FAUTE, list(map(_dis, notres)) + suite)
+            self._bilan.note(nature, BUREAU, map(_dis, siennes))
+            if nature == "annulation":
+                self._bilan.note("annulation.texte", FAUTE if notres else BUREAU, self.autrement)
+                self.autrement = []
+
+    def _rejoue(self) -> tuple[dict[str, list[Difference]], list[Difference], list]:
+        """The differences that the office makes, by their nature; those between two saves with
+        nothing done in between; the corrections that found no place."""
+        ouvert = Ouvert(self._bureau, self._fichier)
+        try:
+            self._tableur = ouvert.modele.supportsService(TABLEUR)
+            premier, avant = ouvert.enregistre(), ouvert.enregistre()
+            passageres = differences(Ossature(premier, True).lignes, Ossature(avant, True).lignes)
+            pas = ouvert.etapes()
+            temoin = Temoin(ouvert.modele)
+            manques = [essai for essai in self.faits if not
+                       self._bureau.sur_le_fil_principal(lambda e=essai: temoin.fais(e))]
+            corrige = ouvert.enregistre()
+            annulable = ouvert.etapes() > pas  # of what a cursor does to a shape there is no step
+            with contextlib.suppress(PasAnnule):  # the office's own failing
+                ouvert.annule(pas)
+            annule = ouvert.enregistre()
+        except PasEnregistre as erreur:
+            self._bilan.note("enregistrement", BUREAU, [f"without the extension: {erreur}"])
+            return {}, [], self.faits
+        finally:
+            if self._bureau.processus.poll() is None:
+                ouvert.ferme()
+        return {"lecture.change": passageres,
+                "structure": differences(Ossature(avant, False).lignes,
+                                         Ossature(corrige, False).lignes),
+                "annulation": differences(Ossature(avant, True).lignes, Ossature(annule, True).lignes)
+                if annulable else []}, passageres, manques

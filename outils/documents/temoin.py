@@ -1,0 +1,214 @@
+# SPDX-License-Identifier: MPL-2.0
+"""The same corrections in a second copy, by a text cursor alone: what the office does by itself.
+
+The extension is asked for nothing here, and nothing of its way of finding places is used.
+"""
+
+import itertools
+import os
+
+from .choix import REMPLISSAGE, Essai, en_unites
+
+PARAGRAPHE_ECRIT = "SwXParagraph"  # of a text document: the services of both kinds are the same
+CESURE = "\xad"  # which a zone leaves out
+POSSIBLES_MAX = 500  # paragraphs that are looked at portion by portion
+EN_LETTRES = 4  # com.sun.star.sheet.CellFlags.STRING
+
+
+def _suite(enumeration):
+    while enumeration.hasMoreElements():
+        yield enumeration.nextElement()
+
+
+def _valeur(objet, nom: str):
+    try:
+        return getattr(objet, nom)
+    except AttributeError:
+        return None
+
+
+def _est_dans_la_ligne(portion) -> bool:
+    contenus = portion.createContentEnumeration("com.sun.star.text.TextContent")
+    return any(contenu.AnchorType.value == "AS_CHARACTER" for contenu in _suite(contenus))
+
+
+def _differe(avant: str, apres: str) -> tuple[int, int]:
+    """What of `avant` is to be replaced: a person would not type again what stays."""
+    debut = len(os.path.commonprefix((avant, apres)))
+    fin = len(os.path.commonprefix((avant[debut:][::-1], apres[debut:][::-1])))
+    return debut, len(avant) - fin
+
+
+class Paragraphe:
+    """A paragraph of any text, with what plain UNO says of its portions."""
+
+    def __init__(self, donne_texte, rang: int, etendue, champ=None):
+        self._donne_texte, self.champ = donne_texte, champ
+        self._rang, self._etendue = rang, etendue
+        self.vu = etendue.getString()
+
+    def _donne_etendue(self):
+        """The paragraph as it is now: one of the drawing engine keeps to the letters that it had, and
+        so does its text, as far as a spreadsheet's cell is concerned."""
+        if not self._est_ecrit():
+            texte = self._donne_texte()
+            texte.getString()  # or the first enumeration after an edit ends where the text did
+            suite = _suite(texte.createEnumeration())
+            self._etendue = next(itertools.islice(suite, self._rang, None), self._etendue)
+        return self._etendue
+
+    def _est_ecrit(self) -> bool:
+        return self._etendue.ImplementationName == PARAGRAPHE_ECRIT
+
+    def _portions(self, porteur=None):
+        """Pairs of a range and its letters; for what is no letter, the filler or nothing."""
+        for portion in _suite((porteur or self._donne_etendue()).createEnumeration()):
+            genre = _valeur(portion, "TextPortionType")
+            dedans = genre in ("ContentControl", "InContentMetadata") and _valeur(portion, genre)
+            if dedans and not _valeur(dedans, "ListItems"):
+                yield from self._portions(dedans)
+            elif genre == "Text" or genre is None:
+                if not _valeur(portion, "CharHidden"):
+                    yield portion, portion.getString()
+            elif genre == "LineBreak":
+                yield portion, REMPLISSAGE
+            elif genre in ("Footnote", "TextField", "ContentControl") or (
+                    genre == "Frame" and _est_dans_la_ligne(portion)):
+                yield portion, REMPLISSAGE
+
+    def se_lit(self, texte: str) -> bool:
+        return "".join(lettres for _, lettres in self._portions()).replace(CESURE, "") == texte
+
+    def remplace(self, essai: Essai) -> bool:
+        if self.champ is not None:  # of a comment in a text, only all of it at once
+            self.champ.Content = self.champ.Content.replace(essai.avant, essai.apres, 1)
+            return True
+        avant, apres = _differe(essai.original, essai.ajout)
+        debut, fin = (self._position(essai.debut + len(en_unites(essai.original[:avant]))),
+                      self._position(essai.fin - len(en_unites(essai.original[apres:]))))
+        if debut is None or fin is None:
+            return False
+        debut.gotoRange(fin, True)
+        debut.setString(essai.ajout[avant:len(essai.ajout) - len(essai.original) + apres])
+        self.vu = self._donne_etendue().getString()
+        return True
+
+    def _position(self, unite: int):
+        """A cursor there; a place counts from the start of the letters that hold it."""
+        passees, bout = 0, self._donne_etendue().getStart()
+        for portion, lettres in self._portions():
+            if lettres == REMPLISSAGE:
+                if unite == passees:
+                    return self._curseur(portion.getStart())
+                passees += 1
+            else:
+                pas = _pas(lettres, unite - passees, self._est_ecrit())
+                if pas is not None:
+                    curseur = self._curseur(portion.getStart())
+                    curseur.goRight(pas, False)
+                    return curseur
+                passees += len(en_unites(lettres.replace(CESURE, "")))
+            bout = portion.getEnd()
+        return self._curseur(bout) if unite == passees else None
+
+    def _curseur(self, etendue):
+        return self._donne_texte().createTextCursorByRange(etendue)
+
+
+def _pas(lettres: str, unites: int, par_lettre: bool) -> int | None:
+    """How many steps of a cursor make so many units in a zone: it goes by letters in a text document,
+    by units in the drawing engine."""
+    pas = 0
+    for lettre in lettres:
+        if unites <= 0:
+            break
+        largeur = len(en_unites(lettre))
+        pas += 1 if par_lettre else largeur
+        unites -= 0 if lettre == CESURE else largeur
+    return pas if unites == 0 else None
+
+
+class Temoin:
+    """All paragraphs of a document that could be the one that a zone shows."""
+
+    def __init__(self, modele):
+        self._paragraphes: list[Paragraphe] = []
+        if modele.supportsService("com.sun.star.sheet.SpreadsheetDocument"):
+            self._tableur(modele)
+        elif modele.supportsService("com.sun.star.text.GenericTextDocument"):
+            self._ecrit(modele)
+        else:
+            self._pages(modele)
+
+    def fais(self, essai: Essai) -> bool:
+        """Makes the correction in the paragraph that reads as the zone did, of several in the one
+        that comes as far down."""
+        semblables = [p for p in self._paragraphes if p.vu == essai.avant]
+        if not semblables:
+            plus_long = max(essai.avant.replace("\n", REMPLISSAGE).split(REMPLISSAGE), key=len)
+            possibles = [p for p in self._paragraphes if plus_long in p.vu.replace(CESURE, "")]
+            semblables = [p for p in possibles[:POSSIBLES_MAX] if p.se_lit(essai.avant)]
+        if not semblables:
+            return False
+        return semblables[min(essai.pareilles, len(semblables) - 1)].remplace(essai)
+
+    def _texte(self, texte, champ=None, donne=None) -> None:
+        for rang, element in enumerate(_suite(texte.createEnumeration())):
+            if hasattr(element, "getCellNames"):
+                for nom in element.getCellNames():
+                    self._texte(element.getCellByName(nom))
+            else:
+                self._paragraphes.append(Paragraphe(donne or (lambda: texte), rang, element, champ))
+
+    def _ecrit(self, modele) -> None:
+        styles = modele.StyleFamilies.getByName("PageStyles")
+        for style in (styles.getByIndex(i) for i in range(styles.getCount())):
+            for nom in ("Header", "Footer"):
+                if style.isInUse() and getattr(style, nom + "IsOn"):
+                    for variante in ("Text", "TextLeft", "TextFirst"):
+                        self._texte(getattr(style, nom + variante))
+        self._texte(modele.Text)
+        for notes in (modele.Footnotes, modele.Endnotes):
+            for i in range(notes.getCount()):
+                self._texte(notes.getByIndex(i))
+        for i in range(modele.TextFrames.getCount()):
+            self._texte(modele.TextFrames.getByIndex(i))
+        for champ in _suite(modele.TextFields.createEnumeration()):
+            if champ.supportsService("com.sun.star.text.textfield.Annotation"):
+                self._texte(champ.TextRange, champ)
+        self._formes(modele.DrawPage)
+
+    def _tableur(self, modele) -> None:
+        for feuille in (modele.Sheets.getByIndex(i) for i in range(modele.Sheets.getCount())):
+            for a in feuille.queryContentCells(EN_LETTRES).getRangeAddresses():
+                for ligne in range(a.StartRow, a.EndRow + 1):
+                    for colonne in range(a.StartColumn, a.EndColumn + 1):
+                        self._cellule(feuille, colonne, ligne)
+            for i in range(feuille.Annotations.getCount()):
+                self._texte(feuille.Annotations.getByIndex(i).AnnotationShape)
+            self._formes(feuille.DrawPage)
+
+    def _cellule(self, feuille, colonne: int, ligne: int) -> None:
+        self._texte(feuille.getCellByPosition(colonne, ligne),
+                    donne=lambda: feuille.getCellByPosition(colonne, ligne))
+
+    def _pages(self, modele) -> None:
+        for page in (modele.DrawPages.getByIndex(i) for i in range(modele.DrawPages.getCount())):
+            self._formes(page)
+            if hasattr(page, "createAnnotationEnumeration"):
+                for annotation in _suite(page.createAnnotationEnumeration()):
+                    self._texte(annotation.TextRange)
+            if hasattr(page, "NotesPage"):
+                self._formes(page.NotesPage)
+
+    def _formes(self, formes) -> None:
+        for forme in (formes.getByIndex(i) for i in range(formes.getCount())):
+            if hasattr(forme, "getByIndex"):
+                self._formes(forme)
+            elif _valeur(forme, "UseFirstRowStyle") is not None and _valeur(forme, "Model"):
+                tableau = forme.Model
+                for ligne in range(tableau.RowCount):
+                    for colonne in range(tableau.ColumnCount):
+                        self._texte(tableau.getCellByPosition(colonne, ligne))
+            elif hasattr(forme, "createEnumeration"):
+                self._texte(forme.getText())  # of one with a frame of Writer's inside, that one
