@@ -49,7 +49,16 @@ std::optional<table::CellAddress> Cellule::Adresse() const {
 }
 
 uno::Reference<text::XText> Cellule::DonneTexte() const {
-    return uno::Reference<text::XText>(DonneObjet(), uno::UNO_QUERY_THROW);
+    // Of the cell asked for anew: the text of one that is kept goes on ending where it ended when
+    // undo makes it longer.
+    uno::Reference<sheet::XSheetCellRange> const cellule(DonneObjet(), uno::UNO_QUERY_THROW);
+    std::optional<table::CellAddress> const adresse = Adresse();
+    if (!adresse) {
+        return uno::Reference<text::XText>(DonneObjet(), uno::UNO_QUERY_THROW);
+    }
+    return uno::Reference<text::XText>(
+        cellule->getSpreadsheet()->getCellByPosition(adresse->Column, adresse->Row),
+        uno::UNO_QUERY_THROW);
 }
 
 OUString Cellule::DonneTexteBrut() const {

@@ -619,6 +619,16 @@ class Annulation(Cas):
         self.assertIn("<table:cell-content-change", contenu)
         self.assertIn("un chat noir", contenu)
 
+    def test_what_undo_gave_back_is_read_to_its_end(self):
+        self.remplis(A1="un mot\n\nun paragraphe")
+        self.corrige("paragraphe", "mot")
+        self.client.CorrigeDansTexteur(self.client.zones()[1].nom, 0, 0, "suite", False)
+        self.assertEqual(self.client.textes(), ["un mot", "suite", "un mot"])
+        self.doc.UndoManager.undo()
+        self.client.textes()
+        self.doc.UndoManager.undo()
+        self.assertEqual(self.client.textes(), ["un mot", "", "un paragraphe"])
+
 
 class Selection(Cas):
     def choisis(self, quoi):
