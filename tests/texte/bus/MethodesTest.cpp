@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MPL-2.0
+#include "Contrat.h"
 #include "outils/bus/BureauTexte.h"
 #include "outils/bus/BusPrive.h"
 #include "outils/bus/ClientBureau.h"
@@ -280,14 +281,15 @@ TEST_F(OfficeMethods, ToolsThatStartAnewReplaceTheSelectionAsItStands) {
     EXPECT_EQ(Selection(), "Le");
 }
 
-TEST_F(OfficeMethods, ALongTextMakesTheWholeWayThereAndBack) {
-    std::string const morceau = "\U0001F600é";
+TEST_F(OfficeMethods, TheLongestTextMakesTheWholeWayThereAndBack) {
+    std::string const morceau = "\U0001F600é"; // three units
+    constexpr int kMorceaux = contrat::kUnitesRemplacementMax / 3;
     std::string texte;
-    for (int i = 0; i < 200000; ++i) {
+    for (int i = 0; i < kMorceaux; ++i) {
         texte += morceau;
     }
     EXPECT_EQ(client.Corrige(zones[0].nom, 0, 14, texte), "");
-    EXPECT_TRUE(client.PeutCorriger(zones[0].nom, 0, 600000, texte));
+    EXPECT_TRUE(client.PeutCorriger(zones[0].nom, 0, 3 * kMorceaux, texte));
     EXPECT_EQ(client.Synchronise(bureau.Identifiant())[0].texte, texte);
 }
 
