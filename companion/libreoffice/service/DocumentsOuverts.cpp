@@ -3,6 +3,7 @@
 
 #include "calc/DocumentCalc.h"
 #include "commun/Hasard.h"
+#include "commun/Objets.h"
 #include "dessin/DocumentImpress.h"
 #include "writer/DocumentWriter.h"
 
@@ -111,12 +112,14 @@ DocumentsOuverts::ParModele(uno::Reference<frame::XModel> const& modele) {
 
 std::vector<std::shared_ptr<DocumentOuvert>> DocumentsOuverts::Tous() {
     std::vector<std::shared_ptr<DocumentOuvert>> tous;
+    Objets vus;
     uno::Reference<frame::XModel> const devant(bureau_->getCurrentComponent(), uno::UNO_QUERY);
     uno::Reference<container::XEnumeration> const suite =
         bureau_->getComponents()->createEnumeration();
     while (suite->hasMoreElements()) {
         uno::Reference<frame::XModel> const modele(suite->nextElement(), uno::UNO_QUERY);
-        if (!modele.is() || EstCache(modele)) {
+        // A document in several windows comes once for each.
+        if (!modele.is() || EstCache(modele) || !vus.Ajoute(modele)) {
             continue;
         }
         std::shared_ptr<DocumentOuvert> document = ParModele(modele);

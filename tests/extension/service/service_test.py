@@ -110,6 +110,11 @@ class Interface(Cas):
         vue.gotoStart(False)
         self.assertFalse(self.client.PermetsRetourDeCharriot())
 
+    def test_a_document_in_two_windows_is_listed_once(self):
+        avant = sorted(d["id"] for d in self.client.documents())
+        self.bureau.commande(self.doc, ".uno:NewWindow")
+        self.assertEqual(sorted(d["id"] for d in self.client.documents()), avant)
+
     def test_documents_with_the_same_title_are_two(self):
         autre = self.ouvre("autre")
         self.addCleanup(lambda: autre.close(True))
