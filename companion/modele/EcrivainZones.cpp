@@ -33,6 +33,15 @@ bool EcrivainZones::Abandonne() {
     return false;
 }
 
+std::size_t EcrivainZones::BorneDe(std::string_view nom, std::u16string_view texte,
+                                   std::size_t nombreDeStyles) noexcept {
+    constexpr std::size_t kCles = 128;    // all that is neither name, text nor run
+    constexpr std::size_t kUneSuite = 64; // with three numbers
+    auto const enBase64 = [](std::size_t octets) { return (octets + 2) / 3 * 4; };
+    return kCles + enBase64(nom.size()) + enBase64(OctetsEnUtf8(texte)) +
+           nombreDeStyles * kUneSuite;
+}
+
 bool EcrivainZones::Ajoute(std::string_view nom, std::u16string_view texte, Intervalle selection,
                            std::vector<PlageDeStyle> const& styles) {
     if (depasse_) {

@@ -19,6 +19,10 @@ class EcrivainZones {
     /// `limite`: bytes that the finished document may have.
     explicit EcrivainZones(std::size_t limite = contrat::kLimiteReponse);
 
+    /// Bytes that a zone takes at most, whatever is selected in it.
+    static std::size_t BorneDe(std::string_view nom, std::u16string_view texte,
+                               std::size_t nombreDeStyles) noexcept;
+
     /// Makes room at once for a document of about so many bytes: growing step by step copies it.
     void Prevois(std::size_t octets) { document_.reserve(octets < limite_ ? octets : limite_); }
 

@@ -57,6 +57,8 @@ class TexteSuivi {
     void Oublie() noexcept;
     /// What the host believes; empty when nothing is known.
     std::u16string_view DonneCroyance() const noexcept;
+    /// The same, to be shared; null when nothing is known.
+    TextePartage const& DonneTexte() const noexcept { return croyance_; }
 
     /// Where `plage` (the host's offsets) stands in `document`. Linear, without allocation.
     Localisation Localise(Intervalle plage, std::u16string_view document) const noexcept;

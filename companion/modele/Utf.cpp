@@ -132,6 +132,15 @@ void AjouteUtf8(std::u16string_view texte, std::string& sortie) {
     }
 }
 
+std::size_t OctetsEnUtf8(std::u16string_view texte) noexcept {
+    std::size_t octets = 0;
+    for (char16_t const unite : texte) {
+        bool const demie = unite >= 0xD800 && unite < 0xE000; // a pair takes four
+        octets += unite < 0x80 ? 1U : unite < 0x800 || demie ? 2U : 3U;
+    }
+    return octets;
+}
+
 std::string Utf16VersUtf8(std::u16string_view texte) {
     std::string resultat;
     resultat.reserve(texte.size());

@@ -26,6 +26,9 @@ std::u16string RendsEnvoyable(std::u16string_view texte);
 void AjouteUtf8(std::u16string_view texte, std::string& sortie);
 std::string Utf16VersUtf8(std::u16string_view texte);
 
+/// Bytes that `AjouteUtf8` writes for the text, at most.
+std::size_t OctetsEnUtf8(std::u16string_view texte) noexcept;
+
 /// Strict reading: no overlong form, no surrogate, nothing past U+10FFFF. Nothing on bad input.
 std::optional<std::u16string> Utf8VersUtf16(std::string_view octets);
 

@@ -24,8 +24,7 @@ struct RefusDit {
 /// What a caller was given of one document when it last synchronised, with its corrections since.
 struct DocumentDonne {
     std::unordered_map<std::string, TexteSuivi> zones; ///< by zone key
-    std::size_t taille = 0; ///< bytes of the reply: the next is most often about as long
-    std::unordered_map<std::string, RefusDit> refus; ///< of the zones last refused to it
+    std::unordered_map<std::string, RefusDit> refus;   ///< of the zones last refused to it
 };
 
 /// What is known of one calling connection.

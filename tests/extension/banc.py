@@ -245,6 +245,19 @@ class Client:
                                   "org.freedesktop.DBus", "ListNames", None, None, 0, 5000,
                                   None).unpack()[0]
 
+    def pid(self):
+        """The office's process."""
+        return self.bus.call_sync(
+            "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+            "GetConnectionUnixProcessID", GLib.Variant("(s)", (SERVICE + self.instance,)), None, 0,
+            5000, None).unpack()[0]
+
+    def processeur(self):
+        """Seconds of processor that the office's main thread has taken: whatever else the machine
+        does counts for nothing in it."""
+        pid = self.pid()
+        return int(pathlib.Path(f"/proc/{pid}/task/{pid}/schedstat").read_text().split()[0]) / 1e9
+
     def appelle(self, methode, *arguments, signature=None, interface=PROXY, patience=60000):
         signature = signature or "(" + "".join(
             "b" if isinstance(a, bool) else "i" if isinstance(a, int) else "s"

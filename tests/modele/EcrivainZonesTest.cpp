@@ -5,6 +5,10 @@
 #include <json/json.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <limits>
+#include <string>
+#include <vector>
 
 using compagnon::EcrivainZones;
 
@@ -92,4 +96,15 @@ TEST(ZoneWriter, TenTimesTheZonesAreNotMuchMoreThanTenTimesTheBytes) {
         return ecrivain.Termine()->size();
     };
     EXPECT_LT(taille(100000), 11 * taille(10000));
+}
+
+TEST(ZoneWriter, WhatAZoneTakesAtMostIsToldBeforehand) {
+    constexpr std::int32_t kMoins = std::numeric_limits<std::int32_t>::min();
+    std::vector<compagnon::PlageDeStyle> const styles(3, {kMoins, kMoins, 0xFFFF});
+    for (std::u16string const& texte : {std::u16string(), std::u16string(100, u'\u2019')}) {
+        EcrivainZones ecrivain;
+        EXPECT_TRUE(ecrivain.Ajoute("une zone", texte, {kMoins, kMoins}, styles));
+        EXPECT_LE(ecrivain.Termine()->size(),
+                  EcrivainZones::BorneDe("une zone", texte, styles.size()));
+    }
 }

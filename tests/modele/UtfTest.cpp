@@ -104,3 +104,13 @@ TEST(Utf, AReplyByItselfNeverBeginsWithAByteOrderMark) {
     EXPECT_EQ(compagnon::RendsEnvoyable(u"a\uFEFF"), u"a\uFEFF");
     EXPECT_EQ(compagnon::RendsEnvoyable(u""), u"");
 }
+
+TEST(Utf, TheBytesToComeAreToldBeforehandAndNeverTooFew) {
+    for (std::u16string const& texte :
+         {std::u16string(), std::u16string(u"abc"), std::u16string(u"\u00e9t\u00e9 \u2019"),
+          std::u16string(u"\U0001f600\U0001d11e"), std::u16string(u"\uffff\u0800\u07ff")}) {
+        EXPECT_EQ(compagnon::OctetsEnUtf8(texte), compagnon::Utf16VersUtf8(texte).size());
+    }
+    std::u16string const demies{0xD800, u'a', 0xDC00, 0};
+    EXPECT_GE(compagnon::OctetsEnUtf8(demies), compagnon::Utf16VersUtf8(demies).size());
+}

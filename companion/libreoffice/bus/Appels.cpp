@@ -155,6 +155,7 @@ bool Appels::SersLeSuivant(Cadence::Instant fin) {
                                                     : Avance(*attente, {appelant, fin, estParti});
     std::lock_guard<std::mutex> const verrou(mutex_);
     if (fini) {
+        attente->appel.travail = nullptr; // here: it may hold something of the office's
         attentes_.Retire(appelant);
         if (attente->estDepart) {
             partis_.erase(appelant);

@@ -194,12 +194,27 @@ gboolean SurRemplace(GObject* /*s*/, Invocation* invocation, char const* mot, gp
                 });
 }
 
+/// The zones are read piece by piece, and written down away from the main thread.
 gboolean SurSynchronise(GObject* /*s*/, Invocation* invocation, char const* leId,
                         gpointer methodes) {
-    return Sert(methodes, invocation,
-                [leId = std::string(leId)](Service& service, std::string const& appelant) {
-                    return LongueChaine(service.SynchronisePositions(appelant, leId));
-                });
+    auto travail = [leId = std::string(leId), lecture = std::shared_ptr<Synchronisation>()](
+                       Service& service, Appels::Morceau const& morceau) mutable -> Appels::Issue {
+        if (morceau.estParti) {
+            throw compagnon::ErreurDuService(contrat::Erreur::Occupe); // nobody reads it
+        }
+        if (!lecture) {
+            lecture = service.CommenceSynchronisation(morceau.appelant, leId);
+        }
+        if (!lecture->Avance(morceau.fin)) {
+            return Appels::Encore{};
+        }
+        auto zones = std::make_shared<ZonesARendre const>(lecture->Rends());
+        lecture.reset();
+        return Appels::Redaction(
+            [zones = std::move(zones)] { return LongueChaine(zones->EnJson()); });
+    };
+    auto const& delais = static_cast<Methodes*>(methodes)->DonneDelais();
+    return Envoie(methodes, {invocation, delais.ordinaire, std::move(travail), nullptr});
 }
 
 gboolean SurInitialise(GObject* /*s*/, Invocation* invocation, char const* cle, gpointer methodes) {

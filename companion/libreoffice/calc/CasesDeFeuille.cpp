@@ -35,11 +35,32 @@ namespace extension {
 
 namespace {
 
+constexpr sal_Int32 kCasesDUnBloc = 4'000; // cells: a few milliseconds
+
+sal_Int32 Lignes(table::CellRangeAddress const& plage) {
+    return std::max<sal_Int32>(1, kCasesDUnBloc / (plage.EndColumn - plage.StartColumn + 1));
+}
+
+/// The same cells in ranges of a few milliseconds each.
+std::vector<table::CellRangeAddress> Coupees(std::vector<table::CellRangeAddress> const& plages) {
+    std::vector<table::CellRangeAddress> coupees;
+    for (table::CellRangeAddress plage : plages) {
+        sal_Int32 const fin = plage.EndRow;
+        while (plage.StartRow <= fin) {
+            plage.EndRow = std::min(fin, plage.StartRow + Lignes(plage) - 1);
+            coupees.push_back(plage);
+            plage.StartRow = plage.EndRow + 1;
+        }
+    }
+    return coupees;
+}
+
 /// The ranges, those of the same columns that stand close together in one block: each block is read
 /// at once, as an office object for each range would take far longer than a few cells in between.
 std::vector<std::vector<table::CellRangeAddress>>
-Blocs(std::vector<table::CellRangeAddress> triees) {
+Blocs(std::vector<table::CellRangeAddress> const& plages) {
     constexpr sal_Int32 kEcart = 8; // rows in between, so that no more than that is read in vain
+    std::vector<table::CellRangeAddress> triees = Coupees(plages);
     std::sort(triees.begin(), triees.end(), [](auto const& a, auto const& b) {
         return std::tie(a.StartColumn, a.EndColumn, a.StartRow) <
                std::tie(b.StartColumn, b.EndColumn, b.StartRow);
@@ -48,7 +69,8 @@ Blocs(std::vector<table::CellRangeAddress> triees) {
     for (table::CellRangeAddress const& plage : triees) {
         bool const suite = !blocs.empty() && blocs.back().back().StartColumn == plage.StartColumn &&
                            blocs.back().back().EndColumn == plage.EndColumn &&
-                           plage.StartRow - blocs.back().back().EndRow <= kEcart;
+                           plage.StartRow - blocs.back().back().EndRow <= kEcart &&
+                           plage.EndRow - blocs.back().front().StartRow < Lignes(plage);
         if (!suite) {
             blocs.emplace_back();
         }
@@ -69,8 +91,10 @@ std::uint32_t Etendue(Adresses const& plages) {
 /// Collects what one sheet has to read.
 class Recolte {
   public:
-    explicit Recolte(uno::Reference<sheet::XSpreadsheet> const& feuille)
-        : feuille_(feuille)
+    Recolte(uno::Reference<sheet::XSpreadsheet> const& feuille,
+            std::function<void()> const& souffle)
+        : souffle_(souffle)
+        , feuille_(feuille)
         , requete_(feuille, uno::UNO_QUERY_THROW) {
         uno::Reference<util::XProtectable> const protection(feuille, uno::UNO_QUERY_THROW);
         protegee_ = protection->isProtected();
@@ -83,6 +107,7 @@ class Recolte {
         for (table::CellRangeAddress const& plage :
              requete_->queryContentCells(sheet::CellFlags::FORMATTED)->getRangeAddresses()) {
             for (sal_Int32 ligne = plage.StartRow; ligne <= plage.EndRow; ++ligne) {
+                souffle_();
                 for (sal_Int32 colonne = plage.StartColumn; colonne <= plage.EndColumn; ++colonne) {
                     formatees_.emplace(ligne, colonne);
                 }
@@ -90,6 +115,7 @@ class Recolte {
         }
         for (std::vector<table::CellRangeAddress> const& bloc :
              Blocs(Visibles(sheet::CellFlags::STRING))) {
+            souffle_();
             LisTextes(bloc);
         }
         auto const lues = static_cast<std::uint32_t>(cases_.size());
@@ -123,6 +149,7 @@ class Recolte {
         std::vector<table::CellRangeAddress> plages;
         for (table::CellRangeAddress plage :
              visibles->queryContentCells(static_cast<sal_Int16>(genre))->getRangeAddresses()) {
+            souffle_();
             sal_Int32 const fin = plage.EndColumn;
             for (sal_Int32 colonne = plage.StartColumn; colonne <= fin; ++colonne) {
                 if (!EstVisible(colonne)) {
@@ -175,6 +202,7 @@ class Recolte {
         std::vector<Format> const formats = LisFormats(cellules, tout, largeur);
         for (table::CellRangeAddress const& plage : bloc) {
             for (sal_Int32 ligne = plage.StartRow; ligne <= plage.EndRow; ++ligne) {
+                souffle_();
                 sal_Int32 const rang = ligne - tout.StartRow;
                 for (sal_Int32 colonne = plage.StartColumn; colonne <= plage.EndColumn; ++colonne) {
                     sal_Int32 const i = colonne - tout.StartColumn;
@@ -215,6 +243,7 @@ class Recolte {
                                                                             uno::UNO_QUERY_THROW);
         uno::Reference<container::XIndexAccess> const groupes = source->getUniqueCellFormatRanges();
         for (sal_Int32 i = 0; i < groupes->getCount(); ++i) {
+            souffle_();
             uno::Reference<sheet::XSheetCellRanges> const groupe(groupes->getByIndex(i),
                                                                  uno::UNO_QUERY_THROW);
             Adresses const parts = groupe->getRangeAddresses();
@@ -271,6 +300,7 @@ class Recolte {
         });
     }
 
+    std::function<void()> const& souffle_;
     uno::Reference<sheet::XSpreadsheet> feuille_;
     uno::Reference<sheet::XCellRangesQuery> requete_;
     bool protegee_;
@@ -291,8 +321,9 @@ std::uint32_t CompteTextes(uno::Reference<sheet::XSpreadsheet> const& feuille) {
                        ->getRangeAddresses());
 }
 
-LectureDeFeuille CasesDeFeuille(uno::Reference<sheet::XSpreadsheet> const& feuille) {
-    return Recolte(feuille).Fais();
+LectureDeFeuille CasesDeFeuille(uno::Reference<sheet::XSpreadsheet> const& feuille,
+                                std::function<void()> const& souffle) {
+    return Recolte(feuille, souffle).Fais();
 }
 
 } // namespace extension

@@ -4,6 +4,7 @@
 #include <com/sun/star/sheet/XSpreadsheet.hpp>
 
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 namespace extension {
@@ -30,7 +31,8 @@ std::uint32_t CompteTextes(css::uno::Reference<css::sheet::XSpreadsheet> const& 
 /// What there is to read in a sheet, row by row, a cell's comment after its text. Not among it:
 /// numbers and formulas, hidden rows and columns (filtered out or folded away), cells covered by a
 /// merged one or hidden by their protection, what a pivot table has written. Takes time by the
-/// cells in use.
-LectureDeFeuille CasesDeFeuille(css::uno::Reference<css::sheet::XSpreadsheet> const& feuille);
+/// cells in use, and calls `souffle` often on the way.
+LectureDeFeuille CasesDeFeuille(css::uno::Reference<css::sheet::XSpreadsheet> const& feuille,
+                                std::function<void()> const& souffle);
 
 } // namespace extension

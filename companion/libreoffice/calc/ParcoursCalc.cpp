@@ -41,6 +41,7 @@ ParcoursCalc::ParcoursCalc(uno::Reference<frame::XModel> const& modele, CarnetDe
     , carnet_(carnet)
     , recueil_(recueil) {
     for (std::shared_ptr<Cellule> const& cellule : connues) {
+        recueil_.Souffle();
         if (auto const adresse = cellule->Adresse()) {
             connues_.emplace(Place(adresse->Sheet, adresse->Row, adresse->Column), cellule);
         }
@@ -70,10 +71,12 @@ void ParcoursCalc::ParcoursFeuille(Feuille const& feuille, std::int16_t numero) 
     uno::Reference<container::XNamed> const nomme(feuille, uno::UNO_QUERY_THROW);
     contenant->endroit = std::make_shared<Endroit const>(
         Endroit{Endroit::Genre::Feuille, 0, std::u16string(Vue(nomme->getName())), nullptr});
-    LectureDeFeuille const lecture = CasesDeFeuille(feuille);
+    auto const souffle = [this] { recueil_.Souffle(); };
+    LectureDeFeuille const lecture = CasesDeFeuille(feuille, souffle);
     recueil_.Omets(RaisonNonLu::Masque, lecture.masquees);
     recueil_.Omets(RaisonNonLu::Genere, lecture.generees);
     for (CaseDeFeuille const& endroit : lecture.cases) {
+        souffle();
         if (endroit.estCommentaire) {
             LisCommentaire(feuille, endroit, contenant);
         } else {

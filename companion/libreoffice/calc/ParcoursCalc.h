@@ -4,6 +4,7 @@
 #include "CasesDeFeuille.h"
 #include "Cellule.h"
 #include "document/CarnetDeZones.h"
+#include "document/RecueilDeZones.h"
 
 #include <cstdint>
 #include <unordered_map>

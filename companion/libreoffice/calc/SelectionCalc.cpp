@@ -24,13 +24,12 @@ class SelectionDeCellules : public SelectionVue {
         : plages_(plages)
         , cellules_(cellules) {}
 
-    std::optional<Intervalle> Dans(ZoneOuverte& zone,
-                                   compagnon::PlanDePortions const& plan) override {
+    std::optional<Intervalle> Dans(ZoneOuverte& zone, TexteDeZone const& texte) override {
         auto const cellule = CelluleDe(zone);
         if (!cellule || !Contient(*cellule)) {
             return std::nullopt;
         }
-        return Tout(plan);
+        return Tout(texte);
     }
 
     std::shared_ptr<ZoneOuverte> Premiere(CarnetDeZones& /*carnet*/) override {

@@ -32,6 +32,7 @@ void ParcoursCommentaires(uno::Reference<drawing::XDrawPage> const& page,
     uno::Reference<office::XAnnotationEnumeration> const suite =
         source->createAnnotationEnumeration();
     for (int numero = 1; suite.is() && suite->hasMoreElements(); ++numero) {
+        fond.recueil.Souffle();
         uno::Reference<office::XAnnotation> const commentaire = suite->nextElement();
         uno::Reference<uno::XInterface> const texte(commentaire->getTextRange(), uno::UNO_QUERY);
         if (texte.is()) {

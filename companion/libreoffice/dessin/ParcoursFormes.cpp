@@ -35,6 +35,7 @@ void LisTableau(uno::Reference<table::XTable> const& tableau,
                 uno::Reference<uno::XInterface> const& forme,
                 std::shared_ptr<Endroit const> const& endroit, FondDeFormes const& fond) {
     for (sal_Int32 ligne = 0; ligne < tableau->getRowCount(); ++ligne) {
+        fond.recueil.Souffle();
         for (sal_Int32 colonne = 0; colonne < tableau->getColumnCount(); ++colonne) {
             uno::Reference<table::XCell> const cellule = tableau->getCellByPosition(colonne, ligne);
             uno::Reference<table::XMergeableCell> const fusion(cellule, uno::UNO_QUERY);
@@ -105,6 +106,7 @@ void LisForme(uno::Reference<uno::XInterface> const& forme, FondDeFormes const& 
 
 void ParcoursFormes(uno::Reference<drawing::XShapes> const& formes, FondDeFormes const& fond) {
     for (sal_Int32 i = 0; i < formes->getCount(); ++i) {
+        fond.recueil.Souffle();
         LisForme(uno::Reference<uno::XInterface>(formes->getByIndex(i), uno::UNO_QUERY), fond);
     }
 }

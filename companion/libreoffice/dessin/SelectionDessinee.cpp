@@ -17,12 +17,11 @@ class Formes : public SelectionVue {
   public:
     explicit Formes(uno::Reference<drawing::XShapes> const& formes) { Ajoute(formes); }
 
-    std::optional<Intervalle> Dans(ZoneOuverte& zone,
-                                   compagnon::PlanDePortions const& plan) override {
+    std::optional<Intervalle> Dans(ZoneOuverte& zone, TexteDeZone const& texte) override {
         if (!Contient(zone)) {
             return std::nullopt;
         }
-        return Tout(plan);
+        return Tout(texte);
     }
 
     std::shared_ptr<ZoneOuverte> Premiere(CarnetDeZones& carnet) override {
@@ -68,8 +67,7 @@ class PlageDansUneForme : public SelectionVue {
         : plage_(plage)
         , objet_(Identite(plage->getText())) {}
 
-    std::optional<Intervalle> Dans(ZoneOuverte& zone,
-                                   compagnon::PlanDePortions const& /*plan*/) override {
+    std::optional<Intervalle> Dans(ZoneOuverte& zone, TexteDeZone const& /*texte*/) override {
         std::shared_ptr<TexteDessine> const texte = TexteDe(zone);
         if (!texte || Identite(texte->DonneObjet()) != objet_) {
             return std::nullopt;

@@ -4,6 +4,7 @@
 #include "Gestes.h"
 #include "document/CarnetDeZones.h"
 #include "document/Contenant.h"
+#include "document/RecueilDeZones.h"
 #include "document/ZoneOuverte.h"
 #include "lecture/LecteurPortions.h"
 #include "modele/Intervalle.h"

@@ -22,7 +22,8 @@ void CarnetDeZones::Inscris(uno::Reference<uno::XInterface> const& objet,
                             std::shared_ptr<Inscrit> const& inscrit) {
     Entree& entree = parObjet_[objet.get()];
     Rencontre(entree);
-    entree = {objet, inscrit, passage_};
+    entree.objet = objet;
+    entree.inscrit = inscrit;
 }
 
 void CarnetDeZones::InscrisCle(std::shared_ptr<ZoneOuverte> const& zone) {
@@ -54,12 +55,12 @@ void CarnetDeZones::Rencontre(Entree& entree) {
     }
 }
 
-void CarnetDeZones::Termine() {
+void CarnetDeZones::Termine(std::uint64_t passage) {
     if (rencontres_ == parObjet_.size()) {
         return; // nothing has gone, which is most often so: no need to look at each
     }
     for (auto it = parObjet_.begin(); it != parObjet_.end();) {
-        if (it->second.passage == passage_) {
+        if (it->second.passage >= passage) {
             ++it;
             continue;
         }

@@ -43,11 +43,13 @@ class CarnetDeZones {
     std::vector<std::shared_ptr<ZoneOuverte>> DonneZones() const;
 
     /// Brackets a walk over the whole document: what it did not meet is forgotten at its end.
-    void Commence() {
-        ++passage_;
+    /// Another walk may come in between; one that is not finished forgets nothing.
+    std::uint64_t Commence() {
         rencontres_ = 0;
+        return ++passage_;
     }
-    void Termine();
+    /// `passage`: what the walk's beginning has answered.
+    void Termine(std::uint64_t passage);
 
   private:
     struct Entree {
@@ -62,7 +64,7 @@ class CarnetDeZones {
     std::string prefixe_;
     std::uint64_t derniere_ = 0;
     std::uint64_t passage_ = 0;
-    std::size_t rencontres_ = 0; ///< how many entries this walk has met, none twice
+    std::size_t rencontres_ = 0; ///< how many were met since the last walk began, none twice
     std::unordered_map<css::uno::XInterface*, Entree> parObjet_;
     std::unordered_map<std::string, std::shared_ptr<ZoneOuverte>> parCle_;
 };

@@ -34,7 +34,7 @@ class SelectionRetenue : public SelectionVue {
         , plage_(plage) {}
 
     std::optional<compagnon::Intervalle> Dans(ZoneOuverte& zone,
-                                              compagnon::PlanDePortions const& /*plan*/) override {
+                                              TexteDeZone const& /*texte*/) override {
         return &zone == zone_.get() ? std::make_optional(plage_) : std::nullopt;
     }
     std::shared_ptr<ZoneOuverte> Premiere(CarnetDeZones& /*carnet*/) override { return zone_; }
@@ -148,20 +148,32 @@ bool DocumentOuvert::EstEncore(Retenue const& retenue, SelectionVue& selection) 
     }
 }
 
-void DocumentOuvert::Parcours(Visiteur const& visiteur) {
-    std::unique_ptr<SelectionVue> const selection = LisSelection();
-    carnet_.Commence();
-    nombre_ = 0;
-    nonLus_ = {};
-    auto const recueille = [&](std::shared_ptr<ZoneOuverte> const& zone,
-                               compagnon::PlanDePortions&& plan) {
-        ++nombre_;
-        nonLus_.Ajoute(plan.DonneNonLus());
-        auto const choisi = selection ? selection->Dans(*zone, plan) : std::nullopt;
-        visiteur({zone, std::move(plan), choisi, false});
-    };
-    ParcoursZones(RecueilDeZones(recueille, nonLus_));
-    carnet_.Termine();
+void DocumentOuvert::Parcours(RecueilDeZones::Prends const& prends,
+                              std::function<void()> const& souffle) {
+    std::uint64_t const passage = carnet_.Commence();
+    std::size_t nombre = 0;
+    compagnon::NonLus nonLus;
+    ParcoursZones(RecueilDeZones(
+        [&](std::shared_ptr<ZoneOuverte> const& zone, compagnon::PlanDePortions&& plan) {
+            ++nombre;
+            nonLus.Ajoute(plan.DonneNonLus());
+            prends(zone, std::move(plan));
+        },
+        nonLus, souffle));
+    nombre_ = nombre;
+    nonLus_ = nonLus;
+    carnet_.Termine(passage);
+}
+
+std::vector<std::optional<Intervalle>>
+DocumentOuvert::DonneSelections(std::vector<ZoneParcourue> const& zones) {
+    std::vector<std::optional<Intervalle>> parts(zones.size());
+    if (std::unique_ptr<SelectionVue> const selection = LisSelection()) {
+        for (std::size_t i = 0; i < zones.size(); ++i) {
+            parts[i] = selection->Dans(*zones[i].zone, {*zones[i].zone, zones[i].taille});
+        }
+    }
+    return parts;
 }
 
 std::optional<ZoneLue> DocumentOuvert::DonneSelection() {
@@ -172,9 +184,10 @@ std::optional<ZoneLue> DocumentOuvert::DonneSelection() {
     std::shared_ptr<ZoneOuverte> zone = selection->Premiere(carnet_);
     bool deborde = zone && selection->Deborde();
     if (!zone) {
-        Parcours([&](ZoneLue const& lue) {
-            deborde = deborde || (zone && lue.selection);
-            zone = zone || !lue.selection ? zone : lue.zone;
+        Parcours([&](std::shared_ptr<ZoneOuverte> const& lue, compagnon::PlanDePortions&& plan) {
+            bool const choisie = selection->Dans(*lue, TexteDeZone(plan)).has_value();
+            deborde = deborde || (zone && choisie);
+            zone = zone || !choisie ? zone : lue;
         });
         selection = LisSelection();
     }
@@ -182,7 +195,7 @@ std::optional<ZoneLue> DocumentOuvert::DonneSelection() {
         return std::nullopt;
     }
     compagnon::PlanDePortions plan = zone->Lis();
-    auto const choisi = selection->Dans(*zone, plan);
+    auto const choisi = selection->Dans(*zone, TexteDeZone(plan));
     return ZoneLue{zone, std::move(plan), choisi.value_or(Intervalle()), deborde};
 }
 
@@ -198,7 +211,7 @@ bool DocumentOuvert::Selectionne(ZoneOuverte& zone, compagnon::PlanDePortions co
         retenue_ = Retenue{zone.DonneCle(), plan.DonneTexte(), plage};
         return true;
     }
-    return !selection->Deborde() && selection->Dans(zone, plan) == plage;
+    return !selection->Deborde() && selection->Dans(zone, TexteDeZone(plan)) == plage;
 }
 
 } // namespace extension

@@ -3,14 +3,15 @@
 
 #include "CarnetDeZones.h"
 #include "PileDAnnulation.h"
+#include "RecueilDeZones.h"
 #include "SelectionVue.h"
 
 #include <com/sun/star/frame/XModel.hpp>
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace extension {
 
@@ -22,12 +23,16 @@ struct ZoneLue {
     bool deborde = false; ///< the selection goes on in another zone (told by `DonneSelection`)
 };
 
+/// A zone that a walk has met, and the length of its text in UTF-16 units.
+struct ZoneParcourue {
+    std::shared_ptr<ZoneOuverte> zone;
+    std::size_t taille;
+};
+
 /// One document that is open in the office, of whatever kind. Main thread only; operations may
 /// throw UNO exceptions, which mean that the document cannot be reached any more.
 class DocumentOuvert {
   public:
-    using Visiteur = std::function<void(ZoneLue const&)>;
-
     /// `cle`: the document part of its identifier; opaque, never given before.
     DocumentOuvert(css::uno::Reference<css::frame::XModel> const& modele, std::string cle);
     DocumentOuvert(DocumentOuvert const&) = delete;
@@ -48,8 +53,14 @@ class DocumentOuvert {
     bool EstEnLectureSeule() const;
     void Active() const;
 
-    /// All zones in reading order, with the selection inside each.
-    void Parcours(Visiteur const& visiteur);
+    /// All zones in reading order. Where `souffle` is called the walk may be left, and forgotten
+    /// there; empty for one that is not to be left.
+    void Parcours(RecueilDeZones::Prends const& prends,
+                  std::function<void()> const& souffle = nullptr);
+    /// The part of what is selected now in each of these zones: all of them, in reading order, as
+    /// they stand.
+    std::vector<std::optional<compagnon::Intervalle>>
+    DonneSelections(std::vector<ZoneParcourue> const& zones);
 
     /// How many of the zones of the last walk cannot be changed, as something around them is
     /// protected. Takes time by the zones where there may be any.

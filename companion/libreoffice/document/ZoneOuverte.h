@@ -3,11 +3,9 @@
 
 #include "Endroit.h"
 #include "Inscrit.h"
-#include "modele/NonLus.h"
 #include "modele/PlanDePortions.h"
 
 #include <cstddef>
-#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -66,31 +64,6 @@ class ZoneOuverte : public Inscrit {
   private:
     std::string cle_;
     Lieu lieu_;
-};
-
-/// Gets the zones of a document one after the other, each with what it holds now; and is told what
-/// has none.
-class RecueilDeZones {
-  public:
-    using Zone =
-        std::function<void(std::shared_ptr<ZoneOuverte> const&, compagnon::PlanDePortions&&)>;
-
-    /// `nonLus` counts what is left out, and must outlive this.
-    RecueilDeZones(Zone zone, compagnon::NonLus& nonLus)
-        : zone_(std::move(zone))
-        , nonLus_(nonLus) {}
-
-    void operator()(std::shared_ptr<ZoneOuverte> const& zone,
-                    compagnon::PlanDePortions&& plan) const {
-        zone_(zone, std::move(plan));
-    }
-    void Omets(compagnon::RaisonNonLu raison, std::uint32_t nombre = 1) const {
-        nonLus_.Note(raison, nombre);
-    }
-
-  private:
-    Zone zone_;
-    compagnon::NonLus& nonLus_;
 };
 
 } // namespace extension

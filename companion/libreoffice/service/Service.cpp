@@ -2,11 +2,9 @@
 #include "Service.h"
 
 #include "Correction.h"
-#include "Langues.h"
 #include "RaisonDeRefuser.h"
 #include "RapportSur.h"
 #include "commun/ErreurEnCours.h"
-#include "modele/EcrivainZones.h"
 #include "partage/EcritureDocuments.h"
 #include "partage/EcritureNoms.h"
 #include "partage/ErreurDuService.h"
@@ -136,44 +134,14 @@ bool Service::PermetsRetourDeCharriot(std::string const& appelant) {
     return lue && lue->zone->PermetsRetour() && !RaisonDeRefuser(*document, dialogue_, *lue->zone);
 }
 
-std::string Service::SynchronisePositions(std::string const& appelant, std::string const& leId) {
-    std::shared_ptr<DocumentOuvert> const document = DocumentDIdentifiant(leId);
+std::unique_ptr<Synchronisation> Service::CommenceSynchronisation(std::string const& appelant,
+                                                                  std::string const& leId) {
+    std::shared_ptr<DocumentOuvert> document = DocumentDIdentifiant(leId);
     // Those of documents that were closed meanwhile would stay for as long as the caller does.
     appelants_.GardeDocuments(
         [&](std::string const& cle) { return DonneVivantes()->Contient(cle); });
-    compagnon::DocumentDonne const* const avant =
-        appelants_.DonneDonne(appelant, document->DonneCle());
-    compagnon::DocumentDonne donne;
-    compagnon::EcrivainZones ecrivain;
-    std::uint8_t const principale = contrat::DonneNumeroDeLangue(document->DonneLangue());
-    if (avant) {
-        ecrivain.Prevois(avant->taille + avant->taille / 16);
-        donne.zones.reserve(avant->zones.size());
-    }
-    document->Parcours([&](ZoneLue const& lue) {
-        std::string const& cle = lue.zone->DonneCle();
-        std::u16string const& texte = lue.plan.DonneTexte();
-        ecrivain.Ajoute(cle, texte, lue.selection.value_or(Intervalle()),
-                        compagnon::RelativesA(principale, lue.plan.DonneStyles()));
-        compagnon::TexteSuivi& croyance = donne.zones[cle];
-        // Most often the same zones again with the same texts: those are taken over as they are.
-        if (avant) {
-            auto const connue = avant->zones.find(cle);
-            if (connue != avant->zones.end()) {
-                croyance = connue->second;
-            }
-        }
-        if (!croyance.Confirme(texte)) {
-            croyance.Donne(std::make_shared<std::u16string const>(texte));
-        }
-    });
-    std::optional<std::string> zones = ecrivain.Termine();
-    if (!zones) {
-        throw ErreurDuService(Erreur::TropGrand);
-    }
-    donne.taille = zones->size();
-    appelants_.Donne(appelant, document->DonneCle(), std::move(donne));
-    return std::move(*zones);
+    return std::make_unique<Synchronisation>(std::move(document), DonneVivantes(), appelants_,
+                                             appelant);
 }
 
 bool Service::PeutCorriger(std::string const& appelant, std::string const& cle, Intervalle plage,

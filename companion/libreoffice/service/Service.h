@@ -4,6 +4,7 @@
 #include "DialogueModal.h"
 #include "DocumentsOuverts.h"
 #include "EtapeAnnulable.h"
+#include "Synchronisation.h"
 #include "partage/Appelants.h"
 
 #include <cstdint>
@@ -53,8 +54,10 @@ class Service {
     std::u16string DonneCheminDocument(std::string const& appelant);
     bool PermetsRetourDeCharriot(std::string const& appelant);
 
-    /// The zone document. `leId`: a whole identifier.
-    std::string SynchronisePositions(std::string const& appelant, std::string const& leId);
+    /// "SynchronisePositions", piece by piece. `leId`: a whole identifier. The result must not
+    /// outlive this.
+    std::unique_ptr<Synchronisation> CommenceSynchronisation(std::string const& appelant,
+                                                             std::string const& leId);
     bool PeutCorriger(std::string const& appelant, std::string const& zone,
                       compagnon::Intervalle plage, std::u16string const& attendu);
     void CorrigeDansTexteur(Auteur const& auteur, std::string const& zone,

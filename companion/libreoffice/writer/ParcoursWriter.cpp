@@ -93,6 +93,7 @@ void ParcoursWriter::ParcoursTexte(std::shared_ptr<Contenant const> const& conte
     int suppressions = 0;
     int rang = 0;
     while (suite->hasMoreElements()) {
+        recueil_.Souffle();
         // As the enumeration gives it: a query for what is there already takes its time, and one
         // for what is not takes longest. So a table is asked for only where there are no portions.
         uno::Reference<text::XTextContent> element;
@@ -139,6 +140,7 @@ void ParcoursWriter::ParcoursParagraphe(
     }
     ParagrapheLu lu = fond_->lecteur.Lis(portions, suppressions);
     std::vector<Rencontre> const rencontres = std::move(lu.rencontres);
+    lu.etendues.clear(); // nothing of a portion may be held where the walk is left
     uno::Reference<beans::XPropertySet> proprietes;
     if (aDesSections_ || aDesCadres_ || !rencontres.empty()) {
         proprietes.set(paragraphe, uno::UNO_QUERY_THROW);
@@ -204,6 +206,7 @@ void ParcoursWriter::ParcoursRencontre(Rencontre const& rencontre,
 void ParcoursWriter::ParcoursCadre(uno::Reference<uno::XInterface> const& objet,
                                    std::shared_ptr<Contenant const> const& parent,
                                    uno::Reference<beans::XPropertySet> const& ancre) {
+    recueil_.Souffle();
     if (!objet.is() || !vus_.Ajoute(objet)) {
         return;
     }

@@ -4,6 +4,7 @@
 #include "ParagrapheWriter.h"
 #include "commun/Objets.h"
 #include "document/CarnetDeZones.h"
+#include "document/RecueilDeZones.h"
 
 #include <com/sun/star/text/XTextTable.hpp>
 

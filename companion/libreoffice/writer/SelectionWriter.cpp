@@ -45,8 +45,7 @@ class SelectionDePlage : public SelectionVue {
 
     bool EstComplet() const { return objetDebut_.is() && objetFin_.is(); }
 
-    std::optional<Intervalle> Dans(ZoneOuverte& zone,
-                                   compagnon::PlanDePortions const& plan) override {
+    std::optional<Intervalle> Dans(ZoneOuverte& zone, TexteDeZone const& texte) override {
         auto* const paragraphe = finie_ ? nullptr : dynamic_cast<ParagrapheWriter*>(&zone);
         if (paragraphe == nullptr) {
             return std::nullopt;
@@ -58,11 +57,11 @@ class SelectionDePlage : public SelectionVue {
         if (!commencee_ || !(debute || finit || paragraphe->EstVoisineDe(objetDebut_))) {
             return std::nullopt;
         }
-        std::size_t const bout = plan.DonneTexte().size();
-        return Intervalle{
-            static_cast<std::int32_t>(debute ? plan.DonneDecalage(paragraphe->PlaceDe(debut_)) : 0),
-            static_cast<std::int32_t>(finit ? plan.DonneDecalage(paragraphe->PlaceDe(fin_))
-                                            : bout)};
+        std::size_t const bout = texte.DonneTaille();
+        return Intervalle{static_cast<std::int32_t>(
+                              debute ? texte.DonneDecalage(paragraphe->PlaceDe(debut_)) : 0),
+                          static_cast<std::int32_t>(
+                              finit ? texte.DonneDecalage(paragraphe->PlaceDe(fin_)) : bout)};
     }
 
     std::shared_ptr<ZoneOuverte> Premiere(CarnetDeZones& carnet) override {
@@ -113,13 +112,12 @@ class SelectionDansUnTableau : public SelectionVue {
         }
     }
 
-    std::optional<Intervalle> Dans(ZoneOuverte& zone,
-                                   compagnon::PlanDePortions const& plan) override {
+    std::optional<Intervalle> Dans(ZoneOuverte& zone, TexteDeZone const& texte) override {
         auto* const paragraphe = dynamic_cast<ParagrapheWriter*>(&zone);
         if (paragraphe == nullptr || !paragraphe->EstDans(cellules_)) {
             return std::nullopt;
         }
-        return Tout(plan);
+        return Tout(texte);
     }
 
     std::shared_ptr<ZoneOuverte> Premiere(CarnetDeZones& /*carnet*/) override { return nullptr; }
