@@ -151,11 +151,7 @@ std::optional<Gestes> Cellule::Remplace(std::size_t rang, std::size_t debut,
     if (EstUniforme()) {
         DonneTexte()->setString(EnUno(lettres)); // as text, whatever it looks like
     } else {
-        std::vector<Geste> gestes;
-        for (compagnon::EtapeEdition const& etape : *etapes) {
-            gestes.push_back(GesteDe(lus[rang].plan, etape));
-        }
-        Fais(lus[rang], gestes);
+        Fais(lus[rang], GestesPour(lus[rang], *etapes).aller);
     }
     // The cell ends as it was but for its text: a format of the style's is no format of its own.
     if (herite) {

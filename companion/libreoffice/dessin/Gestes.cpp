@@ -36,46 +36,48 @@ std::optional<std::size_t> RangDuChamp(PlanDePortions const& plan, std::size_t p
                : std::nullopt;
 }
 
-/// Can the letters of whole portions that go come back as they were? They take what those before
-/// them have of their own, and what goes beside them had; at the paragraph's start, what those
-/// behind have. Nothing takes that from them again.
-bool PeuventSeRemettre(ParagrapheLu const& lu, std::vector<std::u16string> const& sources) {
-    auto const vide = [&](std::size_t i) {
-        return sources[i].empty() && !lu.plan.DonnePortions()[i].source.empty();
-    };
-    auto const prend = [&](std::size_t i, std::size_t voisine) {
-        return !FormatPropre(lu.etendues[i]).Couvre(FormatPropre(lu.etendues[voisine]));
-    };
-    for (std::size_t i = 0; i < sources.size(); ++i) {
-        bool const deLaSuite = i + 1 < sources.size() && (i == 0 || vide(i + 1));
-        if (vide(i) && ((i > 0 && prend(i, i - 1)) || (deLaSuite && prend(i, i + 1)))) {
-            return false;
-        }
-    }
-    return true;
-}
+/// A portion's letters, `de` before and `vers` after.
+struct Change {
+    std::u16string const& de;
+    std::u16string const& vers;
+};
 
-/// What makes the letters at `position` read `avant` again instead of `apres`, the letters of one
-/// portion. They go in behind one of its own, as there they take its format.
-void Remets(std::size_t position, std::u16string const& avant, std::u16string const& apres,
-            css::uno::Reference<css::text::XTextRange> const& etendue, std::vector<Geste>& retour) {
-    auto const edition = compagnon::EditionMinimale::Entre(apres, avant);
+/// What gives the letters of one portion at `position` others. New ones go in behind one of its
+/// own, as there they take its format; and in the place of the old ones, as a text that is longer
+/// for a moment makes a table's row higher for good. `etendue`: of letters in the format to give
+/// where there is none of its own; may be empty.
+void Remplace(std::size_t position, Change const& change,
+              css::uno::Reference<css::text::XTextRange> const& etendue,
+              std::vector<Geste>& gestes) {
+    auto const edition = compagnon::EditionMinimale::Entre(change.de, change.vers);
     std::size_t const ici = position + edition.debut;
     std::u16string ajout(edition.ajout);
-    if (ajout.empty()) {
-        retour.push_back({ici, edition.retire, {}});
-    } else if (edition.retire > 0) {
-        retour.push_back({ici + edition.retire, 0, ajout});
-        retour.push_back({ici, edition.retire, {}});
-    } else if (edition.debut > 0) {
-        retour.push_back({ici, 0, ajout});
-    } else if (!apres.empty()) {
-        std::size_t const une = compagnon::CoupePaire(apres, 1) ? 2 : 1;
-        retour.push_back({ici + une, 0, ajout + apres.substr(0, une)});
-        retour.push_back({ici, une, {}});
-    } else {
-        retour.push_back({ici, 0, ajout, FormatPropre(etendue)});
+    if (ajout.empty() || edition.debut > 0) {
+        gestes.push_back({ici, edition.retire, ajout});
+        return;
     }
+    if (change.de.empty()) {
+        gestes.push_back({ici, 0, ajout, etendue.is() ? FormatPropre(etendue) : FormatPropre()});
+        return;
+    }
+    std::size_t const une = compagnon::CoupePaire(change.de, 1) ? 2 : 1;
+    bool const reste = edition.retire == 0; // it comes again, behind the new ones
+    gestes.push_back({ici + une, reste ? 0 : edition.retire - une,
+                      reste ? ajout + change.de.substr(0, une) : ajout});
+    gestes.push_back({ici, une, {}});
+}
+
+/// The letters of each portion after the steps.
+std::vector<std::u16string> Sources(PlanDePortions const& plan,
+                                    std::vector<EtapeEdition> const& etapes) {
+    std::vector<std::u16string> sources;
+    for (Portion const& portion : plan.DonnePortions()) {
+        sources.push_back(portion.source);
+    }
+    for (EtapeEdition const& etape : etapes) {
+        sources[etape.portion].replace(etape.debut, etape.fin - etape.debut, etape.ajout);
+    }
+    return sources;
 }
 
 } // namespace
@@ -89,57 +91,58 @@ std::u16string LettresDe(PlanDePortions const& plan) {
     return lettres;
 }
 
-Geste GesteDe(PlanDePortions const& plan, EtapeEdition const& etape) {
-    Geste geste;
-    for (std::size_t i = 0; i < etape.portion; ++i) {
-        Portion const& portion = plan.DonnePortions()[i];
-        geste.position += Etendue(portion, portion.source.size());
-    }
-    geste.champ = RangDuChamp(plan, etape.portion);
-    if (geste.champ) {
-        geste.ajout = etape.DonneApres();
-    } else {
-        geste.position += etape.debut;
-        geste.retire = etape.fin - etape.debut;
-        geste.ajout = etape.ajout;
-    }
-    return geste;
-}
-
-std::optional<Gestes> GestesPour(ParagrapheLu const& lu, std::vector<EtapeEdition> const& etapes) {
+Gestes GestesPour(ParagrapheLu const& lu, std::vector<EtapeEdition> const& etapes) {
     std::vector<Portion> const& portions = lu.plan.DonnePortions();
-    std::vector<std::u16string> sources; // as the steps leave them
-    for (Portion const& portion : portions) {
-        sources.push_back(portion.genre == GenrePortion::Substitut
-                              ? std::u16string(1, compagnon::kRemplissage)
-                              : portion.source);
-    }
+    std::vector<std::u16string> const sources = Sources(lu.plan, etapes);
     Gestes gestes;
     gestes.avant = LettresDe(lu.plan);
-    for (EtapeEdition const& etape : etapes) {
-        sources[etape.portion].replace(etape.debut, etape.fin - etape.debut, etape.ajout);
-        gestes.aller.push_back(GesteDe(lu.plan, etape));
-    }
-    if (!PeuventSeRemettre(lu, sources)) {
-        return std::nullopt;
-    }
-    std::vector<Geste> portion; // from the last portion to the first, as the steps go
-    std::size_t position = 0;
+    // From the last portion to the first: what stands before a gesture does not move.
+    auto const avance = [](std::vector<Geste>& vers, std::vector<Geste> const& portion) {
+        vers.insert(vers.begin(), portion.begin(), portion.end());
+    };
+    std::size_t avant = 0;
+    std::size_t apres = 0;
     for (std::size_t i = 0; i < portions.size(); ++i) {
-        bool const lettres = portions[i].genre != GenrePortion::Substitut;
-        portion.clear();
-        if (lettres && sources[i] != portions[i].source) {
+        std::u16string const& source = portions[i].source;
+        if (sources[i] != source) {
+            std::vector<Geste> aller;
+            std::vector<Geste> retour;
             if (auto const champ = RangDuChamp(lu.plan, i)) {
-                portion.push_back({position, 0, portions[i].source, {}, champ});
+                aller.push_back({avant, 1, sources[i], {}, champ});
+                retour.push_back({apres, 1, source, {}, champ});
             } else {
-                Remets(position, portions[i].source, sources[i], lu.etendues[i], portion);
+                Remplace(avant, {source, sources[i]}, {}, aller);
+                Remplace(apres, {sources[i], source}, lu.etendues[i], retour);
             }
+            avance(gestes.aller, aller);
+            avance(gestes.retour, retour);
         }
-        gestes.retour.insert(gestes.retour.begin(), portion.begin(), portion.end());
-        gestes.apres += sources[i];
-        position += Etendue(portions[i], sources[i].size());
+        bool const remplie = portions[i].genre == GenrePortion::Substitut;
+        gestes.apres += remplie ? std::u16string(1, compagnon::kRemplissage) : sources[i];
+        avant += Etendue(portions[i], source.size());
+        apres += Etendue(portions[i], sources[i].size());
     }
     return gestes;
+}
+
+bool PeuventRevenir(ParagrapheLu const& lu, std::vector<EtapeEdition> const& etapes) {
+    // The letters of a whole portion take what those before them have of their own, and what goes
+    // beside them had; at the paragraph's start, what those behind have. Nothing takes that from
+    // them again.
+    std::vector<std::u16string> const sources = Sources(lu.plan, etapes);
+    auto const vide = [&](std::size_t i) {
+        return sources[i].empty() && !lu.plan.DonnePortions()[i].source.empty();
+    };
+    auto const prend = [&](std::size_t i, std::size_t voisine) {
+        return !FormatPropre(lu.etendues[i]).Couvre(FormatPropre(lu.etendues[voisine]));
+    };
+    for (std::size_t i = 0; i < sources.size(); ++i) {
+        bool const deLaSuite = i + 1 < sources.size() && (i == 0 || vide(i + 1));
+        if (vide(i) && ((i > 0 && prend(i, i - 1)) || (deLaSuite && prend(i, i + 1)))) {
+            return false;
+        }
+    }
+    return true;
 }
 
 } // namespace extension

@@ -11,9 +11,9 @@
 
 namespace extension {
 
-/// One thing to do in a paragraph of the drawing engine: take letters out, put letters in, or give
-/// a field other words. Positions are the engine's (a field takes one), as they stand when its turn
-/// comes.
+/// One thing to do in a paragraph of the drawing engine: put letters in the place of others (of
+/// none, or none), or give a field other words. Positions are the engine's (a field takes one), as
+/// they stand when its turn comes.
 struct Geste {
     std::size_t position = 0;
     std::size_t retire = 0;   ///< how many positions go
@@ -35,12 +35,11 @@ struct Gestes {
 /// All letters of a paragraph, soft hyphens among them; a field that is not read counts as one.
 std::u16string LettresDe(compagnon::PlanDePortions const& plan);
 
-/// The gestures for a plan's steps. Nothing where what they take out could not come back in its
-/// format. Main thread; may throw UNO exceptions.
-std::optional<Gestes> GestesPour(ParagrapheLu const& lu,
-                                 std::vector<compagnon::EtapeEdition> const& etapes);
+/// The gestures that do what a plan's steps say, and what takes them back. Main thread, as below;
+/// may throw UNO exceptions.
+Gestes GestesPour(ParagrapheLu const& lu, std::vector<compagnon::EtapeEdition> const& etapes);
 
-/// Those for one step.
-Geste GesteDe(compagnon::PlanDePortions const& plan, compagnon::EtapeEdition const& etape);
+/// Can what the steps take out come back in its format?
+bool PeuventRevenir(ParagrapheLu const& lu, std::vector<compagnon::EtapeEdition> const& etapes);
 
 } // namespace extension

@@ -11,6 +11,7 @@
 
 #include <com/sun/star/container/XEnumerationAccess.hpp>
 #include <com/sun/star/text/XTextRangeCompare.hpp>
+#include <com/sun/star/util/XModifiable.hpp>
 
 #include <algorithm>
 #include <utility>
@@ -33,6 +34,40 @@ bool PerdUnFormat(PlanDePortions const& plan, std::vector<compagnon::EtapeEditio
                        [](compagnon::EtapeEdition const& etape) { return !etape.ajout.empty(); });
 }
 
+uno::Reference<container::XEnumeration> Paragraphes(uno::Reference<text::XText> const& texte) {
+    return uno::Reference<container::XEnumerationAccess>(texte, uno::UNO_QUERY_THROW)
+        ->createEnumeration();
+}
+
+/// Does an enumeration give the whole text? Once a program has put letters in through the text
+/// itself, it gives what stood there then, whatever was typed since.
+bool EnumereTout(uno::Reference<text::XText> const& texte) {
+    uno::Reference<text::XTextCursor> const tout = texte->createTextCursor();
+    tout->gotoStart(false);
+    tout->gotoEnd(true);
+    rtl::OUString enumere;
+    uno::Reference<container::XEnumeration> const suite = Paragraphes(texte);
+    for (bool premier = true; suite->hasMoreElements(); premier = false) {
+        uno::Reference<text::XTextRange> const paragraphe(suite->nextElement(),
+                                                          uno::UNO_QUERY_THROW);
+        enumere += (premier ? rtl::OUString() : rtl::OUString("\n")) + paragraphe->getString();
+    }
+    return enumere == tout->getString();
+}
+
+/// Puts nothing in through it, after which it knows how long it is. That changes nothing.
+void EnumereDesormaisTout(uno::Reference<text::XText> const& texte,
+                          uno::Reference<frame::XModel> const& modele) {
+    uno::Reference<util::XModifiable> const document(modele, uno::UNO_QUERY);
+    bool const modifie = !document.is() || document->isModified();
+    uno::Reference<text::XTextCursor> const debut = texte->createTextCursor();
+    debut->gotoStart(false);
+    texte->insertString(debut.get(), rtl::OUString(), false);
+    if (!modifie) {
+        document->setModified(false);
+    }
+}
+
 /// The paragraphs of these texts are zones of their own: one is never parted in two.
 bool OuvreUneLigne(std::vector<compagnon::EtapeEdition> const& etapes) {
     return std::any_of(etapes.begin(), etapes.end(), [](compagnon::EtapeEdition const& etape) {
@@ -52,9 +87,12 @@ TexteDessine::TexteDessine(uno::Reference<uno::XInterface> const& objet,
 TexteDessine::~TexteDessine() = default;
 
 std::vector<ParagrapheLu> TexteDessine::LisTout() const {
+    uno::Reference<text::XText> const texte = DonneTexte();
+    if (!EnumereTout(texte)) {
+        EnumereDesormaisTout(texte, modele_);
+    }
     std::vector<ParagrapheLu> lus;
-    uno::Reference<container::XEnumerationAccess> const texte(DonneTexte(), uno::UNO_QUERY_THROW);
-    uno::Reference<container::XEnumeration> const suite = texte->createEnumeration();
+    uno::Reference<container::XEnumeration> const suite = Paragraphes(texte);
     while (suite->hasMoreElements()) {
         uno::Reference<container::XEnumerationAccess> const paragraphe(suite->nextElement(),
                                                                        uno::UNO_QUERY_THROW);
@@ -146,14 +184,12 @@ std::optional<Gestes> TexteDessine::Remplace(std::size_t rang, std::size_t debut
                                              std::u16string const& apres) {
     std::vector<ParagrapheLu> const lus = LisTout();
     auto const etapes = Prepare(lus, rang, debut, avant, apres);
-    if (!etapes || lus[rang].etendues.empty()) {
+    if (!etapes || lus[rang].etendues.empty() || !PeuventRevenir(lus[rang], *etapes)) {
         return std::nullopt;
     }
-    std::optional<Gestes> gestes = GestesPour(lus[rang], *etapes);
-    if (gestes) {
-        gestes->rang = rang;
-        Fais(lus[rang], gestes->aller);
-    }
+    Gestes gestes = GestesPour(lus[rang], *etapes);
+    gestes.rang = rang;
+    Fais(lus[rang], gestes.aller);
     return gestes;
 }
 
@@ -181,12 +217,18 @@ void TexteDessine::Fais(ParagrapheLu const& lu, std::vector<Geste> const& gestes
         if (geste.champ) {
             texte->insertTextContent(curseur(geste.position, 1).get(),
                                      ChampAvec(champs.at(*geste.champ), EnUno(geste.ajout)), true);
-        } else if (geste.ajout.empty()) {
+            continue;
+        }
+        if (geste.retire > 0) {
             curseur(geste.position, geste.retire)->setString(rtl::OUString());
-        } else {
-            texte->insertString(curseur(geste.position, 0).get(), EnUno(geste.ajout), false);
+        }
+        if (!geste.ajout.empty()) {
+            curseur(geste.position, 0)->setString(EnUno(geste.ajout));
             geste.format.Mets(curseur(geste.position, geste.ajout.size()).get());
         }
+    }
+    if (!EnumereTout(texte)) { // for other programs
+        EnumereDesormaisTout(texte, modele_);
     }
 }
 

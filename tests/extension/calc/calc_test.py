@@ -502,6 +502,17 @@ class Correction(Cas):
                          [f"{i} fautes dans le texte fautes" for i in range(500)])
 
 
+    def test_a_cell_with_formats_is_read_whole_after_undo_and_another_programs_edits(self):
+        cellule = self.cellule("A1", "un mot\nsuite")
+        plage(cellule, 0, 2).CharWeight = 150.0
+        self.corrige("mot", "m")
+        self.doc.UndoManager.undo()
+        self.assertEqual(self.client.textes(), ["un mot", "suite"])
+        autre = self.feuille.getCellRangeByName("A1").getCellByPosition(0, 0)
+        plage(autre, 12, 12).setString(" et fin")
+        self.assertEqual(self.client.textes(), ["un mot", "suite et fin"])
+
+
 class Refus(Cas):
     def test_a_protected_cell_on_a_protected_sheet(self):
         self.remplis(A1="fermee", A2="ouverte")

@@ -297,6 +297,19 @@ class Correction(Cas):
                 self.assertEqual(self.portions(forme), apres)
         self.assertGreater(faites, 5)
 
+    def test_a_text_is_read_whole_however_it_was_written(self):
+        forme = self.forme("un chat noir\ndeux")
+        self.assertEqual(self.client.textes(), ["un chat noir", "deux"])
+        plage(forme, 12, 12).setString("atre")
+        plage(forme, 21, 21).setString(" et trois")
+        self.doc.setModified(False)
+        self.assertEqual(self.client.textes(), ["un chat noiratre", "deux et trois"])
+        self.assertFalse(self.doc.isModified())
+        self.corrige("trois", "quatre")
+        self.assertEqual(self.client.textes(), ["un chat noiratre", "deux et quatre"])
+        self.annule()
+        self.assertEqual(self.client.textes(), ["un chat noiratre", "deux et trois"])
+
     def test_letters_that_would_not_come_back_as_they_were_are_not_taken_out(self):
         forme = self.forme("gras simple gras")
         for debut, fin in ((0, 4), (12, 16)):
