@@ -4,6 +4,7 @@ include_guard(GLOBAL)
 
 option(VOCALYNE_AVERTISSEMENTS_EN_ERREURS "Treat warnings as errors" OFF)
 option(VOCALYNE_ASSAINISSEURS "Build with the address and undefined-behaviour sanitizers" OFF)
+option(VOCALYNE_LONG "Tests repeat what goes wrong once in a while: hours" OFF)
 option(VOCALYNE_FUZZ "Build the probes of tests/fuzz for libFuzzer (needs clang)" OFF)
 
 # Said in full on the command line, for tools whose default standard is another.
