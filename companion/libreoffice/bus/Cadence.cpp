@@ -69,7 +69,11 @@ void Cadence::Sers() {
 void Cadence::Souffle() {
     std::unique_lock<std::mutex> verrou(mutex_);
     for (;;) {
-        eveil_.wait(verrou, [this] { return souffle_ || arrete_; });
+        // Not by `wait`, which is new in GCC 12's library: offices on systems with an older one would
+        // not load the extension, and say nothing.
+        constexpr std::chrono::hours kLongtemps(1);
+        while (!eveil_.wait_for(verrou, kLongtemps, [this] { return souffle_ || arrete_; })) {
+        }
         if (eveil_.wait_for(verrou, kSouffle, [this] { return arrete_; })) {
             return;
         }

@@ -3,6 +3,7 @@
 
 import os
 import pathlib
+import re
 import shutil
 import subprocess
 import unittest
@@ -67,6 +68,25 @@ class Description(unittest.TestCase):
             self.assertEqual(langues, ["en", "fr"])
 
 
+class Composant(unittest.TestCase):
+    # What Debian 12's systems and later have. A component that asks for more is not loaded by an
+    # older one, and its office says nothing of it.
+    PLAFONDS = {"GLIBC": (2, 34), "GLIBCXX": (3, 4, 29), "CXXABI": (1, 3, 13)}
+
+    def test_it_asks_for_nothing_newer_than_the_systems_that_it_is_for(self):
+        with zipfile.ZipFile(OXT) as paquet:
+            [nom] = [n for n in paquet.namelist() if n.endswith(".so")]
+            composant = paquet.extract(nom, banc.DOSSIER / "composant")
+        symboles = subprocess.run(["objdump", "-T", composant], capture_output=True, text=True,
+                                  check=True).stdout
+        demandes = {(famille, tuple(map(int, version.split("."))))
+                    for famille, version in re.findall(r"\((GLIBC|GLIBCXX|CXXABI)_([\d.]+)\)",
+                                                       symboles)}
+        self.assertEqual({famille for famille, _ in demandes}, set(self.PLAFONDS))
+        self.assertEqual([(famille, version) for famille, version in sorted(demandes)
+                          if version > self.PLAFONDS[famille]], [])
+
+
 class PourUneSeulePersonne(unittest.TestCase):
     def test_the_licence_is_shown_and_must_be_accepted(self):
         profil = sans_paquet("licence")
@@ -83,8 +103,8 @@ class PourUneSeulePersonne(unittest.TestCase):
             for nom in paquet.namelist():
                 contenu = paquet.read(nom)
                 if nom == "description.xml":
-                    self.assertEqual(contenu.count(b'value="7.0"'), 1)
-                    contenu = contenu.replace(b'value="7.0"', b'value="99.0"')
+                    self.assertEqual(contenu.count(b'value="7.4"'), 1)
+                    contenu = contenu.replace(b'value="7.4"', b'value="99.0"')
                 copie.writestr(nom, contenu)
         dit = unopkg(profil, "add", "--suppress-license", str(exigeant), statut=None)
         self.assertIn("unsatisfied dependencies", dit)
