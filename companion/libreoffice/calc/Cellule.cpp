@@ -11,6 +11,7 @@
 #include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/beans/XPropertyState.hpp>
+#include <com/sun/star/document/XUndoManagerSupplier.hpp>
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/sheet/CellFlags.hpp>
 #include <com/sun/star/sheet/XCellAddressable.hpp>
@@ -25,6 +26,7 @@
 #include <com/sun/star/util/XProtectable.hpp>
 
 #include <algorithm>
+#include <memory>
 
 using namespace com::sun::star;
 using rtl::OUString;
@@ -32,6 +34,27 @@ using rtl::OUString;
 namespace extension {
 
 namespace {
+
+/// No undo step holds what is done while it lives.
+class SansAnnulation {
+  public:
+    explicit SansAnnulation(uno::Reference<frame::XModel> const& modele)
+        : etapes_(uno::Reference<document::XUndoManagerSupplier>(modele, uno::UNO_QUERY_THROW)
+                      ->getUndoManager()) {
+        etapes_->lock();
+    }
+    ~SansAnnulation() {
+        try {
+            etapes_->unlock();
+        } catch (uno::Exception const&) { // NOLINT(bugprone-empty-catch): the document is going
+        }
+    }
+    SansAnnulation(SansAnnulation const&) = delete;
+    SansAnnulation& operator=(SansAnnulation const&) = delete;
+
+  private:
+    uno::Reference<document::XUndoManager> etapes_;
+};
 
 table::CellContentType Genre(uno::Reference<uno::XInterface> const& cellule) {
     return uno::Reference<table::XCell>(cellule, uno::UNO_QUERY_THROW)->getType();
@@ -140,20 +163,26 @@ std::optional<Gestes> Cellule::Remplace(std::size_t rang, std::size_t debut,
     uno::Reference<beans::XPropertySet> const proprietes(DonneObjet(), uno::UNO_QUERY_THROW);
     uno::Any const format = proprietes->getPropertyValue("NumberFormat");
     uno::Reference<beans::XPropertyState> const etats(DonneObjet(), uno::UNO_QUERY_THROW);
+    // The undo of a cell's attributes takes it out of its conditional format, so there is to be none;
+    // but undoing the edit of a cell with formats inside brings all its attributes back as they were then.
+    using Sans = std::unique_ptr<SansAnnulation>;
+    bool const uniforme = EstUniforme();
     bool const herite =
         etats->getPropertyState("NumberFormat") == beans::PropertyState_DEFAULT_VALUE;
     // For what looks like a number the office turns the cell's number format into the one of text,
     // and its undo step forgets that: it must find nothing to turn.
     if (std::any_of(lettres.begin(), lettres.end(),
                     [](char16_t unite) { return unite >= u'0' && unite <= u'9'; })) {
+        Sans const sans = uniforme ? std::make_unique<SansAnnulation>(DonneModele()) : nullptr;
         proprietes->setPropertyValue("NumberFormat", DonneFormatDeTexte());
     }
-    if (EstUniforme()) {
+    if (uniforme) {
         DonneTexte()->setString(EnUno(lettres)); // as text, whatever it looks like
     } else {
         Fais(lus[rang], GestesPour(lus[rang], *etapes).aller);
     }
     // The cell ends as it was but for its text: a format of the style's is no format of its own.
+    Sans const sans = uniforme ? std::make_unique<SansAnnulation>(DonneModele()) : nullptr;
     if (herite) {
         if (etats->getPropertyState("NumberFormat") != beans::PropertyState_DEFAULT_VALUE) {
             etats->setPropertyToDefault("NumberFormat");

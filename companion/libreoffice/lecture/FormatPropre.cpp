@@ -30,6 +30,16 @@ uno::Sequence<OUString> NomsDe(uno::Reference<uno::XInterface> const& objet, cha
     return {noms.data(), static_cast<sal_Int32>(noms.size())};
 }
 
+/// Does every paragraph say so? That its numbering does not start anew; and in a comment, from
+/// LibreOffice 24.8 on, that it has the style of comments.
+bool ADeNaissance(uno::Reference<uno::XInterface> const& objet, OUString const& nom) {
+    if (nom == "ParaStyleName") {
+        uno::Reference<beans::XPropertySet> const paragraphe(objet, uno::UNO_QUERY_THROW);
+        return paragraphe->getPropertyValue(nom) == uno::Any(OUString("Comment"));
+    }
+    return nom == "ParaIsNumberingRestart";
+}
+
 uno::Sequence<beans::PropertyState> EtatsDe(uno::Reference<uno::XInterface> const& objet,
                                             uno::Sequence<OUString> const& noms) {
     return uno::Reference<beans::XPropertyState>(objet, uno::UNO_QUERY_THROW)
@@ -79,9 +89,7 @@ bool AUnFormatPropre(uno::Reference<uno::XInterface> const& objet) {
         uno::Sequence<OUString> const noms = NomsDe(objet, debut);
         uno::Sequence<beans::PropertyState> const etats = EtatsDe(objet, noms);
         for (sal_Int32 i = 0; i < noms.getLength(); ++i) {
-            // Every paragraph says that its numbering does not start anew.
-            if (etats[i] == beans::PropertyState_DIRECT_VALUE &&
-                noms[i] != "ParaIsNumberingRestart") {
+            if (etats[i] == beans::PropertyState_DIRECT_VALUE && !ADeNaissance(objet, noms[i])) {
                 return true;
             }
         }

@@ -365,8 +365,12 @@ class Survie(Cas):
         self.assertEqual(refus.exception.nom, "ChampDetruit")
 
     def commentaire(self, *paragraphes, **format_):
-        """A comment whose words have that format."""
+        """A comment whose words have that format; without one, as the office itself makes it."""
         champ = self.doc.createInstance("com.sun.star.text.textfield.Annotation")
+        if not format_ and paragraphes[-1]:
+            champ.Content = "\n".join(paragraphes)
+            self.texte.insertTextContent(self.texte.End, champ, False)
+            return champ
         texte = champ.TextRange
         for i, paragraphe in enumerate(paragraphes):
             if i:
