@@ -39,8 +39,8 @@ Tenu<GVariant> DemandeAuBus(GDBusConnection* connexion, GCancellable* arret, cha
     auto const echeance = g_get_monotonic_time() + kPatience;
     constexpr int kEssais = 32; // a forger is in luck once in a while, not each time
     for (int essai = 0; essai < kEssais; ++essai) {
-        Objet<GDBusMessage> const question(g_dbus_message_new_method_call(
-            kNomDuBus, "/org/freedesktop/DBus", kNomDuBus, methode));
+        Objet<GDBusMessage> const question(
+            g_dbus_message_new_method_call(kNomDuBus, "/org/freedesktop/DBus", kNomDuBus, methode));
         g_dbus_message_set_body(question.get(), tenus.get());
         auto const reste = std::max<gint64>((echeance - g_get_monotonic_time()) / 1'000, 1);
         Objet<GDBusMessage> const reponse(g_dbus_connection_send_message_with_reply_sync(

@@ -22,9 +22,9 @@ using Tenu = std::unique_ptr<T, Liberation>;
 std::string AdresseDuBus();
 
 /// A call to the bus itself, waited for at most 5 s; null on failure, and once `arret` is
-/// cancelled. Any process of the user can answer in the bus's place, but cannot sign as the bus: such
-/// an answer is passed over and the question asked again, some times, which these questions bear.
-/// `arguments` is taken over. Bus thread.
+/// cancelled. Any process of the user can answer in the bus's place, but cannot sign as the bus:
+/// such an answer is passed over and the question asked again, some times, which these questions
+/// bear. `arguments` is taken over. Bus thread.
 Tenu<GVariant> DemandeAuBus(GDBusConnection* connexion, GCancellable* arret, char const* methode,
                             GVariant* arguments);
 

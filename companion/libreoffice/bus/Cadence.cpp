@@ -69,8 +69,8 @@ void Cadence::Sers() {
 void Cadence::Souffle() {
     std::unique_lock<std::mutex> verrou(mutex_);
     for (;;) {
-        // Not by `wait`, which is new in GCC 12's library: offices on systems with an older one would
-        // not load the extension, and say nothing.
+        // Not by `wait`, which is new in GCC 12's library: offices on systems with an older one
+        // would not load the extension, and say nothing.
         constexpr std::chrono::hours kLongtemps(1);
         while (!eveil_.wait_for(verrou, kLongtemps, [this] { return souffle_ || arrete_; })) {
         }

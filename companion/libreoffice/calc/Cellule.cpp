@@ -163,8 +163,9 @@ std::optional<Gestes> Cellule::Remplace(std::size_t rang, std::size_t debut,
     uno::Reference<beans::XPropertySet> const proprietes(DonneObjet(), uno::UNO_QUERY_THROW);
     uno::Any const format = proprietes->getPropertyValue("NumberFormat");
     uno::Reference<beans::XPropertyState> const etats(DonneObjet(), uno::UNO_QUERY_THROW);
-    // The undo of a cell's attributes takes it out of its conditional format, so there is to be none;
-    // but undoing the edit of a cell with formats inside brings all its attributes back as they were then.
+    // The undo of a cell's attributes takes it out of its conditional format, so there is to be
+    // none; but undoing the edit of a cell with formats inside brings all its attributes back as
+    // they were then.
     using Sans = std::unique_ptr<SansAnnulation>;
     bool const uniforme = EstUniforme();
     bool const herite =

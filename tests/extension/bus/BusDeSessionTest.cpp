@@ -39,8 +39,7 @@ class AskingTheBus : public testing::Test {
 };
 
 TEST_F(AskingTheBus, GivesItsAnswerAndNothingForAnError) {
-    EXPECT_EQ("(true,)",
-              Demande("NameHasOwner", g_variant_new("(s)", "org.freedesktop.DBus")));
+    EXPECT_EQ("(true,)", Demande("NameHasOwner", g_variant_new("(s)", "org.freedesktop.DBus")));
     EXPECT_EQ("nothing", Demande("GetNameOwner", g_variant_new("(s)", "com.ombrel.personne")));
     EXPECT_EQ("nothing", Demande("Rien", g_variant_new("()")));
 }
@@ -49,8 +48,7 @@ TEST_F(AskingTheBus, PassesOverWhatOthersAnswerInItsPlace) {
     Arroseur const arroseur(bus_.Adresse());
     constexpr int kFois = 200;
     for (int i = 0; i < kFois; ++i) {
-        EXPECT_EQ("(true,)",
-                  Demande("NameHasOwner", g_variant_new("(s)", "org.freedesktop.DBus")))
+        EXPECT_EQ("(true,)", Demande("NameHasOwner", g_variant_new("(s)", "org.freedesktop.DBus")))
             << i;
     }
     EXPECT_GT(arroseur.DonneNombre(), kFois);
