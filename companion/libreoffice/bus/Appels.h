@@ -42,14 +42,16 @@ class Appels {
     /// What a call does on the main thread, piece by piece.
     using Travail = std::function<Issue(Service&, Morceau const&)>;
 
+    /// What is done, on the main thread, in the place of a call that was given up: nothing but what
+    /// its caller is believed to know.
+    using Renonciation = std::function<void(Service&, std::string const& appelant)>;
+
     /// A call to be served.
     struct Appel {
         GDBusMethodInvocation* invocation;
         std::chrono::milliseconds delai; ///< until the main thread takes it up
         Travail travail;
-        /// What is to be done, in its place, where it was given up: nothing but what its caller is
-        /// believed to know. May be empty.
-        std::function<void(Service&, std::string const& appelant)> renonce;
+        Renonciation renonce; ///< may be empty
     };
 
     Appels(FilPrincipal fil, std::shared_ptr<Service> service);

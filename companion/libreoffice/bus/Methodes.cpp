@@ -42,10 +42,11 @@ GVariant* Entier(std::int32_t nombre) {
 }
 
 /// Sends a call to the main thread; the signal's answer is "handled".
-gboolean Envoie(gpointer methodes, Appels::Appel appel) {
+gboolean Envoie(gpointer methodes, Invocation* invocation, std::chrono::milliseconds delai,
+                Appels::Travail travail, Appels::Renonciation renonce = nullptr) {
     auto& soi = *static_cast<Methodes*>(methodes);
-    soi.Note(g_dbus_method_invocation_get_sender(appel.invocation));
-    soi.Cible().Sert(std::move(appel));
+    soi.Note(g_dbus_method_invocation_get_sender(invocation));
+    soi.Cible().Sert({invocation, delai, std::move(travail), std::move(renonce)});
     return TRUE;
 }
 
@@ -60,8 +61,7 @@ Appels::Travail DUneTraite(Travail travail) {
 template <typename Travail>
 gboolean Sert(gpointer methodes, Invocation* invocation, Travail travail) {
     auto const& delais = static_cast<Methodes*>(methodes)->DonneDelais();
-    return Envoie(methodes,
-                  {invocation, delais.ordinaire, DUneTraite(std::move(travail)), nullptr});
+    return Envoie(methodes, invocation, delais.ordinaire, DUneTraite(std::move(travail)));
 }
 
 /// A call without argument or result.
@@ -162,8 +162,8 @@ gboolean SurCorrige(GObject* /*s*/, Invocation* invocation, char const* zone, gi
         service.RenonceACorriger(appelant, zone, plage);
     };
     auto const& delais = static_cast<Methodes*>(methodes)->DonneDelais();
-    return Envoie(methodes, {invocation, delais.ordinaire, DUneTraite(std::move(travail)),
-                             std::move(renonce)});
+    return Envoie(methodes, invocation, delais.ordinaire, DUneTraite(std::move(travail)),
+                  std::move(renonce));
 }
 
 gboolean SurPeutCorriger(GObject* /*s*/, Invocation* invocation, char const* zone, gint debut,
@@ -214,7 +214,7 @@ gboolean SurSynchronise(GObject* /*s*/, Invocation* invocation, char const* leId
             [zones = std::move(zones)] { return LongueChaine(zones->EnJson()); });
     };
     auto const& delais = static_cast<Methodes*>(methodes)->DonneDelais();
-    return Envoie(methodes, {invocation, delais.ordinaire, std::move(travail), nullptr});
+    return Envoie(methodes, invocation, delais.ordinaire, std::move(travail));
 }
 
 gboolean SurInitialise(GObject* /*s*/, Invocation* invocation, char const* cle, gpointer methodes) {
@@ -223,8 +223,7 @@ gboolean SurInitialise(GObject* /*s*/, Invocation* invocation, char const* cle, 
         service.InitialiseTexteur(appelant, cle);
         return static_cast<GVariant*>(nullptr);
     };
-    return Envoie(methodes,
-                  {invocation, delais.initialisation, DUneTraite(std::move(travail)), nullptr});
+    return Envoie(methodes, invocation, delais.initialisation, DUneTraite(std::move(travail)));
 }
 
 /// Answered here and now: who asks waits a second and a half at most, and a busy office is alive.
