@@ -35,6 +35,7 @@ class Service {
     void RenonceACorriger(std::string const& appelant, std::string const& zone,
                           compagnon::Intervalle plage) {
         appelants_.NoteRefus(appelant, zone, plage);
+        appelants_.NoteIssue(appelant, zone, compagnon::ErreurDuService(contrat::Erreur::Occupe));
     }
 
     std::string DonneDocuments();

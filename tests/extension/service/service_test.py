@@ -248,6 +248,7 @@ class Patience(Cas):
                 self.client.corrige(zone, "chat", "chien")
             self.assertEqual(erreur.exception.nom, "Occupe")
             self.assertFalse(self.client.DocEstMort(self.client.id.split("~")[1]))
+        self.assertEqual(self.client.refus(zone)[0], "Occupe")
         self.assertEqual(self.client.zones()[0].texte, "un chat noir")
 
     def test_a_call_that_waited_is_served_when_the_office_is_free_again(self):
