@@ -6,7 +6,7 @@ import os
 
 import banc
 from .constats import BUREAU, FAUTE, Bilan
-from .fichier.differences import Difference, differences, partage
+from .fichier.differences import Difference, differences, mesures, partage
 from .fichier.ossature import Ossature
 from .ouvert import Ouvert, PasAnnule, PasEnregistre
 from .temoin import Temoin
@@ -52,9 +52,11 @@ class Controle:
 
     def _juge_avec_temoin(self) -> None:
         du_bureau, passageres, manques = self._rejoue()
+        # What grew with the letters does not shrink again for their undoing.
+        libres = frozenset().union(*map(mesures, du_bureau.get("structure", [])),
+                                   RANGEES if self._tableur else ())
         for nature, vues in self._vues.items():
-            notres, siennes = partage(vues, du_bureau.get(nature, []), passageres,
-                                      RANGEES if self._tableur else frozenset())
+            notres, siennes = partage(vues, du_bureau.get(nature, []), passageres, libres)
             suite = [f"not done without the extension: {essai}" for essai in manques if notres]
             self._bilan.note(nature, FAUTE, list(map(_dis, notres)) + suite)
             self._bilan.note(nature, BUREAU, map(_dis, siennes))

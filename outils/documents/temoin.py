@@ -10,6 +10,8 @@ import os
 from .choix import REMPLISSAGE, Essai, en_unites
 
 PARAGRAPHE_ECRIT = "SwXParagraph"  # of a text document: the services of both kinds are the same
+CHOSES = ("Footnote", "TextField", "ContentControl", "TextFieldStart", "TextFieldSeparator",
+          "TextFieldEnd", "TextFieldStartEnd")  # in the line, and no letters
 CESURE = "\xad"  # which a zone leaves out
 POSSIBLES_MAX = 500  # paragraphs that are looked at portion by portion
 EN_LETTRES = 4  # com.sun.star.sheet.CellFlags.STRING
@@ -72,7 +74,7 @@ class Paragraphe:
                     yield portion, portion.getString()
             elif genre == "LineBreak":
                 yield portion, REMPLISSAGE
-            elif genre in ("Footnote", "TextField", "ContentControl") or (
+            elif genre in CHOSES or (
                     genre == "Frame" and _est_dans_la_ligne(portion)):
                 yield portion, REMPLISSAGE
 

@@ -63,7 +63,7 @@ MESURES = re.compile(r"((?:svg:(?:height|width|x|y|viewBox|d|points)|style:row-h
                      r"draw:transform|draw:caption-point-[xy]|fo:min-height)=)[^] ]*")
 
 
-def _mesures(difference: Difference) -> frozenset[str]:
+def mesures(difference: Difference) -> frozenset[str]:
     """The measures that differ, where nothing else does."""
     nues = [[MESURES.sub(r"\1", dit) for dit in cote] for cote in (difference.perdu, difference.gagne)]
     if nues[0] != nues[1]:
@@ -75,7 +75,7 @@ def _mesures(difference: Difference) -> frozenset[str]:
 
 
 def partage(trouvees: list[Difference], du_bureau: list[Difference],
-            passageres: list[Difference], mesures: frozenset[str] = frozenset()
+            passageres: list[Difference], libres: frozenset[str] = frozenset()
             ) -> tuple[list[Difference], list[Difference]]:
     """Those that are nobody's but ours, and those that the office makes as well: by itself in the
     same place between two saves, or anywhere in a document that was edited without us; of measures, the
@@ -83,12 +83,12 @@ def partage(trouvees: list[Difference], du_bureau: list[Difference],
     lieux = {d.lieu for d in passageres}
     perdues = {ligne for d in du_bureau for ligne in d.perdu}
     gagnees = {ligne for d in du_bureau for ligne in d.gagne}
-    mesures = mesures.union(*map(_mesures, du_bureau))
+    libres = libres.union(*map(mesures, du_bureau))
     notres, siennes = [], []
     for difference in trouvees:
-        siennes_ici = _mesures(difference)
+        siennes_ici = mesures(difference)
         connue = difference.lieu in lieux or (
             perdues.issuperset(difference.perdu) and gagnees.issuperset(difference.gagne)) or (
-            siennes_ici and siennes_ici <= mesures)
+            siennes_ici and siennes_ici <= libres)
         (siennes if connue else notres).append(difference)
     return notres, siennes

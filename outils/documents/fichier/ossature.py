@@ -63,6 +63,8 @@ class Ossature:
         for nom, valeur in sorted(tous.items()):
             if nom in SANS_EFFET or nom in PASSAGERS or nom == REPETITIONS.get(genre):
                 continue
+            if nom.endswith(":value") and tous.get(nom[:-5] + "name", "").endswith("_CurrentDate"):
+                continue  # of a date to choose: rewritten as soon as its page is drawn
             if nom == "office:string-value" or formule and nom in RESULTATS:
                 continue
             dits.append(f"{nom}={self._formats.decrit(valeur) if designe_un_style(nom) else valeur}")
