@@ -251,6 +251,23 @@ class Differences(unittest.TestCase):
         self.assertEqual(partage([sienne, notre], [Difference("p[9]", ("a",), ("b",))], []),
                          ([notre], [sienne]))
 
+    def test_a_mark_that_the_office_moves_as_well_is_not_ours_whatever_letters_it_passes(self):
+        def deplace(lieu, mot, reste):
+            return [Difference(lieu, (), (f"letters '{mot}'",)),
+                    Difference(lieu, (f"letters '{mot}{reste}'",), (f"letters '{reste}'",))]
+        ici = deplace("p[1]", "un", " mot")
+        self.assertEqual(partage(ici, deplace("p[1]", "le", " mot"), []), ([], ici))
+        autre = Difference("p[2]", ("letters 'a'",), ("letters 'b'",))
+        self.assertEqual(partage([autre], deplace("p[1]", "le", " mot"), []), ([autre], []))
+
+    def test_measures_of_the_same_kind_are_not_ours(self):
+        def hauteur(lieu, avant, apres):
+            return Difference(lieu, (f"draw:frame[svg:height={avant}cm]",),
+                              (f"draw:frame[svg:height={apres}cm]",))
+        notre = hauteur("p[1]", 1, 2)
+        self.assertEqual(partage([notre], [hauteur("p[9]", 3, 4)], []), ([], [notre]))
+        self.assertEqual(partage([notre], [], []), ([notre], []))
+
     def test_what_changes_at_each_save_is_not_ours(self):
         heure = Difference("p[1]", ("12:00",), ("12:02",))
         self.assertEqual(partage([heure], [], [Difference("p[1]", ("12:00",), ("12:01",))]),

@@ -63,6 +63,9 @@ MESURES = re.compile(r"((?:svg:(?:height|width|x|y|viewBox|d|points)|style:row-h
                      r"draw:transform|draw:caption-point-[xy]|fo:min-height)=)[^] ]*")
 
 
+LETTRES = re.compile(r"(?<=[s}]) (?:'.*'|\".*\")$", re.S)  # at the end of a line of letters
+
+
 def mesures(difference: Difference) -> frozenset[str]:
     """The measures that differ, where nothing else does."""
     nues = [[MESURES.sub(r"\1", dit) for dit in cote] for cote in (difference.perdu, difference.gagne)]
@@ -74,20 +77,30 @@ def mesures(difference: Difference) -> frozenset[str]:
                      if avant != apres)
 
 
+def _forme(difference: Difference) -> tuple | None:
+    """What was lost and gained whatever its letters are: where a mark moves, other letters stand on
+    its sides. Nothing where letters alone differ."""
+    perdu, gagne = (tuple(LETTRES.sub("", dit) for dit in cote)
+                    for cote in (difference.perdu, difference.gagne))
+    return (perdu, gagne) if perdu != gagne else None
+
+
 def partage(trouvees: list[Difference], du_bureau: list[Difference],
             passageres: list[Difference], libres: frozenset[str] = frozenset()
             ) -> tuple[list[Difference], list[Difference]]:
     """Those that are nobody's but ours, and those that the office makes as well: by itself in the
     same place between two saves, or anywhere in a document that was edited without us; of measures, the
-    same kind will do, or one of those that are given."""
+    same kind will do, or one of those that are given; and of a mark that moves, the move."""
     lieux = {d.lieu for d in passageres}
     perdues = {ligne for d in du_bureau for ligne in d.perdu}
     gagnees = {ligne for d in du_bureau for ligne in d.gagne}
     libres = libres.union(*map(mesures, du_bureau))
+    formes = set(filter(None, map(_forme, du_bureau)))
     notres, siennes = [], []
+    deplacees = {d.lieu for d in trouvees if _forme(d) in formes}
     for difference in trouvees:
         siennes_ici = mesures(difference)
-        connue = difference.lieu in lieux or (
+        connue = difference.lieu in lieux or difference.lieu in deplacees or (
             perdues.issuperset(difference.perdu) and gagnees.issuperset(difference.gagne)) or (
             siennes_ici and siennes_ici <= libres)
         (siennes if connue else notres).append(difference)
