@@ -10,6 +10,7 @@
 #include "partage/ErreurDuService.h"
 
 #include <com/sun/star/container/XEnumerationAccess.hpp>
+#include <com/sun/star/lang/DisposedException.hpp>
 #include <com/sun/star/lang/IllegalArgumentException.hpp>
 #include <com/sun/star/text/XTextRangeCompare.hpp>
 
@@ -49,14 +50,20 @@ ParagrapheWriter::ParagrapheWriter(std::string cle,
     , fond_(std::move(fond)) {}
 
 PlanDePortions ParagrapheWriter::Lis() {
-    // A deleted paragraph can go on living among the undo steps, where it still reads and writes:
-    // only a comparison of places tells that it stands in the text no longer.
+    // A deleted paragraph can go on living among the undo steps, where it still reads and writes: only
+    // a comparison of places tells that it stands in the text no longer, and from LibreOffice 25.2 on
+    // not even that, but no cursor can be put there.
     uno::Reference<text::XTextRange> const etendue(paragraphe_, uno::UNO_QUERY_THROW);
     uno::Reference<text::XTextRangeCompare> const ordre(contenant_->texte, uno::UNO_QUERY_THROW);
     try {
         uno::Reference<text::XTextRange> const debut = etendue->getStart();
         ordre->compareRegionStarts(debut, debut);
+        contenant_->texte->createTextCursorByRange(debut);
     } catch (lang::IllegalArgumentException const&) {
+        throw compagnon::ErreurDuService(contrat::Erreur::ZoneInconnue);
+    } catch (lang::DisposedException const&) {
+        throw;
+    } catch (uno::RuntimeException const&) {
         throw compagnon::ErreurDuService(contrat::Erreur::ZoneInconnue);
     }
     return LisPortions().plan;
