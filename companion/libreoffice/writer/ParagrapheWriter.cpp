@@ -50,9 +50,9 @@ ParagrapheWriter::ParagrapheWriter(std::string cle,
     , fond_(std::move(fond)) {}
 
 PlanDePortions ParagrapheWriter::Lis() {
-    // A deleted paragraph can go on living among the undo steps, where it still reads and writes: only
-    // a comparison of places tells that it stands in the text no longer, and from LibreOffice 25.2 on
-    // not even that, but no cursor can be put there.
+    // A deleted paragraph can go on living among the undo steps, where it still reads and writes:
+    // only a comparison of places tells that it stands in the text no longer, and from
+    // LibreOffice 25.2 on not even that, but no cursor can be put there.
     uno::Reference<text::XTextRange> const etendue(paragraphe_, uno::UNO_QUERY_THROW);
     uno::Reference<text::XTextRangeCompare> const ordre(contenant_->texte, uno::UNO_QUERY_THROW);
     try {
