@@ -109,8 +109,9 @@ GVariant* Rien(Service& /*service*/, std::string const& /*appelant*/) {
 GVariant* Tous(Service& service, std::string const& /*appelant*/) {
     return Chaine(service.DonneDocuments());
 }
-GVariant* Noms(Service& service, std::string const& appelant, std::string const& leId) {
-    return Chaine(service.DonneNomsDeZones(appelant, leId));
+Appels::Issue Noms(Service& service, std::string const& appelant, std::string const& leId) {
+    auto noms = std::make_shared<NomsDeZones const>(service.DonneNomsDeZones(appelant, leId));
+    return Appels::Redaction([noms = std::move(noms)] { return Chaine(noms->EnJson()); });
 }
 GVariant* Recit(Service& service, std::string const& /*appelant*/, std::string const& leId) {
     return Chaine(service.DonneRapport(leId));

@@ -6,7 +6,6 @@
 #include "RapportSur.h"
 #include "commun/ErreurEnCours.h"
 #include "partage/EcritureDocuments.h"
-#include "partage/EcritureNoms.h"
 #include "partage/ErreurDuService.h"
 #include "partage/LimiteDeRemplacement.h"
 #include "partage/Messages.h"
@@ -55,17 +54,17 @@ std::string Service::DonneDocuments() {
     return ecriture.Termine();
 }
 
-std::string Service::DonneNomsDeZones(std::string const& appelant, std::string const& leId) {
+NomsDeZones Service::DonneNomsDeZones(std::string const& appelant, std::string const& leId) {
     std::shared_ptr<DocumentOuvert> const document = DocumentDIdentifiant(leId);
-    compagnon::EcritureNoms ecriture;
+    NomsDeZones noms;
     if (auto const* const donne = appelants_.DonneDonne(appelant, document->DonneCle())) {
         for (auto const& [cle, croyance] : donne->zones) {
             if (auto const zone = document->DonneZone(cle)) {
-                ecriture.Ajoute(cle, DisLieu(zone->DonneLieu()));
+                noms.Ajoute(cle, zone->DonneLieu());
             }
         }
     }
-    return ecriture.Termine();
+    return noms;
 }
 
 std::string Service::DonneRapport(std::string const& leId) {

@@ -4,6 +4,7 @@
 #include "DialogueModal.h"
 #include "DocumentsOuverts.h"
 #include "EtapeAnnulable.h"
+#include "NomsDeZones.h"
 #include "Synchronisation.h"
 #include "partage/Appelants.h"
 
@@ -41,7 +42,7 @@ class Service {
     std::string DonneDocuments();
     /// What a person would call each zone of the document that the caller was given. `leId`: a
     /// whole identifier, as in the next one.
-    std::string DonneNomsDeZones(std::string const& appelant, std::string const& leId);
+    NomsDeZones DonneNomsDeZones(std::string const& appelant, std::string const& leId);
     /// What the document is, and what of it is left out.
     std::string DonneRapport(std::string const& leId);
 
