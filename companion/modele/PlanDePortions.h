@@ -92,7 +92,6 @@ class PlanDePortions {
                std::vector<EtapeEdition>& etapes) const;
     bool EcrisSource(std::size_t portion, std::size_t debut, std::size_t fin,
                      std::u16string const& ajout, std::vector<EtapeEdition>& etapes) const;
-    bool PeutProlonger(std::size_t debut, std::size_t fin, std::size_t decalage) const;
     bool Prolonge(std::size_t decalage, bool versLaSuite, std::size_t limite,
                   std::u16string_view ajout, std::vector<EtapeEdition>& etapes) const;
     bool VideUneEtendue(std::vector<Morceau> const& morceaux,

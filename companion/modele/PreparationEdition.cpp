@@ -253,18 +253,6 @@ bool PlanDePortions::EcrisSource(std::size_t portion, std::size_t debut, std::si
     return true;
 }
 
-/// May letters put in at an end of this range be given to the portion of the letter beside them?
-bool PlanDePortions::PeutProlonger(std::size_t debut, std::size_t fin, std::size_t decalage) const {
-    if (debut < fin) {
-        return decalage == debut || decalage == fin;
-    }
-    // Nothing stands before a paragraph's start that they could go with. What begins there with
-    // the first letter (a link, a field) begins behind them, as when typing.
-    auto const place = decalage == 0 ? DonnePlace(0, true) : std::nullopt;
-    return place && portions_[place->portion].genre == GenrePortion::Texte &&
-           !EstAuBordDe(GenrePortion::Limite, place->portion, false);
-}
-
 bool PlanDePortions::Prolonge(std::size_t decalage, bool versLaSuite, std::size_t limite,
                               std::u16string_view ajout, std::vector<EtapeEdition>& etapes) const {
     auto const place = DonnePlace(decalage, versLaSuite);
@@ -278,7 +266,8 @@ bool PlanDePortions::Prolonge(std::size_t decalage, bool versLaSuite, std::size_
         return true;
     }
     bool const auBord = place->unite == (versLaSuite ? 0 : source.size());
-    bool const utile = versLaSuite || EstAuBordDe(GenrePortion::Limite, portion, true);
+    // At a paragraph's start nothing stands before that they could go with.
+    bool const utile = versLaSuite ? portion > 0 : EstAuBordDe(GenrePortion::Limite, portion, true);
     if (!auBord || !utile || source.empty()) {
         return false;
     }
@@ -317,8 +306,8 @@ std::optional<std::vector<EtapeEdition>> PlanDePortions::Prepare(std::size_t deb
         // At an end of the range the letters belong to its words, and to what spans them: they go
         // in with the letter beside them where they would fall outside by themselves.
         bool const auDebut = a == debut;
-        std::size_t const limite = debut == fin ? texte_.size() : auDebut ? fin : debut;
-        if (PeutProlonger(debut, fin, a) && Prolonge(a, auDebut, limite, edition.ajout, etapes)) {
+        if (debut < fin && (auDebut || a == fin) &&
+            Prolonge(a, auDebut, auDebut ? fin : debut, edition.ajout, etapes)) {
             return etapes;
         }
         auto const point = PointInsertion(a);

@@ -100,7 +100,12 @@ void PassageDePortions::Saisie(Vue const& vue, OUString const& lettres) {
     std::size_t const pas = CompteLesPas(extension::Vue(lettres));
     uno::Reference<text::XTextRange> const dedans = plage(1, pas);
     OUString const vues = vue.etendue->getString();
-    if (lettres.isEmpty() || dedans->getString() != lettres || !vues.startsWith(lettres)) {
+    // One with a line's end in it goes on into the next paragraph for the office's cursors.
+    std::u16string_view const unites = extension::Vue(lettres);
+    bool const seule = std::none_of(unites.begin(), unites.end(),
+                                    [](char16_t unite) { return unite < 0x20 && unite != u'\t'; });
+    if (lettres.isEmpty() || !seule || dedans->getString() != lettres ||
+        !vues.startsWith(lettres)) {
         Chose(vue);
         return;
     }

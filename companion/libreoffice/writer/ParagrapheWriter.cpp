@@ -6,12 +6,14 @@
 #include "dessin/EditionEnCours.h"
 #include "document/SelectionDuBureau.h"
 #include "lecture/Curseur.h"
+#include "lecture/FormatPropre.h"
 #include "lecture/PlaceParmi.h"
 #include "partage/ErreurDuService.h"
 
 #include <com/sun/star/container/XEnumerationAccess.hpp>
 #include <com/sun/star/lang/DisposedException.hpp>
 #include <com/sun/star/lang/IllegalArgumentException.hpp>
+#include <com/sun/star/text/XParagraphCursor.hpp>
 #include <com/sun/star/text/XTextRangeCompare.hpp>
 
 #include <utility>
@@ -96,11 +98,30 @@ void ParagrapheWriter::Applique(CorrectionPrete const& correction) {
         uno::Reference<text::XTextCursor> const curseur =
             PlaceCurseur(contenant_->texte, etendues.at(etape.portion), avant);
         if (etape.EstInsertion()) {
-            contenant_->texte->insertString(curseur.get(), EnUno(etape.ajout), false);
+            Insere(curseur, etape.ajout, etendues.at(etape.portion));
             continue;
         }
         Avance(curseur, CompteLesPas(source.substr(etape.debut, etape.fin - etape.debut)), true);
         curseur->setString(rtl::OUString());
+    }
+}
+
+void ParagrapheWriter::Insere(uno::Reference<text::XTextCursor> const& curseur,
+                              std::u16string const& lettres,
+                              uno::Reference<text::XTextRange> const& portion) const {
+    uno::Reference<text::XParagraphCursor> const place(curseur, uno::UNO_QUERY_THROW);
+    uno::Reference<beans::XPropertySet> const document(fond_->modele, uno::UNO_QUERY);
+    // Letters take the format of those before them. At a paragraph's start there are none, and they
+    // are given that of those behind, which while changes are recorded would be a change as well.
+    bool const seules = place->isStartOfParagraph() && !Vaut(document, "RecordChanges", false);
+    FormatPropre const format = seules ? FormatPropre(portion) : FormatPropre();
+    contenant_->texte->insertString(curseur.get(), EnUno(lettres), false);
+    if (seules) {
+        uno::Reference<text::XTextRange> const paragraphe(paragraphe_, uno::UNO_QUERY_THROW);
+        uno::Reference<text::XTextCursor> const mises =
+            PlaceCurseur(contenant_->texte, paragraphe, 0);
+        Avance(mises, CompteLesPas(lettres), true);
+        format.Mets(mises.get());
     }
 }
 

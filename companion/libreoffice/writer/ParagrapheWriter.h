@@ -51,6 +51,10 @@ class ParagrapheWriter : public ZoneOuverte {
 
   private:
     ParagrapheLu LisPortions() const;
+    /// Puts letters in where the cursor stands, in `portion`.
+    void Insere(css::uno::Reference<css::text::XTextCursor> const& curseur,
+                std::u16string const& lettres,
+                css::uno::Reference<css::text::XTextRange> const& portion) const;
     /// The document's ranges of the portions, for the time of one call. None may live on: an object
     /// of a portion inside a content control or a metadata field, kept, makes the document's next
     /// save fail and its undo throw.

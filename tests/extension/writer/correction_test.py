@@ -283,6 +283,37 @@ class Survie(Cas):
         self.corrige("apres", "ensuite")
         self.assertEqual(self.saisie()[0], "jean dupond")
 
+    def test_what_is_anchored_at_a_paragraphs_start_survives_what_is_put_in_there(self):
+        for suivi in (False, True):
+            for signet in (False, True):
+                with self.subTest(suivi=suivi, signet=signet):
+                    self.doc.RecordChanges = False
+                    self.texte.setString("un mot")
+                    cadre = self.doc.createInstance("com.sun.star.text.TextFrame")
+                    cadre.AnchorType = uno.Enum("com.sun.star.text.TextContentAnchorType",
+                                                "AT_CHARACTER")
+                    self.texte.insertTextContent(self.e.plage(0, 0), cadre, False)
+                    cadre.Text.setString("dans le cadre")
+                    if signet:
+                        self.e.met("com.sun.star.text.Bookmark", absorbe=self.e.plage(0, 0),
+                                   Name="m")
+                    self.doc.RecordChanges = suivi
+                    self.doc.UndoManager.clear()
+                    for debut, fin, texte in ((0, 0, "Oh "), (0, 2, "Oun"), (0, 0, "x")):
+                        zone = self.client.zones()[0]
+                        self.client.CorrigeDansTexteur(zone.nom, debut, fin, texte + zone.texte[
+                            debut:fin][2:], False)
+                    self.assertEqual(self.client.textes()[1], "dans le cadre")
+                    self.assertEqual(self.doc.Bookmarks.hasByName("m"), signet)
+                    while self.doc.UndoManager.isUndoPossible():
+                        self.doc.UndoManager.undo()
+                    self.assertEqual(self.client.textes(), ["un mot", "dans le cadre"])
+                    self.doc.RecordChanges = False
+                    # The office's own undo takes a bookmark without extent along.
+                    if self.doc.Bookmarks.hasByName("m"):
+                        self.doc.Bookmarks.getByName("m").dispose()
+                    self.doc.TextFrames.getByIndex(0).dispose()
+
     def test_a_bookmark_beside_an_anchored_frame_survives_or_the_correction_is_refused(self):
         def cadre(place):
             cadre = self.doc.createInstance("com.sun.star.text.TextFrame")

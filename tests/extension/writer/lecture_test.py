@@ -135,7 +135,9 @@ class Caracteres(Cas):
         self.e.met("com.sun.star.text.textfield.DropDown", Items=("x", "y"), SelectedItem="y")
         self.e.ecrit(" c ")
         self.e.met("com.sun.star.text.textfield.Input", Hint="vide")
-        self.assertEqual(self.seule().texte, "a un \U0001f600 mot b \a c \a")
+        self.e.ecrit(" d ")
+        self.e.met("com.sun.star.text.textfield.Input", Content="mot\r", Hint="fin de ligne")
+        self.assertEqual(self.seule().texte, "a un \U0001f600 mot b \a c \a d \a")
 
     def test_a_selection_in_an_input_field_is_told_and_made(self):
         self.e.ecrit("a ")

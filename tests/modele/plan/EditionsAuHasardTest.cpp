@@ -86,14 +86,7 @@ void Essaie(std::mt19937& hasard, bool suivi, int& faites) {
     }
     std::u16string const voulu = texte.substr(0, debut) + nouveau + texte.substr(fin);
     ASSERT_EQ(modele.Plan().DonneTexte(), voulu);
-    // What is put in at a paragraph's start comes with the first letter anew, for its format.
-    std::size_t premiere = fin;
-    if (fin == 0 && !texte.empty()) {
-        do {
-            ++premiere;
-        } while (premiere < texte.size() && compagnon::CoupeCaractere(texte, premiere));
-    }
-    auto const dehors = Dehors(avant, plan, debut, premiere);
+    auto const dehors = Dehors(avant, plan, debut, fin);
     ASSERT_EQ(Restantes(modele, dehors), dehors);
     ASSERT_EQ(avant.portions.size(), modele.portions.size());
     for (std::size_t i = 0; i < avant.portions.size(); ++i) {
