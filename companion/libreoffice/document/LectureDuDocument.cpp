@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "LectureDuDocument.h"
 
+#include <cstddef>
 #include <utility>
 
 namespace extension {
@@ -8,6 +9,7 @@ namespace extension {
 namespace {
 // A person's typing has pauses longer than a reading takes; callers wait 20 s and more.
 constexpr std::chrono::seconds kPatience{8};
+constexpr std::size_t kBeaucoup = 1'000; // zones
 } // namespace
 
 LectureDuDocument::LectureDuDocument(std::shared_ptr<DocumentOuvert> document, Prends prends,
@@ -31,7 +33,9 @@ void LectureDuDocument::Commence() {
                 lues_.push_back({zone, plan.DonneTexte().size()});
             },
             [this, &pause] { Souffle(pause); });
-        Souffle(pause); // what follows has a piece of its own
+        if (!enUneFois_ && lues_.size() > kBeaucoup) {
+            pause(); // what is done with them all at the end has a piece of its own
+        }
     });
 }
 
