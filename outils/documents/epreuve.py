@@ -123,7 +123,7 @@ class Epreuve:
     def _mots_corriges(self, sauvegarde, manques: Counter, surplus: Counter) -> None:
         """What the zones hold now stands in the file, but for what was told before."""
         lecture, lus = Lecture(sauvegarde), _compte(self._client.zones())
-        for mot in lecture.lus - lus - manques:
+        for mot in lecture.lus - lus - lecture.douteux - manques:
             self._note("mots.enregistres", f"{mot}: in the file, not in the zones")
         for mot in lus - lecture.lus - lecture.douteux - surplus:
             self._note("mots.enregistres", f"{mot}: in the zones, not in the file")
@@ -176,7 +176,8 @@ class Epreuve:
             if erreur.nom in ("Bureau", "Interne", "NoReply"):
                 self._note("correction.echec", f"{erreur.nom}: {erreur}: {_dis(essai)}")
             return erreur.nom
-        if not peut:
+        # It answers whatever the new text will be: one with all the old letters in it takes none away.
+        if not peut and essai.original not in essai.ajout:
             self._note("peut", f"answered no, and it was done: {_dis(essai)}")
         return ""
 

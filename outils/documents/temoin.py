@@ -63,7 +63,8 @@ class Paragraphe:
         return self._etendue.ImplementationName == PARAGRAPHE_ECRIT
 
     def _portions(self, porteur=None):
-        """Pairs of a range and its letters; for what is no letter, the filler or nothing."""
+        """Triples of a range, its letters, and whether it is one thing; for what is no letter the
+        filler, or nothing."""
         for portion in _suite((porteur or self._donne_etendue()).createEnumeration()):
             genre = _valeur(portion, "TextPortionType")
             dedans = genre in ("ContentControl", "InContentMetadata") and _valeur(portion, genre)
@@ -71,15 +72,16 @@ class Paragraphe:
                 yield from self._portions(dedans)
             elif genre == "Text" or genre is None:
                 if not _valeur(portion, "CharHidden"):
-                    yield portion, portion.getString()
+                    yield portion, portion.getString(), False
             elif genre == "LineBreak":
-                yield portion, REMPLISSAGE
-            elif genre in CHOSES or (
-                    genre == "Frame" and _est_dans_la_ligne(portion)):
-                yield portion, REMPLISSAGE
+                yield portion, REMPLISSAGE, True
+            elif genre == "TextField" and not self._est_ecrit():  # a link, read as its words
+                yield portion, portion.getString(), True
+            elif genre in CHOSES or genre == "Frame" and _est_dans_la_ligne(portion):
+                yield portion, REMPLISSAGE, True
 
     def se_lit(self, texte: str) -> bool:
-        return "".join(lettres for _, lettres in self._portions()).replace(CESURE, "") == texte
+        return "".join(lettres for _, lettres, _ in self._portions()).replace(CESURE, "") == texte
 
     def remplace(self, essai: Essai) -> bool:
         if self.champ is not None:  # of a comment in a text, only all of it at once
@@ -98,11 +100,11 @@ class Paragraphe:
     def _position(self, unite: int):
         """A cursor there; a place counts from the start of the letters that hold it."""
         passees, bout = 0, self._donne_etendue().getStart()
-        for portion, lettres in self._portions():
-            if lettres == REMPLISSAGE:
+        for portion, lettres, entiere in self._portions():
+            if entiere:
                 if unite == passees:
                     return self._curseur(portion.getStart())
-                passees += 1
+                passees += len(en_unites(lettres))
             else:
                 pas = _pas(lettres, unite - passees, self._est_ecrit())
                 if pas is not None:

@@ -132,6 +132,11 @@ class Mots(unittest.TestCase):
                                   self.cellule("somme", 'table:formula="of:=A1"')), "mot",
                     number="12", computed="somme")
 
+    def test_a_result_that_stands_without_its_formula_may_count_or_not(self):
+        lecture = self.cellules(self.cellule("mot", 'office:string-value="mot"'), self.cellule("vu"))
+        self.attend(lecture, "vu")
+        self.assertEqual(list(lecture.douteux), ["mot"])
+
     def test_the_comment_of_a_number_is_read(self):
         note = "<office:annotation><text:p>voir</text:p></office:annotation>"
         self.attend(self.cellules(self.cellule("12", genre="float").replace("<text:p>",

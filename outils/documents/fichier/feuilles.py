@@ -108,8 +108,12 @@ class Feuilles:
             return "covered cell"
         if not self._tableur:
             return None
-        if "table:formula" in siens:
+        if "table:formula" in siens or siens.get("calcext:value-type") == "error":
             return "computed"
+        if "office:string-value" in siens:
+            # Of what an office cannot work out it writes the last result, and no formula; and the
+            # same of typed text that looks like one.
+            return "?"
         if siens.get("office:value-type") != "string":
             return "number"
         for nom, (c1, l1), (c2, l2) in self._pivots:
