@@ -5,6 +5,7 @@
 #include "commun/Proprietes.h"
 #include "dessin/EditionEnCours.h"
 #include "document/SelectionDuBureau.h"
+#include "lecture/Ecritures.h"
 #include "lecture/StyleDeLettres.h"
 #include "partage/ErreurDuService.h"
 
@@ -20,9 +21,11 @@
 #include <com/sun/star/sheet/XSheetCellRange.hpp>
 #include <com/sun/star/table/XCell.hpp>
 #include <com/sun/star/util/CellProtection.hpp>
+#include <com/sun/star/util/NotNumericException.hpp>
 #include <com/sun/star/util/NumberFormat.hpp>
 #include <com/sun/star/util/XNumberFormatTypes.hpp>
 #include <com/sun/star/util/XNumberFormatsSupplier.hpp>
+#include <com/sun/star/util/XNumberFormatter.hpp>
 #include <com/sun/star/util/XProtectable.hpp>
 
 #include <algorithm>
@@ -172,8 +175,8 @@ std::optional<Gestes> Cellule::Remplace(std::size_t rang, std::size_t debut,
         etats->getPropertyState("NumberFormat") == beans::PropertyState_DEFAULT_VALUE;
     // For what looks like a number the office turns the cell's number format into the one of text,
     // and its undo step forgets that: it must find nothing to turn.
-    if (std::any_of(lettres.begin(), lettres.end(),
-                    [](char16_t unite) { return unite >= u'0' && unite <= u'9'; })) {
+    // Nor more than that: undo of a number format takes a conditional one along at times.
+    if (SeLitCommeUnNombre(EnUno(lettres), format)) {
         Sans const sans = uniforme ? std::make_unique<SansAnnulation>(DonneModele()) : nullptr;
         proprietes->setPropertyValue("NumberFormat", DonneFormatDeTexte());
     }
@@ -206,6 +209,24 @@ uno::Reference<text::XTextContent> Cellule::ChampAvec(uno::Reference<text::XText
     }
     neuf->setPropertyValue("Representation", uno::Any(texte));
     return uno::Reference<text::XTextContent>(neuf, uno::UNO_QUERY_THROW);
+}
+
+bool Cellule::SeLitCommeUnNombre(OUString const& texte, uno::Any const& format) const {
+    if (texte.startsWith("=")) {
+        return true;
+    }
+    uno::Reference<util::XNumberFormatter> const lecteur(
+        ServiceDuBureau("com.sun.star.util.NumberFormatter"), uno::UNO_QUERY_THROW);
+    lecteur->attachNumberFormatsSupplier(
+        uno::Reference<util::XNumberFormatsSupplier>(DonneModele(), uno::UNO_QUERY_THROW));
+    sal_Int32 cle = 0;
+    format >>= cle;
+    try {
+        lecteur->convertStringToNumber(cle, texte);
+        return true;
+    } catch (util::NotNumericException const&) {
+        return false;
+    }
 }
 
 uno::Any Cellule::DonneFormatDeTexte() const {

@@ -33,6 +33,11 @@ void MetsContexteDesEcritures(uno::Reference<uno::XComponentContext> const& cont
     Contexte() = contexte;
 }
 
+uno::Reference<uno::XInterface> ServiceDuBureau(char const* nom) {
+    return Contexte()->getServiceManager()->createInstanceWithContext(
+        rtl::OUString::createFromAscii(nom), Contexte());
+}
+
 bool EstToutLatin(std::u16string_view texte) noexcept {
     return std::none_of(texte.begin(), texte.end(), [](char16_t unite) {
         // Hebrew comes first among the others; then Latin again with signs, up to the radicals.

@@ -21,6 +21,9 @@ struct SuiteDEcriture {
 /// Whom to ask; once, before any question. Main thread, as all of these.
 void MetsContexteDesEcritures(css::uno::Reference<css::uno::XComponentContext> const& contexte);
 
+/// A new object of a service of the office, from the same context; null where it has none.
+css::uno::Reference<css::uno::XInterface> ServiceDuBureau(char const* nom);
+
 /// Can all of it be nothing but Latin (or Greek, Cyrillic, signs)? Quick.
 bool EstToutLatin(std::u16string_view texte) noexcept;
 

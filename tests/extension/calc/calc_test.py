@@ -308,7 +308,7 @@ class Correction(Cas):
 
     def test_text_stays_text_whatever_it_comes_to_look_like(self):
         for avant, apres in (("l2", "12"), ("x1+1", "=1+1"), ("vrai!", "vrai"),
-                             ("1O/11/2020", "10/11/2020"), ("x", "'x"), ("5 %a", "5 %")):
+                             ("1O/11/2020", "10/11/2020"), ("x", "'x"), ("5 %a", "5 %"), ("trueX", "true"), ("Marsh 5", "March 5")):
             with self.subTest(apres=apres):
                 cellule = self.cellule("A1", avant)
                 format_ = cellule.NumberFormat
