@@ -314,10 +314,10 @@ class Laisses(unittest.TestCase):
 
 class EnFrancais(unittest.TestCase):
     def test_reasons_names_and_the_report_are_in_the_offices_language(self):
-        menus.met_en_francais("profil-fr")
+        menus.met_en_francais("profil-fr-recit")
         bus = banc.Bus()
         self.addCleanup(bus.ferme)
-        bureau = banc.Bureau(bus.adresse, profil="profil-fr")
+        bureau = banc.Bureau(bus.adresse, profil="profil-fr-recit")
         self.addCleanup(bureau.ferme)
         doc, client = banc.document_et_client(self, bus, bureau)
         doc.Text.setString("un chat")
