@@ -15,8 +15,34 @@ std::size_t CompteValeurs(std::string_view octets) {
     return marques;
 }
 
+namespace {
+
+/// Does nesting go deeper anywhere, strings left out?
+bool EstPlusProfondQue(int limite, std::string_view octets) {
+    int profondeur = 0;
+    bool dansTexte = false;
+    for (std::size_t i = 0; i < octets.size(); ++i) {
+        char const c = octets[i];
+        if (dansTexte) {
+            i += c == '\\' ? 1 : 0;
+            dansTexte = c != '"';
+        } else if (c == '"') {
+            dansTexte = true;
+        } else if (c == '[' || c == '{') {
+            if (++profondeur > limite) {
+                return true;
+            }
+        } else if (c == ']' || c == '}') {
+            --profondeur;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
 DocumentAnalyse Analyse(std::string const& octets) {
-    if (CompteValeurs(octets) > kValeursMax) {
+    if (CompteValeurs(octets) > kValeursMax || EstPlusProfondQue(kProfondeurMax, octets)) {
         return {false, {}};
     }
     AnalyseurJson analyseur;

@@ -18,6 +18,10 @@ namespace lectureJson {
 /// and no zone has half a million runs.
 inline constexpr std::size_t kValeursMax = std::size_t{2} * 1024 * 1024;
 
+/// Deeper nesting than any document's. JsonCpp has a limit of its own besides, which differs from
+/// one release of it to the next (1,000, then 256).
+inline constexpr int kProfondeurMax = 250;
+
 /// The number of values in a document, or up to twice as much: by its marks alone, so that one with
 /// too many is known before anything is built. Marks inside texts count too.
 std::size_t CompteValeurs(std::string_view octets);
@@ -28,8 +32,8 @@ struct DocumentAnalyse {
     Json::Value racine; ///< what the parser left, in both cases
 };
 
-/// Parses the UTF-8 bytes. Nesting beyond the parser's depth, or more than `kValeursMax` values,
-/// gives null, and not whole.
+/// Parses the UTF-8 bytes. More than `kValeursMax` values or deeper nesting than
+/// `kProfondeurMax` gives null, and not whole.
 DocumentAnalyse Analyse(std::string const& octets);
 
 /// A member, or null when `objet` is no object or has none of that name. The reference lives as

@@ -120,6 +120,8 @@ class Abi(unittest.TestCase):
         noms = re.findall(r"\(NEEDED\).*\[(.*)\]", dynamique)
         # The sanitizers' own, in that build, and the loader where the architecture names it.
         noms = [n for n in noms if not re.match(r"lib(asan|ubsan)\.|ld-linux", n)]
+        # Whichever JsonCpp the release has: its number changes with each.
+        noms = [re.sub(r"^(libjsoncpp\.so\.)\d+$", r"\1N", n) for n in noms]
         self.compare("dependances.txt", "".join(f"{nom}\n" for nom in sorted(noms)))
 
     def test_the_plug_in_asks_the_host_s_libraries_by_their_exact_names(self):

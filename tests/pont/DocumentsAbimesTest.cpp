@@ -114,14 +114,20 @@ std::string Imbrique(int profondeur) {
     return R"({"x":)" + Repete("[", profondeur) + Repete("]", profondeur) + R"(,"Zones":[{}]})";
 }
 
-TEST(DamagedDocuments, NestingUpToTheParsersDepthIsReadAndBeyondItHandsOutNothing) {
-    EXPECT_EQ(1U, LisTout(Imbrique(998)).zones.size());
-    EXPECT_EQ(1U, LisTout(Imbrique(999)).zones.size());
-    for (int const profondeur : {1000, 1001, 100000, 1000000}) {
+TEST(DamagedDocuments, NestingUpToTheLimitIsReadAndBeyondItHandsOutNothing) {
+    EXPECT_EQ(1U, LisTout(Imbrique(248)).zones.size());
+    EXPECT_EQ(1U, LisTout(Imbrique(249)).zones.size());
+    for (int const profondeur : {250, 999, 1001, 100000, 1000000}) {
         auto const lecture = LisTout(Imbrique(profondeur));
         EXPECT_TRUE(lecture.zones.empty()) << profondeur;
         EXPECT_EQ("", lecture.erreur) << profondeur;
     }
+}
+
+TEST(DamagedDocuments, BracketsInsideTextsAreNoNesting) {
+    auto const texte = Repete("[{", 1000) + R"(\"[)" + Repete("[", 1000);
+    EXPECT_EQ(1U,
+              LisTout(R"({"x":[[[[[[[[[")" + texte + R"("]]]]]]]]],"Zones":[{}]})").zones.size());
 }
 
 TEST(DamagedDocuments, NestingThatNeverEndsHandsOutNothing) {
