@@ -63,26 +63,29 @@ class ChangeEntreTemps(Cas):
         un, deux = curseur.getString().split("\n")
         curseur.setString(f"{deux}\r{un}")
 
-    def corrige_la_derniere(self, document, texte):
-        client, autre = self.client(document), self.client(document)
-        avant = autre.zones()
-        vues, _ = self.lance(document, client, autre, "CorrigeDansTexteur", avant[-1].nom, 0, 0,
-                             texte, True, signature="(siisb)")
-        self.assertEqual(vues[-1].texte, texte + avant[-1].texte)
-        self.assertEqual([z.texte for z in vues[:-1]], [z.texte for z in avant[:-1]])
-        self.assertEqual([z.nom for z in vues], [z.nom for z in avant])
-        client.CorrigeDansTexteur(vues[-1].nom, 0, len(texte), "", True)
-        self.assertEqual(client.textes(), [z.texte for z in avant])
+    def corrige_aux_bouts(self, document, texte):
+        """The zone that was read first, when another corrects it, and the one that is read last."""
+        for rang in (0, -1):
+            client, autre = self.client(document), self.client(document)
+            avant = autre.zones()
+            vues, _ = self.lance(document, client, autre, "CorrigeDansTexteur", avant[rang].nom, 0, 0,
+                                 texte, True, signature="(siisb)")
+            attendus = [z.texte for z in avant]
+            attendus[rang] = texte + attendus[rang]
+            self.assertEqual([z.texte for z in vues], attendus)
+            self.assertEqual([z.nom for z in vues], [z.nom for z in avant])
+            client.CorrigeDansTexteur(vues[rang].nom, 0, len(texte), "", True)
+            self.assertEqual(client.textes(), [z.texte for z in avant])
 
     def test_what_another_corrects_meanwhile_is_in_what_is_read_of_a_text(self):
-        self.corrige_la_derniere(self.ecris(), "Un mot. ")
+        self.corrige_aux_bouts(self.ecris(), "Un mot. ")
 
     def test_what_another_corrects_meanwhile_is_in_what_is_read_of_a_spreadsheet(self):
         classeur = self.ouvre("scalc")
         plage = classeur.Sheets[0].getCellRangeByPosition(0, 0, 9, CASES // 10 - 1)
         plage.setFormulaArray(tuple(tuple(f"case {l} {c}" for c in range(10))
                                     for l in range(CASES // 10)))
-        self.corrige_la_derniere(classeur, "Un mot. ")
+        self.corrige_aux_bouts(classeur, "Un mot. ")
 
     def test_what_another_corrects_meanwhile_is_in_what_is_read_of_slides(self):
         document = self.ouvre("simpress")
@@ -90,7 +93,7 @@ class ChangeEntreTemps(Cas):
             forme = document.createInstance("com.sun.star.drawing.RectangleShape")
             document.DrawPages[0].add(forme)
             forme.setString(f"forme {i}\rau second paragraphe")
-        self.corrige_la_derniere(document, "Un mot. ")
+        self.corrige_aux_bouts(document, "Un mot. ")
 
     def test_what_is_selected_meanwhile_is_told_as_selected(self):
         document = self.ecris()
