@@ -12,6 +12,9 @@ class DocumentImpress : public DocumentOuvert {
 
     char const* DonneGenre() const override;
 
+    /// Nobody is told when a program, or an undo, changes the text of a shape.
+    bool DitSesChangements() const override { return false; }
+
   protected:
     void ParcoursZones(RecueilDeZones const& recueil) override;
     std::unique_ptr<SelectionVue> LisSelectionDuBureau() override;

@@ -57,6 +57,8 @@ class DocumentOuvert {
     /// there; empty for one that is not to be left.
     void Parcours(RecueilDeZones::Prends const& prends,
                   std::function<void()> const& souffle = nullptr);
+    /// Does the office tell of every change in it? Otherwise it cannot be read in pieces.
+    virtual bool DitSesChangements() const { return true; }
     /// The part of what is selected now in each of these zones: all of them, in reading order, as
     /// they stand.
     std::vector<std::optional<compagnon::Intervalle>>

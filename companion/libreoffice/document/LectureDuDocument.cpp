@@ -18,7 +18,8 @@ LectureDuDocument::LectureDuDocument(std::shared_ptr<DocumentOuvert> document, P
     , prends_(std::move(prends))
     , recommence_(std::move(recommence))
     , changements_(document_->DonneModele())
-    , vus_(changements_.DonneNombre()) {
+    , vus_(changements_.DonneNombre())
+    , enUneFois_(!document_->DitSesChangements()) {
     Commence();
 }
 

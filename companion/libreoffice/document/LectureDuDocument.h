@@ -48,9 +48,9 @@ class LectureDuDocument {
     std::function<void()> recommence_;
     Changements changements_;
     std::uint64_t vus_; ///< changes up to the end of the last piece
+    bool enUneFois_;
     Instant const debut_ = std::chrono::steady_clock::now();
     Instant fin_; ///< of the piece under way
-    bool enUneFois_ = false;
     std::vector<ZoneParcourue> lues_;
     std::unique_ptr<TravailAPauses> parcours_;
 };

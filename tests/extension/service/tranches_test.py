@@ -11,7 +11,7 @@ from occupe import Occupe
 from rafale import Rafale
 
 # Enough for a dozen pieces, and for as many cells and shapes.
-PARAGRAPHES, CASES, FORMES = 4000, 20000, 400
+PARAGRAPHES, CASES, FORMES = 4000, 20000, 800
 
 
 def setUpModule():
@@ -87,13 +87,19 @@ class ChangeEntreTemps(Cas):
                                     for l in range(CASES // 10)))
         self.corrige_aux_bouts(classeur, "Un mot. ")
 
-    def test_what_another_corrects_meanwhile_is_in_what_is_read_of_slides(self):
+    def test_slides_are_read_in_one_piece_as_nobody_is_told_of_changes_in_their_texts(self):
         document = self.ouvre("simpress")
         for i in range(FORMES):
             forme = document.createInstance("com.sun.star.drawing.RectangleShape")
             document.DrawPages[0].add(forme)
-            forme.setString(f"forme {i}\rau second paragraphe")
-        self.corrige_aux_bouts(document, "Un mot. ")
+            forme.setString(f"forme {i}")
+        client, autre = self.client(document), self.client(document)
+        avant = [z.texte for z in autre.zones()]
+        derniere = autre.zones()[-1]
+        vues, _ = self.lance(document, client, autre, "CorrigeDansTexteur", derniere.nom, 0, 0,
+                             "Un mot. ", True, signature="(siisb)")
+        self.assertEqual([z.texte for z in vues], avant)
+        self.assertEqual(client.textes(), [*avant[:-1], "Un mot. " + avant[-1]])
 
     def test_what_is_selected_meanwhile_is_told_as_selected(self):
         document = self.ecris()
