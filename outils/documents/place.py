@@ -10,6 +10,7 @@ import json
 import os
 import pathlib
 import queue
+import re
 import sys
 import threading
 import time
@@ -24,6 +25,12 @@ from .ouvert import PasOuvert
 PATIENCE_DE_FIN = 5  # seconds for an office that crashes to be gone
 CONSEQUENCES = ("reponse", "correction.echec")  # of an office that goes away
 GRACE = 60  # seconds for what is left to end once the office was ended
+
+
+def _pile(journal: str) -> str:
+    """Where the office fell, innermost first, of what it wrote."""
+    fonctions = re.findall(r"/(lib\w+\.so)\(([^)+]*)", journal[journal.find("Application Error"):])
+    return " < ".join(f"{ou}:{nom}" for ou, nom in fonctions if nom)[:380] or journal[-300:]
 
 
 class Veille:
@@ -103,7 +110,7 @@ class Place:
         if veille.passee:
             bilan.note("bloque", sans_nous, [f"{epreuve.etape}: {self._patience:g} s"])
         elif bureau.processus.poll() is not None:
-            bilan.note("mort", sans_nous, [f"{epreuve.etape}: {bureau.dit()[-300:]}"])
+            bilan.note("mort", sans_nous, [f"{epreuve.etape}: {_pile(bureau.dit())}"])
         elif erreur:
             premiere = erreur
             while premiere.__context__ is not None:  # what went wrong while that was cleared up
