@@ -8,6 +8,7 @@
 
 #include <com/sun/star/frame/XModel.hpp>
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -57,6 +58,10 @@ class DocumentOuvert {
     /// there; empty for one that is not to be left.
     void Parcours(RecueilDeZones::Prends const& prends,
                   std::function<void()> const& souffle = nullptr);
+    /// A correction is made: of one in a shape's text the office tells nobody.
+    void NoteCorrection() noexcept { ++corrections_; }
+    /// How many were.
+    std::uint64_t DonneCorrections() const noexcept { return corrections_; }
     /// Does the office tell of every change in it? Otherwise it cannot be read in pieces.
     virtual bool DitSesChangements() const { return true; }
     /// The part of what is selected now in each of these zones: all of them, in reading order, as
@@ -121,6 +126,7 @@ class DocumentOuvert {
     css::uno::Reference<css::frame::XModel> modele_;
     std::string cle_;
     std::size_t nombre_ = 0;
+    std::uint64_t corrections_ = 0;
     CarnetDeZones carnet_;
     PileDAnnulation annulations_;
     std::optional<Retenue> retenue_;

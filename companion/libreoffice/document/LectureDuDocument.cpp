@@ -18,7 +18,7 @@ LectureDuDocument::LectureDuDocument(std::shared_ptr<DocumentOuvert> document, P
     , prends_(std::move(prends))
     , recommence_(std::move(recommence))
     , changements_(document_->DonneModele())
-    , vus_(changements_.DonneNombre())
+    , vus_(DonneNombre())
     , enUneFois_(!document_->DitSesChangements()) {
     Commence();
 }
@@ -46,8 +46,12 @@ void LectureDuDocument::Souffle(TravailAPauses::Pause const& pause) const {
     }
 }
 
+std::uint64_t LectureDuDocument::DonneNombre() const noexcept {
+    return changements_.DonneNombre() + document_->DonneCorrections();
+}
+
 bool LectureDuDocument::Avance(Instant fin) {
-    if (changements_.DonneNombre() != vus_) {
+    if (DonneNombre() != vus_) {
         // Nothing that stands on the walk's stack is looked at again: it may be of what is not
         // there any more.
         parcours_.reset();
@@ -57,7 +61,7 @@ bool LectureDuDocument::Avance(Instant fin) {
     }
     fin_ = fin;
     bool const fini = parcours_->Avance();
-    vus_ = changements_.DonneNombre(); // the reading's own: it may bring fields up to date
+    vus_ = DonneNombre(); // the reading's own: it may bring fields up to date
     return fini;
 }
 

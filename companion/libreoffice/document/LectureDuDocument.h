@@ -42,6 +42,8 @@ class LectureDuDocument {
   private:
     void Commence();
     void Souffle(TravailAPauses::Pause const& pause) const;
+    /// Changes so far.
+    std::uint64_t DonneNombre() const noexcept;
 
     std::shared_ptr<DocumentOuvert> document_;
     Prends prends_;

@@ -66,6 +66,7 @@ void Remplace(DocumentOuvert& document, ZoneOuverte& zone, PlanDePortions const&
     correction.nom = NomDeCorrection(correction.avant, texte);
     correction.etapes = std::move(*etapes);
     EtapeAnnulable const etape(document, correction.nom, auteur);
+    document.NoteCorrection();
     zone.Applique(correction);
 }
 

@@ -87,6 +87,17 @@ class ChangeEntreTemps(Cas):
                                     for l in range(CASES // 10)))
         self.corrige_aux_bouts(classeur, "Un mot. ")
 
+    def test_what_another_corrects_meanwhile_in_a_shape_of_a_text_is_in_what_is_read(self):
+        document = self.ecris()
+        forme = document.createInstance("com.sun.star.drawing.RectangleShape")
+        document.Text.insertTextContent(document.Text.createTextCursorByRange(document.Text.Start), forme, False)
+        forme.setString("dans une forme")
+        client, autre = self.client(document), self.client(document)
+        [zone] = [z for z in autre.zones()[:3] if z.texte == "dans une forme"]
+        vues, _ = self.lance(document, client, autre, "CorrigeDansTexteur", zone.nom, 0, 0, "Un mot ",
+                             True, signature="(siisb)")
+        self.assertIn("Un mot dans une forme", [z.texte for z in vues[:3]])
+
     def test_slides_are_read_in_one_piece_as_nobody_is_told_of_changes_in_their_texts(self):
         document = self.ouvre("simpress")
         for i in range(FORMES):
