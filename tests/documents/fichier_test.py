@@ -72,6 +72,10 @@ class Mots(unittest.TestCase):
     def test_what_was_typed_into_a_field_is_read(self):
         self.attend(self.lis("<text:p>a<text:text-input>b</text:text-input> c</text:p>"), "ab c")
 
+    def test_an_input_field_with_line_ends_is_left_out(self):
+        self.attend(self.lis("<text:p>a<text:text-input>b&#13;</text:text-input>c</text:p>"), "a c",
+                    field="b")
+
     def test_a_bookmark_parts_no_word(self):
         self.attend(self.lis('<text:p>a<text:bookmark text:name="x"/>b</text:p>'), "ab")
 

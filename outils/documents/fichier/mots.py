@@ -38,6 +38,11 @@ def mots(texte: str) -> list[str]:
     return net.split()
 
 
+def _a_des_lignes(element, genre: str) -> bool:
+    """An input field with line ends in it stands as one thing: the office cannot edit inside it."""
+    return genre == "text:text-input" and "\r" in "".join(element.itertext())
+
+
 class Lecture:
     """`lus`: words that a reader of the document may correct. `ecartes`: by reason, words that are
     in the file and not for correcting. `douteux`: may count as either."""
@@ -115,7 +120,7 @@ class Lecture:
             genre = nom_court(enfant.tag)
             if genre in ("text:s", "text:tab", "text:line-break"):
                 morceaux.append(" ")
-            elif genre in EN_LIGNE:
+            elif genre in EN_LIGNE and not _a_des_lignes(enfant, genre):
                 self._porteur(enfant, genre, raison, fois, morceaux)
             elif genre == "text:change" and self._caches.joint_des_paragraphes(enfant):
                 morceaux.append(HORS_LIGNE)
