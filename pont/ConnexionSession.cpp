@@ -53,7 +53,7 @@ QDBusConnection Ouvre(std::chrono::milliseconds delai) {
     if (!sondeDuBus::Repond(sondeDuBus::DonneAdresse(), delai)) {
         return DonneMorte();
     }
-    auto const bus = Connecte();
+    auto bus = Connecte();
     AccepteGrandesReponses(bus);
     return bus;
 }

@@ -19,10 +19,10 @@ namespace {
 
 class Annulation : public cppu::WeakImplHelper1<document::XUndoAction> {
   public:
-    Annulation(std::shared_ptr<TexteDessine> texte, Gestes gestes, rtl::OUString nom)
+    Annulation(std::shared_ptr<TexteDessine> texte, Gestes gestes, rtl::OUString const& nom)
         : texte_(std::move(texte))
         , gestes_(std::move(gestes))
-        , nom_(std::move(nom)) {}
+        , nom_(nom) {}
 
     rtl::OUString SAL_CALL getTitle() override { return nom_; }
     void SAL_CALL undo() override { Rejoue(true); }

@@ -128,6 +128,7 @@ ListeDocuments EnumereDocuments(int delaiMs) {
                                     [](auto const& c) { return c.proprietaire.isEmpty(); }),
                      compagnons.end());
     std::vector<QDBusMessage> questions;
+    questions.reserve(compagnons.size());
     for (Compagnon const& compagnon : compagnons) {
         questions.push_back(QDBusMessage::createMethodCall(
             compagnon.proprietaire, QLatin1String(contrat::kPrefixeChemin) + compagnon.instance,

@@ -88,7 +88,7 @@ TEST(WorkWithPauses, LeftForGoodIsTakenApart) {
     auto const tenu = std::make_shared<int>(1);
     std::optional<TravailAPauses> travail;
     travail.emplace([copie = tenu](Pause const& pause) {
-        auto const surLaPile = copie;
+        std::vector<std::shared_ptr<int>> const surLaPile{copie};
         pause();
         ADD_FAILURE() << "it went on";
     });

@@ -57,9 +57,9 @@ TEST_F(BridgeEndurance, RoundsOfReadingAndCorrectingKeepNoMemory) {
         Tour();
     }
 #ifdef __SANITIZE_ADDRESS__
-    constexpr long kDeriveMax = 256 * 1024; // it keeps what was freed, for a while
+    constexpr long kDeriveMax = 256L * 1024; // it keeps what was freed, for a while
 #else
-    constexpr long kDeriveMax = 2 * 1024;
+    constexpr long kDeriveMax = 2L * 1024;
 #endif
     EXPECT_LT(Memoire() - avant, kDeriveMax);
 }
