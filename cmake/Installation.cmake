@@ -11,20 +11,20 @@ if(VOCALYNE_SDK)
 endif()
 
 include(CMakePackageConfigHelpers)
-set(dossier_cmake "${CMAKE_INSTALL_LIBDIR}/cmake/VocalyneConnecteur")
 configure_package_config_file(cmake/VocalyneConnecteurConfig.cmake.in
   "${PROJECT_BINARY_DIR}/cmake/VocalyneConnecteurConfig.cmake"
-  INSTALL_DESTINATION "${dossier_cmake}"
+  INSTALL_DESTINATION "${VOCALYNE_DOSSIER_CMAKE}"
   PATH_VARS CMAKE_INSTALL_BINDIR VOCALYNE_DOSSIER_GREFFONS)
 # Before 1.0 a new minor version may break what connectors were built with.
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/cmake/VocalyneConnecteurConfigVersion.cmake"
   COMPATIBILITY SameMinorVersion)
 install(FILES
+  cmake/VocalyneConnecteur.cmake
   "${PROJECT_BINARY_DIR}/cmake/VocalyneConnecteurConfig.cmake"
   "${PROJECT_BINARY_DIR}/cmake/VocalyneConnecteurConfigVersion.cmake"
-  DESTINATION "${dossier_cmake}" COMPONENT sdk)
+  DESTINATION "${VOCALYNE_DOSSIER_CMAKE}" COMPONENT sdk)
 install(EXPORT VocalyneConnecteurCibles NAMESPACE Vocalyne::
-  DESTINATION "${dossier_cmake}" COMPONENT sdk)
+  DESTINATION "${VOCALYNE_DOSSIER_CMAKE}" COMPONENT sdk)
 
 # The wire contract, for authors of companions.
 install(DIRECTORY protocol/ DESTINATION "${CMAKE_INSTALL_DATADIR}/vocalyne/protocol" COMPONENT sdk

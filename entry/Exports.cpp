@@ -12,6 +12,7 @@ void DonneNomsTexteurs(UniChaine* noms) {
     }
 }
 
+// No stand-alone word processor and no palette: agents are for windows in front.
 InterfaceTexteur* CreeTexteur() {
     return nullptr;
 }

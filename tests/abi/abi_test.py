@@ -107,7 +107,7 @@ class Abi(unittest.TestCase):
         self.assertEqual(reference.read_text(), obtenu)
 
     def test_every_slot_and_export_says_the_state_it_needs_and_its_thread(self):
-        entetes = [DEPOT / "entry/Exports.h", *(DEPOT / "toolkit").glob("Interface*.h")]
+        entetes = [DEPOT / "toolkit/Exports.h", *(DEPOT / "toolkit").glob("Interface*.h")]
         self.assertEqual(len(entetes), 4)
         self.assertEqual([], [faute for entete in entetes for faute in sans_contrat(entete)])
 

@@ -5,6 +5,7 @@ import pathlib
 import re
 import shutil
 import subprocess
+import sys
 import unittest
 
 from commun import bureau, bus_prive, dialogue, lance
@@ -33,6 +34,7 @@ class Disposition(PrefixeInstalle):
 
     def test_every_product_stands_at_its_place(self):
         for chemin in [*PROGRAMMES, *BIBLIOTHEQUES, GREFFON, "include/vocalyne/ImplAgentTexteur.h",
+                       "include/vocalyne/Exports.h",
                        "include/vocalyne/UniChaine.h", "share/vocalyne/protocol/zones.schema.json",
                        "share/vocalyne/protocol/Contrat.h",
                        "share/doc/VocalyneConnecteur/LICENSE",
@@ -81,11 +83,49 @@ class Programmes(PrefixeInstalle):
 
 class Sdk(PrefixeInstalle):
 
-    def test_a_connector_builds_against_the_sdk_alone_and_works_in_the_host(self):
+    def construis(self) -> pathlib.Path:
         construction = self.dossier / "connecteur"
         lance(CMAKE, "-G", "Ninja", "-S", ICI / "connecteur", "-B", construction,
               f"-DCMAKE_PREFIX_PATH={self.prefixe}", env=self.env)
         lance(CMAKE, "--build", construction, env=self.env)
+        return construction
+
+    def alerte(self, connecteur: pathlib.Path, env: dict[str, str]) -> str:
+        """What the connector says when it is asked for a window that it cannot serve."""
+        infos = {"Id": "essai", "ClasseInitialisation": "a window of another program", "Genre": 1}
+        [refus] = dialogue(self.prefixe / PROGRAMMES[0], [
+            {"op": "CreeAgentTexteur", "idDocument": "essai", "infos": infos}], env, "--greffon", connecteur)
+        self.assertIsNone(refus["resultat"])
+        return refus["alertes"][0]["information"] + refus["alertes"][0]["texte"]
+
+    def test_the_alerts_of_a_connector_speak_the_language_of_the_person(self):
+        connecteur = self.construis() / "libConnecteurMinimal.so"
+        self.assertIn("a connector must be installed", self.alerte(connecteur, self.env))
+        self.assertIn("nécessite l’installation d’un connecteur",
+                      self.alerte(connecteur, self.env | {"LANG": "fr_FR.UTF-8"}))
+
+    def test_a_connector_shows_its_five_functions_and_asks_for_nothing_that_is_missing(self):
+        construction = self.construis()
+        for nom in ("libConnecteurMinimal.so", "libConnecteurALaMain.so"):
+            self.assertEqual(symboles_exportes(construction / nom), symboles_exportes(self.prefixe / GREFFON))
+        chemins = re.findall(r"\((?:RUNPATH|RPATH)\).*\[(.*)\]",
+                             dynamique(construction / "libConnecteurMinimal.so"))
+        self.assertEqual(chemins, ["$ORIGIN/.."])
+        rate = lance(CMAKE, "--build", construction, "--target", "ConnecteurIncomplet", env=self.env,
+                     statut=None)
+        self.assertNotEqual(rate.returncode, 0)
+        self.assertIn("FonctionOubliee", rate.stdout)
+
+    def test_a_connector_is_installed_where_the_host_keeps_its_plug_ins(self):
+        construction = self.construis()
+        lance(CMAKE, "--install", construction, "--prefix", self.prefixe, env=self.env)
+        pose = self.prefixe / LIB / "vocalyne/libConnecteurMinimal.so"
+        # Alone in a program that has none of the host's libraries, by its run path.
+        lance(sys.executable, "-c", "import ctypes, sys; ctypes.CDLL(sys.argv[1])", pose,
+              env=self.env | {"QT_QPA_PLATFORM": "offscreen"})
+
+    def test_a_connector_builds_against_the_sdk_alone_and_works_in_the_host(self):
+        construction = self.construis()
         creation = {"op": "CreeAgentTexteur", "idDocument": "essai",
                     "infos": {"Id": "essai", "ClasseInitialisation": "", "Genre": 1, "Classe": ""}}
         noms, agent, avant, peut, _, apres, _ = dialogue(self.prefixe / PROGRAMMES[0], [

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MPL-2.0
 // The smallest whole connector: one document, kept in memory, that the host can read and correct.
+#include <AlertesConnecteur.h>
+#include <Exports.h>
 #include <ImplAgentTexteur.h>
-#include <InfosApplication.h>
 #include <RoutinesAgentTexteur.h>
-#include <domaineTexteur.h>
 
 #include <memory>
 
-DomaineDeTraduction* domaineTexteur = nullptr;
+#ifdef FONCTION_OUBLIEE
+void FonctionOubliee(); // declared, and defined nowhere
+#endif
 
 namespace {
 
@@ -28,17 +30,39 @@ class AgentMinimal : public virtual ImplAgentTexteur {
     bool Capacite6() override { return true; }
     bool Capacite7() override { return true; }
 
-    bool DocEstMort() override { return false; }
-    UniChaine DonneFinDeParagraphe() override { return Litteral("\r"); }
-    UniChaine DonneTitreDocument() override { return DonneIdentificateur(); }
+    bool InitialiseTexteur(UniChaine const& classe, UniChaine&, int) override {
+        if (classe == Litteral("a window of another program")) {
+            AlerteConnecteurRequis(Litteral("Essai"));
+            return false;
+        }
+#ifdef FONCTION_OUBLIEE
+        FonctionOubliee();
+#endif
+        return true;
+    }
+    bool DocEstMort() override {
+        return false;
+    }
+    UniChaine DonneFinDeParagraphe() override {
+        return Litteral("\r");
+    }
+    UniChaine DonneTitreDocument() override {
+        return DonneIdentificateur();
+    }
     void InitialisePour(int) override {}
-    bool EstLie() override { return true; }
-    bool PermetsRetourDeCharriot() override { return true; }
+    bool EstLie() override {
+        return true;
+    }
+    bool PermetsRetourDeCharriot() override {
+        return true;
+    }
     void ActivePour(int) override {}
     void RompsLienCorrecteur() override {}
     void RompsLienTexteur() override {}
 
-    int DonneLongueurTexte() override { return texte_.Longueur(); }
+    int DonneLongueurTexte() override {
+        return texte_.Longueur();
+    }
     bool PeutCorrigerZone(int debut, int fin, UniChaine const& texte) override {
         return texte_.Extrais(debut, fin - debut) == texte;
     }
@@ -54,8 +78,6 @@ class AgentMinimal : public virtual ImplAgentTexteur {
 };
 
 } // namespace
-
-extern "C" {
 
 void DonneNomsTexteurs(UniChaine* noms) {
     *noms = Litteral("ConnecteurMinimal");
@@ -78,5 +100,4 @@ InterfaceAgentTexteur* CreeAgentTexteur(InfosApplication const* infos,
                                         UniChaine const* idDocument) {
     auto agent = std::make_unique<AgentMinimal>(*idDocument);
     return InitialiseAgentSelonInfos(agent.get(), *infos) ? agent.release() : nullptr;
-}
 }
