@@ -22,11 +22,11 @@ std::string DonneChemin() {
 
 /// The library's two functions; null where it cannot be loaded. Loaded once, and never unloaded:
 /// locales hold objects of its classes.
-struct Moteur {
+struct MoteurCharge {
     decltype(&vocalyneFaisLocale) faisLocale = nullptr;
     decltype(&vocalyneTraduis) traduis = nullptr;
 
-    Moteur() {
+    MoteurCharge() {
         auto* const bibliotheque = dlopen(DonneChemin().c_str(), RTLD_NOW | RTLD_LOCAL);
         if (bibliotheque == nullptr) {
             return;
@@ -37,8 +37,8 @@ struct Moteur {
     }
 };
 
-Moteur const& DonneMoteur() {
-    static Moteur const moteur;
+MoteurCharge const& DonneMoteur() {
+    static MoteurCharge const moteur;
     return moteur;
 }
 

@@ -6,8 +6,9 @@
 
 namespace hote {
 
-/// A language that the host proofs.
-enum class Langue { Francais, Anglais };
+/// A language that the host proofs. `Autre` is any that has a dictionary here; only dictionaries
+/// say so of themselves.
+enum class Langue { Francais, Anglais, Autre };
 
 /// A list of words that can be asked. Words are given in the form of `DonneForme`. One thread at a
 /// time; answers may be kept between calls.

@@ -3,15 +3,43 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
+#include <filesystem>
+#include <set>
 #include <sstream>
 
 namespace hote {
 
 namespace {
 
+namespace fs = std::filesystem;
+
 bool EstLisible(std::string const& fichier) {
     return access(fichier.c_str(), R_OK) == 0;
+}
+
+/// The dictionary `base` without its suffix, if both its files are there.
+std::optional<FichiersDictionnaire> DonneFichiers(std::string const& base) {
+    if (EstLisible(base + ".aff") && EstLisible(base + ".dic")) {
+        return FichiersDictionnaire{base + ".aff", base + ".dic"};
+    }
+    return std::nullopt;
+}
+
+/// The names that dictionaries of a language may have in a folder: "en", "en_GB"… in order.
+std::vector<std::string> DonneNoms(std::string const& langue, std::string const& dossier) {
+    std::vector<std::string> noms;
+    std::error_code erreur;
+    for (auto const& entree : fs::directory_iterator(dossier, erreur)) {
+        std::string const nom = entree.path().stem().string();
+        bool const sienne = nom == langue || nom.rfind(langue + '_', 0) == 0;
+        if (sienne && entree.path().extension() == ".dic") {
+            noms.push_back(nom);
+        }
+    }
+    std::sort(noms.begin(), noms.end());
+    return noms;
 }
 
 } // namespace
@@ -48,6 +76,36 @@ std::optional<FichiersDictionnaire> LocaliseDictionnaire(Langue langue,
         }
     }
     return std::nullopt;
+}
+
+std::optional<FichiersDictionnaire> LocaliseDictionnaire(std::string const& etiquette,
+                                                         std::vector<std::string> const& dossiers) {
+    std::string const langue = etiquette.substr(0, etiquette.find('-'));
+    std::string nom = etiquette;
+    std::replace(nom.begin(), nom.end(), '-', '_');
+    for (std::string const& dossier : dossiers) {
+        if (auto const fichiers = DonneFichiers(dossier + '/' + nom)) {
+            return fichiers;
+        }
+    }
+    auto const variantes = LocaliseVariantes(langue, dossiers);
+    return variantes.empty() ? std::nullopt : std::make_optional(variantes.front());
+}
+
+std::vector<FichiersDictionnaire> LocaliseVariantes(std::string const& langue,
+                                                    std::vector<std::string> const& dossiers) {
+    std::vector<FichiersDictionnaire> variantes;
+    std::set<std::string> vues; // French ones are often one file under many names
+    for (std::string const& dossier : dossiers) {
+        for (std::string const& nom : DonneNoms(langue, dossier)) {
+            auto const fichiers = DonneFichiers(dossier + '/' + nom);
+            std::error_code erreur;
+            if (fichiers && vues.insert(fs::canonical(fichiers->mots, erreur).string()).second) {
+                variantes.push_back(*fichiers);
+            }
+        }
+    }
+    return variantes;
 }
 
 } // namespace hote

@@ -13,6 +13,10 @@ namespace hote {
 struct FichiersDictionnaire {
     std::string affixes; ///< .aff
     std::string mots;    ///< .dic
+
+    friend bool operator==(FichiersDictionnaire const& a, FichiersDictionnaire const& b) {
+        return a.affixes == b.affixes && a.mots == b.mots;
+    }
 };
 
 /// Where dictionaries are: the folders of the environment's DICPATH (separated by ":"), then the
@@ -23,5 +27,16 @@ std::vector<std::string> DonneDossiersDictionnaires();
 /// readable. Nothing when there is none.
 std::optional<FichiersDictionnaire> LocaliseDictionnaire(Langue langue,
                                                          std::vector<std::string> const& dossiers);
+
+/// The dictionary of a BCP 47 tag: of its language and country ("en-GB": en_GB), else of the
+/// language alone, else of the first country in the alphabet; in the first of the folders that has
+/// one. Nothing when there is none.
+std::optional<FichiersDictionnaire> LocaliseDictionnaire(std::string const& etiquette,
+                                                         std::vector<std::string> const& dossiers);
+
+/// All dictionaries of a language ("en"), a country each; of those with the same files under two
+/// names, one.
+std::vector<FichiersDictionnaire> LocaliseVariantes(std::string const& langue,
+                                                    std::vector<std::string> const& dossiers);
 
 } // namespace hote

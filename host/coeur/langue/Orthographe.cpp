@@ -3,11 +3,8 @@
 
 #include "Contrat.h"
 #include "Decoupeur.h"
+#include "JugeMot.h"
 #include "LangueDuStyle.h"
-
-#include <QSet>
-
-#include <algorithm>
 
 namespace hote {
 
@@ -40,48 +37,6 @@ Nature DonneNature(Mot const& mot, Orthographe::Plages const& plages, std::size_
     return nature;
 }
 
-/// Words that lose their last vowel before another one.
-bool EstElision(QString const& forme) {
-    static QSet<QString> const elisions = {
-        QStringLiteral("l"),      QStringLiteral("d"),      QStringLiteral("j"),
-        QStringLiteral("m"),      QStringLiteral("t"),      QStringLiteral("s"),
-        QStringLiteral("c"),      QStringLiteral("n"),      QStringLiteral("qu"),
-        QStringLiteral("jusqu"),  QStringLiteral("lorsqu"), QStringLiteral("puisqu"),
-        QStringLiteral("quoiqu"), QStringLiteral("presqu"), QStringLiteral("quelqu"),
-    };
-    return elisions.contains(forme.toLower());
-}
-
-bool Connait(Lexique& lexique, QString const& texte, int debut, int fin) {
-    return lexique.Connait(DonneForme(texte.mid(debut, fin - debut)));
-}
-
-bool CommenceParUneVoyelle(QString const& forme) {
-    if (forme.isEmpty()) {
-        return false;
-    }
-    QChar const initiale = forme.normalized(QString::NormalizationForm_D).at(0).toLower();
-    return QStringLiteral("aeiouyhœæ").contains(initiale);
-}
-
-int SauteElision(QString const& texte, int debut, int fin) {
-    auto const apostrophe =
-        std::find_if(texte.cbegin() + debut, texte.cbegin() + fin, EstApostrophe);
-    int const place = static_cast<int>(apostrophe - texte.cbegin());
-    if (place == fin || !EstElision(DonneForme(texte.mid(debut, place - debut)))) {
-        return debut;
-    }
-    // "l'maison" is wrong as a whole, and its second half alone would not show it.
-    return CommenceParUneVoyelle(DonneForme(texte.mid(place + 1, fin - place - 1))) ? place + 1
-                                                                                    : debut;
-}
-
-int OtePossessif(QString const& texte, int debut, int fin) {
-    bool const possessif = fin - debut > 2 && texte.at(fin - 1).toLower() == QLatin1Char('s') &&
-                           EstApostrophe(texte.at(fin - 2));
-    return possessif ? fin - 2 : fin;
-}
-
 } // namespace
 
 Lexique* Orthographe::TrouveLexique(std::optional<Langue> langue) const {
@@ -100,10 +55,12 @@ std::vector<Faute> Orthographe::Cherche(QString const& texte, Plages const& plag
         if (lexique == nullptr) {
             continue;
         }
-        std::size_t const premiere = fautes.size();
-        Juge(*lexique, texte, mot.debut, mot.fin, fautes);
-        for (std::size_t i = premiere; i < fautes.size() && lexique != &principal_; ++i) {
-            fautes[i].langue = nature.langue;
+        std::vector<Mot> inconnus;
+        JugeMot(*lexique, texte, mot, inconnus);
+        for (Mot const& inconnu : inconnus) {
+            fautes.push_back({inconnu.debut, inconnu.fin,
+                              texte.mid(inconnu.debut, inconnu.fin - inconnu.debut),
+                              lexique != &principal_ ? nature.langue : std::nullopt});
         }
     }
     return fautes;
@@ -123,37 +80,6 @@ QStringList Orthographe::Suggere(Faute const& faute, bool apostropheCourbe) cons
 
 bool Orthographe::AUneApostropheCourbe(QString const& texte) {
     return texte.contains(QChar(kApostropheCourbe));
-}
-
-void Orthographe::Juge(Lexique& lexique, QString const& texte, int debut, int fin,
-                       std::vector<Faute>& fautes) {
-    if (Connait(lexique, texte, debut, fin)) {
-        return;
-    }
-    bool const francais = lexique.DonneLangue() == Langue::Francais;
-    int const reste = francais ? SauteElision(texte, debut, fin) : debut;
-    int const racine = francais ? fin : OtePossessif(texte, debut, fin);
-    if (reste != debut || racine != fin) {
-        if (racine - reste > 1) {
-            Juge(lexique, texte, reste, racine, fautes);
-        }
-        return;
-    }
-    // Not known as a whole: each part between hyphens for itself.
-    bool const compose = std::any_of(texte.cbegin() + debut, texte.cbegin() + fin, EstTraitDUnion);
-    if (compose) {
-        for (int partie = debut; partie < fin;) {
-            auto const trait =
-                std::find_if(texte.cbegin() + partie, texte.cbegin() + fin, EstTraitDUnion);
-            int const finPartie = static_cast<int>(trait - texte.cbegin());
-            if (finPartie - partie > 1) {
-                Juge(lexique, texte, partie, finPartie, fautes);
-            }
-            partie = finPartie + 1;
-        }
-        return;
-    }
-    fautes.push_back({debut, fin, texte.mid(debut, fin - debut)});
 }
 
 } // namespace hote

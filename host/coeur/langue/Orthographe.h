@@ -49,8 +49,6 @@ class Orthographe {
 
   private:
     Lexique* TrouveLexique(std::optional<Langue> langue) const;
-    static void Juge(Lexique& lexique, QString const& texte, int debut, int fin,
-                     std::vector<Faute>& fautes);
 
     Lexique& principal_;
     AutreLexique autre_;
