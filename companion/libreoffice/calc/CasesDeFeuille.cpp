@@ -131,7 +131,8 @@ class Recolte {
                    std::tie(b.ligne, b.colonne, b.estCommentaire);
         });
         std::uint32_t const tous = CompteTextes(feuille_);
-        return {std::move(cases_), tous - std::min(tous, lues + generees_), generees_};
+        std::uint32_t const dites = lues + generees_ + vides_;
+        return {std::move(cases_), tous - std::min(tous, dites), generees_};
     }
 
   private:
@@ -220,7 +221,9 @@ class Recolte {
         if (!format.seLit || !(valeur >>= texte)) {
             return;
         }
-        if (EstDansUnPivot(ligne, colonne)) {
+        if (texte.isEmpty()) { // a text all the same; filled and undone, it would be none
+            ++vides_;
+        } else if (EstDansUnPivot(ligne, colonne)) {
             ++generees_;
         } else {
             bool const uniforme = formatees_.count({ligne, colonne}) == 0 &&
@@ -311,6 +314,7 @@ class Recolte {
     std::set<std::pair<sal_Int32, sal_Int32>> formatees_; // of several formats or lines
     std::vector<CaseDeFeuille> cases_;
     std::uint32_t generees_ = 0;
+    std::uint32_t vides_ = 0;
 };
 
 } // namespace

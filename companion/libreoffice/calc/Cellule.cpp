@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Cellule.h"
 
+#include "FormatDeNombre.h"
 #include "commun/ChainesUno.h"
 #include "commun/Proprietes.h"
 #include "dessin/EditionEnCours.h"
@@ -11,8 +12,6 @@
 
 #include <com/sun/star/beans/XMultiPropertySet.hpp>
 #include <com/sun/star/beans/XPropertySet.hpp>
-#include <com/sun/star/beans/XPropertyState.hpp>
-#include <com/sun/star/document/XUndoManagerSupplier.hpp>
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/sheet/CellFlags.hpp>
 #include <com/sun/star/sheet/XCellAddressable.hpp>
@@ -21,15 +20,7 @@
 #include <com/sun/star/sheet/XSheetCellRange.hpp>
 #include <com/sun/star/table/XCell.hpp>
 #include <com/sun/star/util/CellProtection.hpp>
-#include <com/sun/star/util/NotNumericException.hpp>
-#include <com/sun/star/util/NumberFormat.hpp>
-#include <com/sun/star/util/XNumberFormatTypes.hpp>
-#include <com/sun/star/util/XNumberFormatsSupplier.hpp>
-#include <com/sun/star/util/XNumberFormatter.hpp>
 #include <com/sun/star/util/XProtectable.hpp>
-
-#include <algorithm>
-#include <memory>
 
 using namespace com::sun::star;
 using rtl::OUString;
@@ -37,27 +28,6 @@ using rtl::OUString;
 namespace extension {
 
 namespace {
-
-/// No undo step holds what is done while it lives.
-class SansAnnulation {
-  public:
-    explicit SansAnnulation(uno::Reference<frame::XModel> const& modele)
-        : etapes_(uno::Reference<document::XUndoManagerSupplier>(modele, uno::UNO_QUERY_THROW)
-                      ->getUndoManager()) {
-        etapes_->lock();
-    }
-    ~SansAnnulation() {
-        try {
-            etapes_->unlock();
-        } catch (uno::Exception const&) { // NOLINT(bugprone-empty-catch): the document is going
-        }
-    }
-    SansAnnulation(SansAnnulation const&) = delete;
-    SansAnnulation& operator=(SansAnnulation const&) = delete;
-
-  private:
-    uno::Reference<document::XUndoManager> etapes_;
-};
 
 table::CellContentType Genre(uno::Reference<uno::XInterface> const& cellule) {
     return uno::Reference<table::XCell>(cellule, uno::UNO_QUERY_THROW)->getType();
@@ -163,38 +133,41 @@ std::optional<Gestes> Cellule::Remplace(std::size_t rang, std::size_t debut,
     for (compagnon::EtapeEdition const& etape : *etapes) {
         lettres.replace(departs[etape.portion] + etape.debut, etape.fin - etape.debut, etape.ajout);
     }
-    uno::Reference<beans::XPropertySet> const proprietes(DonneObjet(), uno::UNO_QUERY_THROW);
-    uno::Any const format = proprietes->getPropertyValue("NumberFormat");
-    uno::Reference<beans::XPropertyState> const etats(DonneObjet(), uno::UNO_QUERY_THROW);
-    // The undo of a cell's attributes takes it out of its conditional format, so there is to be
-    // none; but undoing the edit of a cell with formats inside brings all its attributes back as
-    // they were then.
-    using Sans = std::unique_ptr<SansAnnulation>;
-    bool const uniforme = EstUniforme();
-    bool const herite =
-        etats->getPropertyState("NumberFormat") == beans::PropertyState_DEFAULT_VALUE;
-    // For what looks like a number the office turns the cell's number format into the one of text,
-    // and its undo step forgets that: it must find nothing to turn.
-    // Nor more than that: undo of a number format takes a conditional one along at times.
-    if (SeLitCommeUnNombre(EnUno(lettres), format)) {
-        Sans const sans = uniforme ? std::make_unique<SansAnnulation>(DonneModele()) : nullptr;
-        proprietes->setPropertyValue("NumberFormat", DonneFormatDeTexte());
+    if (EstUniforme()) {
+        PoseUniforme(EnUno(lettres));
+        return Gestes();
     }
-    if (uniforme) {
-        DonneTexte()->setString(EnUno(lettres)); // as text, whatever it looks like
-    } else {
-        Fais(lus[rang], GestesPour(lus[rang], *etapes).aller);
+    // Undoing the edit of a cell with formats inside brings all its attributes back as they were
+    // then, its number format before it among them.
+    FormatDeNombre const format(DonneModele(), *Adresse());
+    if (format.PrendPourUnNombre(EnUno(lettres))) {
+        format.MetsTexte();
     }
-    // The cell ends as it was but for its text: a format of the style's is no format of its own.
-    Sans const sans = uniforme ? std::make_unique<SansAnnulation>(DonneModele()) : nullptr;
-    if (herite) {
-        if (etats->getPropertyState("NumberFormat") != beans::PropertyState_DEFAULT_VALUE) {
-            etats->setPropertyToDefault("NumberFormat");
-        }
-    } else if (proprietes->getPropertyValue("NumberFormat") != format) {
-        proprietes->setPropertyValue("NumberFormat", format);
-    }
+    Fais(lus[rang], GestesPour(lus[rang], *etapes).aller);
+    format.Retablis();
     return Gestes();
+}
+
+void Cellule::PoseUniforme(OUString const& lettres) {
+    FormatDeNombre const format(DonneModele(), *Adresse());
+    // For what looks like a number the office turns the cell's number format into the one of text:
+    // it must find nothing to turn. And nothing more than that: undo of a number format takes a
+    // conditional one along at times, so no step holds it.
+    if (format.PrendPourUnNombre(lettres)) {
+        format.MetsTexteSansEtape();
+    }
+    // Undone or done again the text is put in anew, and a formula if the format then lets it be.
+    bool const formule =
+        format.PrendPourUneFormule(lettres) || format.PrendPourUneFormule(DonneTexteBrut());
+    if (formule) {
+        format.AjouteEtapeAvant();
+    }
+    DonneTexte()->setString(lettres); // as text, whatever it looks like
+    if (formule) {
+        format.AjouteEtapeApres();
+    }
+    // The cell ends as it was but for its text.
+    format.RetablisSansEtape();
 }
 
 uno::Reference<text::XTextContent> Cellule::ChampAvec(uno::Reference<text::XTextField> const& champ,
@@ -209,31 +182,6 @@ uno::Reference<text::XTextContent> Cellule::ChampAvec(uno::Reference<text::XText
     }
     neuf->setPropertyValue("Representation", uno::Any(texte));
     return uno::Reference<text::XTextContent>(neuf, uno::UNO_QUERY_THROW);
-}
-
-bool Cellule::SeLitCommeUnNombre(OUString const& texte, uno::Any const& format) const {
-    if (texte.startsWith("=")) {
-        return true;
-    }
-    uno::Reference<util::XNumberFormatter> const lecteur(
-        ServiceDuBureau("com.sun.star.util.NumberFormatter"), uno::UNO_QUERY_THROW);
-    lecteur->attachNumberFormatsSupplier(
-        uno::Reference<util::XNumberFormatsSupplier>(DonneModele(), uno::UNO_QUERY_THROW));
-    sal_Int32 cle = 0;
-    format >>= cle;
-    try {
-        lecteur->convertStringToNumber(cle, texte);
-        return true;
-    } catch (util::NotNumericException const&) {
-        return false;
-    }
-}
-
-uno::Any Cellule::DonneFormatDeTexte() const {
-    uno::Reference<util::XNumberFormatsSupplier> const source(DonneModele(), uno::UNO_QUERY_THROW);
-    uno::Reference<util::XNumberFormatTypes> const formats(source->getNumberFormats(),
-                                                           uno::UNO_QUERY_THROW);
-    return uno::Any(formats->getStandardFormat(util::NumberFormat::TEXT, lang::Locale()));
 }
 
 void Cellule::Selectionne() {

@@ -40,9 +40,8 @@ class Cellule : public TexteDessine {
   private:
     bool EstUniforme() const;
     rtl::OUString DonneTexteBrut() const;
-    /// Would the office take it for a number, or a formula, in a cell of that number format?
-    bool SeLitCommeUnNombre(rtl::OUString const& texte, css::uno::Any const& format) const;
-    css::uno::Any DonneFormatDeTexte() const;
+    /// Puts that in as all of the text of a cell without formats inside.
+    void PoseUniforme(rtl::OUString const& lettres);
 };
 
 } // namespace extension

@@ -119,6 +119,14 @@ class Lecture(Cas):
         self.remplis(A1="12", A2="=1+1", A3="'x")
         self.assertEqual(self.client.textes(), ["12", "=1+1", "'x"])
 
+    def test_a_text_without_a_letter_is_no_zone(self):
+        source = banc.DOSSIER / "vide.fods"
+        source.write_text(ENTIER.replace("1O5", ""), encoding="utf-8")
+        self.ouvre(source.as_uri())
+        self.assertEqual(self.cellule("A1").Type, TEXTE)
+        self.assertEqual(self.client.textes(), [])
+        self.assertEqual(self.client.rapport()["laisses"], [])
+
     def test_each_paragraph_of_a_cell_is_a_zone(self):
         self.remplis(A1="un\ndeux \U0001f600\n\nquatre", B1="x")
         self.assertEqual(self.client.textes(), ["un", "deux \U0001f600", "", "quatre", "x"])
@@ -318,6 +326,26 @@ class Correction(Cas):
                 self.assertEqual(cellule.NumberFormat, format_)
                 self.doc.UndoManager.undo()
                 self.assertEqual((self.client.textes(), cellule.NumberFormat), ([avant], format_))
+
+    def test_text_like_a_formula_stays_text_undone_and_done_again(self):
+        # Typed or imported as text into cells of no text format, as from another program's files.
+        essais = (("=7*(3)+2", "3", "mot"), ("== titre ==", "== titre ==", "fin"), ("x1+1", "x1", "=1"),
+                  ("=1\n=2", "1", "3"))
+        for rang, (avant, cherche, remplace) in enumerate(essais):
+            with self.subTest(avant=avant):
+                cellule = self.cellule(f"A{rang + 1}", avant)
+                cellule.setPropertyToDefault("NumberFormat")
+                self.feuille.Annotations.insertNew(cellule.CellAddress, "note")
+                self.corrige(cherche, remplace)
+                apres = avant.replace(cherche, remplace, 1)
+                for geste, attendu in ((None, apres), ("undo", avant), ("redo", apres), ("undo", avant)):
+                    if geste:
+                        getattr(self.doc.UndoManager, geste)()
+                    self.assertEqual((geste, cellule.Type, cellule.Formula),
+                                     (geste, TEXTE, attendu))
+                    self.assertEqual(cellule.getPropertyState("NumberFormat"), PAR_DEFAUT)
+                    self.assertEqual(cellule.Annotation.String, "note")
+                cellule.setFormula("")
 
     def test_a_number_format_that_is_the_styles_stays_the_styles(self):
         cellule = self.cellule("A1", "l2")
