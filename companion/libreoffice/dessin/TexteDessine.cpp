@@ -55,9 +55,15 @@ bool EnumereTout(uno::Reference<text::XText> const& texte) {
     return enumere == tout->getString();
 }
 
-/// Puts nothing in through it, after which it knows how long it is. That changes nothing.
+/// Has it find out how long it is: most do when they are asked for their letters. The others have
+/// nothing put in through them, which changes nothing there; but done in a table's cell, it takes
+/// empty paragraphs from the cells of other slides.
 void EnumereDesormaisTout(uno::Reference<text::XText> const& texte,
                           uno::Reference<frame::XModel> const& modele) {
+    texte->getString();
+    if (EnumereTout(texte)) {
+        return;
+    }
     uno::Reference<util::XModifiable> const document(modele, uno::UNO_QUERY);
     bool const modifie = !document.is() || document->isModified();
     uno::Reference<text::XTextCursor> const debut = texte->createTextCursor();

@@ -7,6 +7,7 @@ from another one the office loses count of what it has to redraw, and crashes at
 
 import re
 import unittest
+import zipfile
 
 import uno
 from com.sun.star.awt import Size
@@ -468,6 +469,42 @@ class Correction(Cas):
             if "chat" in zone.texte:
                 self.client.corrige(zone, "chat", "chiot")
         self.assertEqual(contenu("apres.fodp"), avant.replace("chat", "chiot"))
+
+
+class TableauxImportes(Cas):
+    """Two tables as another program writes them: of cells whose paragraphs are empty the office makes
+    others when a table changes."""
+
+    VIDE = "retirer"
+
+    def setUp(self):
+        super().setUp()
+        for page in (self.page, self.doc.DrawPages.insertNewByIndex(1)):
+            self.page = page
+            self.tableau([["un mot", f"{self.VIDE}\n{self.VIDE}"], ["x", "y"]])
+        ecrit, allege = banc.DOSSIER / "tableaux.pptx", banc.DOSSIER / "tableaux vides.pptx"
+        self.doc.storeToURL(ecrit.as_uri(), (banc.pv("FilterName", "Impress MS PowerPoint 2007 XML"),))
+        passage = re.compile(rb"<a:r>(?:(?!<a:r>).)*?%s</a:t></a:r>" % self.VIDE.encode())
+        with zipfile.ZipFile(ecrit) as source, zipfile.ZipFile(allege, "w") as but:
+            for nom in source.namelist():
+                but.writestr(nom, passage.sub(b"", source.read(nom)))
+        self.doc, self.client = banc.document_et_client(self, BUS, BUREAU, allege.as_uri())
+
+    def lignes(self):
+        """The paragraphs of the second cell of each table."""
+        comptes = []
+        for page in (self.doc.DrawPages.getByIndex(i) for i in range(self.doc.DrawPages.Count)):
+            formes = (page.getByIndex(i) for i in range(page.Count))
+            comptes += [forme.Model.getCellByPosition(1, 0).String.count("\n") + 1 for forme in formes
+                        if forme.ShapeType.endswith(".TableShape")]
+        return comptes
+
+    def test_empty_paragraphs_of_other_cells_stay(self):
+        zones = self.client.zones()
+        self.assertEqual(self.lignes(), [2, 2])
+        self.client.corrige(zones[0], "un ", "")
+        self.assertEqual(self.client.textes(), ["mot", *(z.texte for z in zones[1:])])
+        self.assertEqual(self.lignes(), [2, 2])
 
 
 class Selection(Cas):
