@@ -6,25 +6,33 @@ from com.sun.star.awt import Size
 
 ANCRE = "com.sun.star.text.TextContentAnchorType"
 
+# What stands for a part of a shape's text leaves a list of the office's as it ends, which it does on
+# another thread than the one that may be walking that list: the office falls. So none ends.
+_TENUS = []
+
 
 def plage(texte, debut, fin):
     """A cursor over the characters debut to fin of the text."""
     curseur = texte.createTextCursor()
+    _TENUS.append(curseur)
     curseur.gotoStart(False)
     curseur.goRight(debut, False)
     curseur.goRight(fin - debut, True)
     return curseur
 
 
+def elements(porteur):
+    """What an enumeration gives, one after the other: a text's paragraphs, a paragraph's portions."""
+    suite = porteur.createEnumeration()
+    while suite.hasMoreElements():
+        _TENUS.append(suite.nextElement())
+        yield _TENUS[-1]
+
+
 def parties_grasses(texte):
     """The bold parts of the text's first paragraph."""
-    portions = texte.createEnumeration().nextElement().createEnumeration()
-    parties = []
-    while portions.hasMoreElements():
-        portion = portions.nextElement()
-        if portion.CharWeight == 150.0:
-            parties.append(portion.String)
-    return parties
+    return [portion.String for portion in elements(next(elements(texte)))
+            if portion.CharWeight == 150.0]
 
 
 class Ecrivain:

@@ -13,7 +13,7 @@ import uno
 from com.sun.star.awt import Size
 
 import banc
-from ecrivain import parties_grasses, plage
+from ecrivain import elements, parties_grasses, plage
 
 ITALIQUE = uno.Enum("com.sun.star.awt.FontSlant", "ITALIC")
 
@@ -30,12 +30,29 @@ class Cas(unittest.TestCase):
         self.doc, self.client = banc.document_et_client(self, BUS, BUREAU,
                                                         f"private:factory/{self.genre}")
         self.page = self.doc.DrawPages.getByIndex(0)
+        self.tenues = []
+        self.tiens(self.page)
+
+    def tiens(self, page):
+        """Holds what stands on the page for as long as the test runs.
+
+        An object of the office's for a shape that nobody holds any more ends on a thread of the
+        office's; where it has to wait there for the main thread, the shape has got another object
+        meanwhile and loses that one in turn: two readings would then meet two shapes.
+        """
+        self.tenues.append(page)
+        self.tenues.extend(page.getByIndex(rang) for rang in range(page.Count))
+        if self.genre == "simpress":
+            notes = page.NotesPage
+            self.tenues.append(notes)
+            self.tenues.extend(notes.getByIndex(rang) for rang in range(notes.Count))
 
     def diapo(self, titre=None, corps=None):
         """A new slide with a title and an outline."""
         pages = self.doc.DrawPages
         page = pages.insertNewByIndex(pages.Count - 1)
         page.Layout = 1
+        self.tiens(page)
         for rang, texte in enumerate((titre, corps)):
             if texte is not None:
                 page.getByIndex(rang).setString(texte)
@@ -47,13 +64,16 @@ class Cas(unittest.TestCase):
         (page or self.page).add(forme)
         if texte:
             forme.setString(texte)
+        self.tenues.append(forme)
         return forme
 
     def groupe(self, *formes):
         collection = BUREAU.cree("com.sun.star.drawing.ShapeCollection")
         for forme in formes:
             collection.add(forme)
-        return self.page.group(collection)
+        groupe = self.page.group(collection)
+        self.tenues.append(groupe)
+        return groupe
 
     def tableau(self, lignes):
         return BUREAU.sur_le_fil_principal(lambda: self._tableau(lignes))
@@ -65,13 +85,17 @@ class Cas(unittest.TestCase):
         modele.Columns.insertByIndex(0, len(lignes[0]) - modele.ColumnCount)
         for i, ligne in enumerate(lignes):
             for j, texte in enumerate(ligne):
-                modele.getCellByPosition(j, i).setString(texte)
+                cellule = modele.getCellByPosition(j, i)
+                cellule.setString(texte)
+                self.tenues.append(cellule)
+        self.tenues.append(modele)
         return forme
 
     def commente(self, texte):
         def pose():
             commentaire = self.page.createAndInsertAnnotation()
             commentaire.TextRange.setString(texte)
+            self.tenues += [commentaire, commentaire.TextRange]
             return commentaire
         return BUREAU.sur_le_fil_principal(pose)
 
@@ -213,10 +237,8 @@ class Correction(Cas):
 
     def portions(self, forme):
         """The first paragraph's letters with their format, neighbours of one format together."""
-        suite = forme.createEnumeration().nextElement().createEnumeration()
         vues = []
-        while suite.hasMoreElements():
-            p = suite.nextElement()
+        for p in elements(next(elements(forme))):
             format_ = (p.CharWeight, p.CharPosture.value, p.CharColor, p.CharHeight)
             if vues and vues[-1][1] == format_:
                 vues[-1] = (vues[-1][0] + p.String, format_)
@@ -353,12 +375,9 @@ class Correction(Cas):
         forme.insertTextContent(plage(forme, place, place), champ, False)
 
     def liens(self, forme):
-        suite = forme.createEnumeration()
         vus = []
-        while suite.hasMoreElements():
-            portions = suite.nextElement().createEnumeration()
-            while portions.hasMoreElements():
-                p = portions.nextElement()
+        for paragraphe in elements(forme):
+            for p in elements(paragraphe):
                 if p.TextPortionType == "TextField" and hasattr(p.TextField, "URL"):
                     vus.append((p.TextField.Representation, p.TextField.URL,
                                 p.TextField.TargetFrame, p.CharWeight))
