@@ -4,10 +4,12 @@
 #include "CodageTexteJson.h"
 #include "DecoupageZones.h"
 #include "LectureJson.h"
+#include "ZoneDirecte.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <string_view>
+#include <utility>
 
 namespace {
 
@@ -64,7 +66,11 @@ void LisListeDeZones(std::string const& octets, std::function<void(ZoneRecue&&)>
         return;
     }
     for (std::string_view morceau; decoupage.PrendsSuivante(morceau);) {
-        analyseur.Analyse(morceau);
-        recois(LisZone(analyseur.DonneRacine()));
+        ZoneRecue zone;
+        if (!LisZoneDirecte(morceau, zone)) {
+            analyseur.Analyse(morceau);
+            zone = LisZone(analyseur.DonneRacine());
+        }
+        recois(std::move(zone));
     }
 }

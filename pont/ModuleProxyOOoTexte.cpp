@@ -36,15 +36,23 @@ bool ModuleProxyOOo::SynchronisePositions(CollectionZonesDeTexte& zones) {
     if (!Relie()) {
         return false;
     }
-    std::string octets;
-    {
-        // The reply, its message and its 16-bit text are let go of before the document is parsed:
-        // together they take three times its size.
+    // The pending reply keeps its message, as long as the text: it is let go of before the text is
+    // put into bytes, and the 16-bit text before they are parsed.
+    auto const lis = [this](UniChaine& texte) {
         auto const appel = proxy_->SynchronisePositions(DonneIdentificateur().VersQString());
         if (!reponseProxy::Attends(*proxy_, appel)) {
             return false;
         }
-        octets = UniChaine(reponseProxy::DonneArgument<QString>(appel)).VersUtf8();
+        texte = UniChaine(reponseProxy::DonneArgument<QString>(appel));
+        return true;
+    };
+    std::string octets;
+    {
+        UniChaine texte;
+        if (!lis(texte)) {
+            return false;
+        }
+        octets = texte.VersUtf8();
     }
     AjouteZones(octets, proxy_.get(), this, zones);
     return true;

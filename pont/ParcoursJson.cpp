@@ -7,7 +7,8 @@ namespace {
 
 // Zone, list of runs, run: deeper nesting is for the parser to judge.
 constexpr int kProfondeurMax = 8;
-constexpr int kChiffresMax = 18; // any more may not fit in 64 bits
+constexpr int kChiffresMax = 18;     // any more may not fit in 64 bits
+constexpr int kChiffresDUnPetit = 9; // nor in 32
 
 bool EstBlanc(char c) {
     return c == ' ' || c == '\t' || c == '\n' || c == '\r';
@@ -36,6 +37,10 @@ bool ParcoursJson::Prends(char attendu) {
 }
 
 bool ParcoursJson::PrendsCle(std::string_view& cle) {
+    return PrendsTexteSansEchappement(cle) && Prends(':');
+}
+
+bool ParcoursJson::PrendsTexteSansEchappement(std::string_view& texte) {
     if (!Prends('"')) {
         return false;
     }
@@ -44,9 +49,28 @@ bool ParcoursJson::PrendsCle(std::string_view& cle) {
     if (guillemet == nullptr) {
         return false;
     }
-    cle = std::string_view(debut, static_cast<std::size_t>(guillemet - debut));
+    texte = std::string_view(debut, static_cast<std::size_t>(guillemet - debut));
     ici_ = guillemet + 1;
-    return cle.find('\\') == std::string_view::npos && Prends(':');
+    return texte.find('\\') == std::string_view::npos;
+}
+
+bool ParcoursJson::PrendsPetitEntier(int& entier) {
+    PasseBlancs();
+    auto const* chiffre = ici_;
+    if (!PasseEntier()) {
+        return false;
+    }
+    bool const negatif = *chiffre == '-';
+    chiffre += negatif ? 1 : 0;
+    if (ici_ - chiffre > kChiffresDUnPetit) {
+        return false;
+    }
+    int valeur = 0;
+    for (; chiffre != ici_; ++chiffre) {
+        valeur = valeur * 10 + (*chiffre - '0');
+    }
+    entier = negatif ? -valeur : valeur;
+    return true;
 }
 
 ParcoursJson::Verdict ParcoursJson::PrendsValeur(std::string_view& valeur, std::size_t& valeurs) {

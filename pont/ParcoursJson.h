@@ -27,6 +27,10 @@ class ParcoursJson {
     /// The member's name that stands next, without its quotes, and the colon behind it. False for a
     /// name with an escape.
     bool PrendsCle(std::string_view& cle);
+    /// The text that stands next, without its quotes. False for one with an escape.
+    bool PrendsTexteSansEchappement(std::string_view& texte);
+    /// The integer that stands next; false for one of more than nine digits, which may not fit.
+    bool PrendsPetitEntier(int& entier);
     /// Passes over the value that stands next and tells where it stood. `valeurs` grows by the
     /// number of values in it, itself among them; by no less than half of it for a doubtful one.
     Verdict PrendsValeur(std::string_view& valeur, std::size_t& valeurs);

@@ -50,7 +50,7 @@ LigneDeMesure MesureLecture(Ampleur ampleur) {
             medianes.mesure,
             medianes.reference,
             "us/zone",
-            1.8,
+            0.6,
             std::to_string(nombre) + " zones of " +
                 std::to_string(document.size() / static_cast<std::size_t>(nombre)) + " bytes"};
 }

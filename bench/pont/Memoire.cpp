@@ -55,7 +55,7 @@ LigneDeMesure MesureMemoire(Ampleur ampleur) {
             pic,
             taille,
             "MiB",
-            8,
+            3.6,
             std::to_string(zones) + " zones"};
 }
 
