@@ -28,6 +28,21 @@ struct LigneDeMesure {
     bool EstTenue() const noexcept { return Rapport() <= limite; }
 };
 
+/// What one size costs, here and by the reference.
+struct PointDeCourbe {
+    int taille; ///< zones
+    double mesure;
+    double reference;
+};
+
+/// A cost against the size of a document. `nom`, `mesure` and `reference` are for its reader.
+struct Courbe {
+    std::string nom;
+    std::string mesure;
+    std::string reference;
+    std::vector<PointDeCourbe> points;
+};
+
 double Mediane(std::vector<double> valeurs);
 
 struct Medianes {

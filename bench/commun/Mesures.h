@@ -10,6 +10,15 @@ namespace banc {
 /// A waited call through the agent over QtDBus' bare one on the same proxy.
 LigneDeMesure MesureAttente(Ampleur ampleur);
 
+/// The processor time of a wait over the wait.
+LigneDeMesure MesureVeille(Ampleur ampleur);
+
+/// A waited call through the agent over one of sd-bus.
+LigneDeMesure MesureAttenteSdBus(Ampleur ampleur);
+
+/// A whole document read over the bus, over sd-bus and a SIMD parser on the same bytes.
+LigneDeMesure MesureSynchronisation(Ampleur ampleur);
+
 /// A call that nobody waits for and nobody answers, among many over among few.
 LigneDeMesure MesureOublies(Ampleur ampleur);
 
@@ -18,6 +27,15 @@ LigneDeMesure MesureLecture(Ampleur ampleur);
 
 /// Reading a zone of a long document over reading one of a short document.
 LigneDeMesure MesureCroissance(Ampleur ampleur);
+
+/// A short zone among a million over one among a thousand.
+LigneDeMesure MesureMillion(Ampleur ampleur);
+
+/// The same reading against the number of zones.
+Courbe CourbeDeLecture(Ampleur ampleur);
+
+/// A whole document read over the bus against its number of zones.
+Courbe CourbeDeSynchronisation(Ampleur ampleur);
 
 /// Peak memory of reading a reply over the reply's size.
 LigneDeMesure MesureMemoire(Ampleur ampleur);

@@ -34,9 +34,15 @@ struct Mesure {
 std::vector<Mesure> Mesures(QString const& greffon) {
     auto const dossier = QCoreApplication::applicationDirPath();
     return {{"attente", banc::MesureAttente},
+            {"veille", banc::MesureVeille},
+#ifdef VOCALYNE_REFERENCES
+            {"attente-sdbus", banc::MesureAttenteSdBus},
+            {"synchronisation", banc::MesureSynchronisation},
+#endif
             {"oublies", banc::MesureOublies},
             {"lecture", banc::MesureLecture},
             {"croissance", banc::MesureCroissance},
+            {"million", banc::MesureMillion},
             {"memoire", banc::MesureMemoire},
             {"attributs", banc::MesureAttributs},
             {"chargement", [greffon, dossier](banc::Ampleur ampleur) {
@@ -58,10 +64,33 @@ int PrendsToutes(std::vector<Mesure> const& mesures, banc::Ampleur ampleur) {
             ++manquees;
         }
     }
+#ifndef VOCALYNE_REFERENCES
+    std::puts("\nwithout attente-sdbus and synchronisation: built without libsystemd and simdjson");
+#endif
     if (manquees != 0) {
         std::printf("\n%d of %zu limits missed\n", manquees, mesures.size());
     }
     return manquees;
+}
+
+/// One line a curve: a JSON object. Names and numbers need no escape.
+void ImprimeCourbe(banc::Courbe const& courbe) {
+    std::printf(R"({"nom":"%s","mesure":"%s","reference":"%s","points":[)", courbe.nom.c_str(),
+                courbe.mesure.c_str(), courbe.reference.c_str());
+    char const* separation = "";
+    for (auto const& point : courbe.points) {
+        std::printf("%s[%d,%.2f,%.2f]", separation, point.taille, point.mesure, point.reference);
+        separation = ",";
+    }
+    std::puts("]}");
+    std::fflush(stdout);
+}
+
+void PrendsCourbes(banc::Ampleur ampleur) {
+    ImprimeCourbe(banc::CourbeDeLecture(ampleur));
+#ifdef VOCALYNE_REFERENCES
+    ImprimeCourbe(banc::CourbeDeSynchronisation(ampleur));
+#endif
 }
 
 int RefuseOptions(QCommandLineParser const& options, QString const& raison) {
@@ -81,16 +110,20 @@ int Execute(QCoreApplication const& application) {
         QStringLiteral("greffon"), QStringLiteral("The plug-in to load."), QStringLiteral("FILE"));
     QCommandLineOption const seulement(
         QStringLiteral("seulement"),
-        QStringLiteral("Take this one: attente, oublies, lecture, croissance, memoire, "
-                       "attributs, chargement. May be given again."),
+        QStringLiteral(
+            "Take this one: attente, veille, attente-sdbus, synchronisation, oublies, "
+            "lecture, croissance, million, memoire, attributs, chargement. May be given again."),
         QStringLiteral("MEASURE"));
+    QCommandLineOption const courbes(
+        QStringLiteral("courbes"),
+        QStringLiteral("In place of the table: what each size costs, a JSON object a line."));
     QCommandLineOption repondeur(QStringLiteral("repondeur"), {}, QStringLiteral("INSTANCE"));
     QCommandLineOption lecteur(QStringLiteral("lecteur"), {}, QStringLiteral("INSTANCE"));
     repondeur.setFlags(QCommandLineOption::HiddenFromHelp);
     QCommandLineOption bureau(QStringLiteral("bureau"), {}, QStringLiteral("ID"));
     bureau.setFlags(QCommandLineOption::HiddenFromHelp);
     lecteur.setFlags(QCommandLineOption::HiddenFromHelp);
-    options.addOptions({essai, greffon, seulement, repondeur, lecteur, bureau});
+    options.addOptions({essai, greffon, seulement, courbes, repondeur, lecteur, bureau});
     options.addPositionalArgument(QStringLiteral("zones"), {}, QString());
     if (!options.parse(application.arguments())) {
         return RefuseOptions(options, options.errorText());
@@ -107,6 +140,10 @@ int Execute(QCoreApplication const& application) {
     }
     if (options.isSet(bureau)) {
         return banc::ConduisBureau(options.value(bureau));
+    }
+    if (options.isSet(courbes)) {
+        PrendsCourbes(banc::Ampleur{options.isSet(essai)});
+        return 0;
     }
     auto mesures = Mesures(options.value(greffon));
     if (options.isSet(seulement)) {

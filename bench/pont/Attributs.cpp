@@ -29,7 +29,7 @@ LigneDeMesure MesureAttributs(Ampleur ampleur) {
             medianes.mesure,
             medianes.reference,
             "us",
-            14,
+            11,
             std::to_string(grand) + " / " + std::to_string(petit) + " runs"};
 }
 

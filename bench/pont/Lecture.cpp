@@ -39,20 +39,39 @@ QString Reponse(std::string const& document) {
 
 } // namespace
 
-LigneDeMesure MesureLecture(Ampleur ampleur) {
-    auto const nombre = ampleur.Taille(1000);
+namespace {
+
+Medianes LectureDe(int nombre, int tours) {
     auto const document = FaisDocument(nombre);
     auto const reponse = Reponse(document);
-    auto const medianes = Alterne(
-        ampleur.Tours(301), [&] { return Occupe([&] { LisEtLibere(reponse, nombre); }) / nombre; },
-        [&] { return Occupe([&] { AnalyseSeulement(document); }) / nombre; });
+    return Alterne(
+        tours, [&] { return Occupe([&] { LisEtLibere(reponse, nombre); }); },
+        [&] { return Occupe([&] { AnalyseSeulement(document); }); });
+}
+
+} // namespace
+
+LigneDeMesure MesureLecture(Ampleur ampleur) {
+    auto const nombre = ampleur.Taille(1000);
+    auto const medianes = LectureDe(nombre, ampleur.Tours(301));
     return {"reply to zones, freed / JsonCpp parse and destroy",
-            medianes.mesure,
-            medianes.reference,
+            medianes.mesure / nombre,
+            medianes.reference / nombre,
             "us/zone",
             0.6,
             std::to_string(nombre) + " zones of " +
-                std::to_string(document.size() / static_cast<std::size_t>(nombre)) + " bytes"};
+                std::to_string(FaisDocument(nombre).size() / static_cast<std::size_t>(nombre)) +
+                " bytes"};
+}
+
+Courbe CourbeDeLecture(Ampleur ampleur) {
+    Courbe courbe{"Reading a reply", "reply to zones, freed", "JsonCpp, parse and destroy", {}};
+    for (int const taille : {100, 300, 1'000, 3'000, 10'000, 30'000}) {
+        auto const nombre = ampleur.Taille(taille);
+        auto const medianes = LectureDe(nombre, ampleur.Tours(1 + 300'000 / taille / 10));
+        courbe.points.push_back({nombre, medianes.mesure, medianes.reference});
+    }
+    return courbe;
 }
 
 LigneDeMesure MesureCroissance(Ampleur ampleur) {
@@ -76,6 +95,44 @@ LigneDeMesure MesureCroissance(Ampleur ampleur) {
             medianes.reference,
             "us/zone",
             1.4,
+            std::to_string(grand) + " / " + std::to_string(petit) + " zones"};
+}
+
+namespace {
+
+/// Zones of a word each, as in a large spreadsheet.
+QString ReponseDeMots(int nombre) {
+    std::string document = R"({"Zones":[)";
+    for (int zone = 0; zone < nombre; ++zone) {
+        document += zone == 0 ? "" : ",";
+        document += R"({"Nom":"bg==","Texte":"bW90"})";
+    }
+    return Reponse(document + "]}");
+}
+
+} // namespace
+
+LigneDeMesure MesureMillion(Ampleur ampleur) {
+    constexpr int kRapport = 1000;
+    auto const petit = ampleur.Taille(1000);
+    auto const grand = petit * kRapport;
+    auto const petite = ReponseDeMots(petit);
+    auto const grande = ReponseDeMots(grand);
+    auto const medianes = Alterne(
+        ampleur.Tours(7), [&] { return Occupe([&] { LisEtLibere(grande, grand); }) / grand; },
+        [&] {
+            return Occupe([&] {
+                       for (int fois = 0; fois < kRapport; ++fois) {
+                           LisEtLibere(petite, petit);
+                       }
+                   }) /
+                   grand;
+        });
+    return {"a zone of a word among a million / among a thousand",
+            medianes.mesure,
+            medianes.reference,
+            "us/zone",
+            2,
             std::to_string(grand) + " / " + std::to_string(petit) + " zones"};
 }
 

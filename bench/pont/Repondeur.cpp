@@ -7,11 +7,17 @@
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QSocketNotifier>
+#include <QTimer>
 
+#include <chrono>
 #include <cstdio>
 #include <unistd.h>
 
 namespace banc {
+
+namespace {
+constexpr std::chrono::milliseconds kRetard{100};
+} // namespace
 
 QString Repondeur::SynchronisePositions(QString const& leId) {
     if (leId != identifiant_) {
@@ -20,6 +26,14 @@ QString Repondeur::SynchronisePositions(QString const& leId) {
         identifiant_ = leId;
     }
     return document_;
+}
+
+QString Repondeur::DonneTitreDocument(QDBusMessage const& appel) {
+    appel.setDelayedReply(true);
+    QTimer::singleShot(kRetard, this, [appel] {
+        QDBusConnection::sessionBus().send(appel.createReply(QStringLiteral("titre")));
+    });
+    return {};
 }
 
 int Reponds(QString const& instance) {

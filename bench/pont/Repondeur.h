@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
+#include <QDBusMessage>
 #include <QObject>
 #include <QString>
 
@@ -16,6 +17,8 @@ class Repondeur : public QObject {
     void InitialiseTexteur(QString const& /*leId*/) {}
     bool PermetsRetourDeCharriot() { return true; }
     QString SynchronisePositions(QString const& leId);
+    /// Answers after 100 ms, as an office does that has something else to do first.
+    QString DonneTitreDocument(QDBusMessage const& appel);
 
   private:
     QString identifiant_;
