@@ -11,6 +11,8 @@ std::string DonneUsage() {
               "                              [--sortie texte|json] [--greffon FICHIER]\n"
               "        vocalyne-hote dictionnaire [ID] [--langue fr|en] [--sortie texte|json]\n"
               "                                   [--greffon FICHIER]\n"
+              "        vocalyne-hote moteurs [installe|allume|eteins MOTEUR | adresse MOTEUR URL]\n"
+              "                              [--sortie texte|json]\n"
               "        vocalyne-hote pilote [--greffon FICHIER]\n"
               "        vocalyne-hote --help | --version\n");
 }
@@ -28,6 +30,8 @@ std::string DonneAide() {
               "                (ou avec --sortie json) les montre sans rien changer.\n"
               "  dictionnaire  donne les synonymes du mot sélectionné dans un document. Sur un\n"
               "                terminal, met à sa place celui que l’on choisit.\n"
+              "  moteurs       donne les moteurs qui cherchent les fautes et ce qui leur manque ;\n"
+              "                en installe un, l’allume, l’éteint, dit où est son serveur\n"
               "  pilote        conduit un connecteur par des lignes de JSON, une requête la ligne\n"
               "\n"
               "  ID                   le document ; par défaut, celui qui est à portée, ou celui\n"

@@ -11,6 +11,7 @@ namespace hote {
 eCodeSortie ExecuteDocuments(OptionsHote const& options);
 eCodeSortie ExecuteCorrige(OptionsHote const& options);
 eCodeSortie ExecuteDictionnaire(OptionsHote const& options);
+eCodeSortie ExecuteMoteurs(OptionsHote const& options);
 eCodeSortie ExecutePilote(OptionsHote const& options);
 
 } // namespace hote

@@ -10,6 +10,8 @@ namespace hote {
 
 namespace {
 
+constexpr int kMotsDUnOrdre = 3; ///< a verb, an engine, an address
+
 ErreurHote DonneErreurUsage(std::string const& message) {
     return {kSortieUsage, message};
 }
@@ -23,6 +25,9 @@ OptionsHote::Commande LisCommande(QString const& nom) {
     }
     if (nom == QLatin1String("dictionnaire")) {
         return OptionsHote::Commande::Dictionnaire;
+    }
+    if (nom == QLatin1String("moteurs")) {
+        return OptionsHote::Commande::Moteurs;
     }
     if (nom == QLatin1String("pilote")) {
         return OptionsHote::Commande::Pilote;
@@ -42,7 +47,8 @@ class AnalyseurDeLigne {
         if (commande == OptionsHote::Commande::Corrige) {
             parseur_.addOption(automatique_);
         }
-        if (surDocument || commande == OptionsHote::Commande::Documents) {
+        if (surDocument || commande == OptionsHote::Commande::Documents ||
+            commande == OptionsHote::Commande::Moteurs) {
             parseur_.addOption(sortie_);
         }
         if (surDocument || commande == OptionsHote::Commande::Pilote) {
@@ -113,6 +119,10 @@ class AnalyseurDeLigne {
         QStringList positionnels = parseur_.positionalArguments();
         if (PrendsDocument(options.commande) && !positionnels.isEmpty()) {
             options.id = positionnels.takeFirst();
+        }
+        if (options.commande == OptionsHote::Commande::Moteurs) {
+            options.ordre = positionnels.mid(0, kMotsDUnOrdre);
+            positionnels = positionnels.mid(kMotsDUnOrdre);
         }
         if (!positionnels.isEmpty()) {
             throw DonneErreurUsage(Tr("Argument en trop : {1}", positionnels.first()));

@@ -4,6 +4,7 @@
 #include "langue/Lexique.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 #include <string>
@@ -12,14 +13,15 @@ namespace hote {
 
 /// What the person asked for.
 struct OptionsHote {
-    enum class Commande { Aide, Version, Documents, Corrige, Dictionnaire, Pilote };
+    enum class Commande { Aide, Version, Documents, Corrige, Dictionnaire, Moteurs, Pilote };
 
     Commande commande = Commande::Aide;
     QString id;                   ///< of `corrige` and `dictionnaire`; empty when not given
     std::optional<Langue> langue; ///< of the same; found out when not given
     bool automatique = false;     ///< of `corrige`
     bool json = false;            ///< of all but `pilote`
-    std::string greffon;          ///< of all but `documents`; empty when not given
+    QStringList ordre;            ///< of `moteurs`: a verb and what it is about; empty: the list
+    std::string greffon;          ///< of those on documents, and `pilote`; empty when not given
 };
 
 } // namespace hote

@@ -59,6 +59,8 @@ eCodeSortie Execute(QStringList const& arguments) {
         return ExecuteCorrige(options);
     case OptionsHote::Commande::Dictionnaire:
         return ExecuteDictionnaire(options);
+    case OptionsHote::Commande::Moteurs:
+        return ExecuteMoteurs(options);
     default:
         qInstallMessageHandler(nullptr);
         return ExecutePilote(options);
