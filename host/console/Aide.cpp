@@ -13,6 +13,7 @@ std::string DonneUsage() {
               "                                   [--greffon FICHIER]\n"
               "        vocalyne-hote moteurs [installe|allume|eteins MOTEUR | adresse MOTEUR URL]\n"
               "                              [--sortie texte|json]\n"
+              "        vocalyne-hote fenetre [ID] [--greffon FICHIER]\n"
               "        vocalyne-hote pilote [--greffon FICHIER]\n"
               "        vocalyne-hote --help | --version\n");
 }
@@ -32,6 +33,9 @@ std::string DonneAide() {
               "                terminal, met à sa place celui que l’on choisit.\n"
               "  moteurs       donne les moteurs qui cherchent les fautes et ce qui leur manque ;\n"
               "                en installe un, l’allume, l’éteint, dit où est son serveur\n"
+              "  fenetre       ouvre une fenêtre à côté d’un document : ses fautes une à une, et "
+              "ce\n"
+              "                que l’on peut en faire\n"
               "  pilote        conduit un connecteur par des lignes de JSON, une requête la ligne\n"
               "\n"
               "  ID                   le document ; par défaut, celui qui est à portée, ou celui\n"

@@ -32,6 +32,12 @@ OptionsHote::Commande LisCommande(QString const& nom) {
     if (nom == QLatin1String("pilote")) {
         return OptionsHote::Commande::Pilote;
     }
+    if (nom == QLatin1String("fenetre")) {
+        return OptionsHote::Commande::Fenetre;
+    }
+    if (nom == QLatin1String("relais")) {
+        return OptionsHote::Commande::Relais;
+    }
     throw DonneErreurUsage(Tr("Commande inconnue : {1}", nom));
 }
 
@@ -51,7 +57,9 @@ class AnalyseurDeLigne {
             commande == OptionsHote::Commande::Moteurs) {
             parseur_.addOption(sortie_);
         }
-        if (surDocument || commande == OptionsHote::Commande::Pilote) {
+        if (surDocument || commande == OptionsHote::Commande::Pilote ||
+            commande == OptionsHote::Commande::Fenetre ||
+            commande == OptionsHote::Commande::Relais) {
             parseur_.addOption(greffon_);
         }
     }
@@ -117,12 +125,17 @@ class AnalyseurDeLigne {
 
     void LisPositionnels(OptionsHote& options) const {
         QStringList positionnels = parseur_.positionalArguments();
-        if (PrendsDocument(options.commande) && !positionnels.isEmpty()) {
+        bool const relais = options.commande == OptionsHote::Commande::Relais;
+        bool const fenetre = options.commande == OptionsHote::Commande::Fenetre;
+        if ((PrendsDocument(options.commande) || fenetre || relais) && !positionnels.isEmpty()) {
             options.id = positionnels.takeFirst();
         }
         if (options.commande == OptionsHote::Commande::Moteurs) {
             options.ordre = positionnels.mid(0, kMotsDUnOrdre);
             positionnels = positionnels.mid(kMotsDUnOrdre);
+        }
+        if (relais && !positionnels.isEmpty()) {
+            options.chemin = positionnels.takeFirst();
         }
         if (!positionnels.isEmpty()) {
             throw DonneErreurUsage(Tr("Argument en trop : {1}", positionnels.first()));

@@ -13,10 +13,21 @@ namespace hote {
 
 /// What the person asked for.
 struct OptionsHote {
-    enum class Commande { Aide, Version, Documents, Corrige, Dictionnaire, Moteurs, Pilote };
+    enum class Commande {
+        Aide,
+        Version,
+        Documents,
+        Corrige,
+        Dictionnaire,
+        Fenetre,
+        Moteurs,
+        Pilote,
+        Relais, ///< what the window starts for itself
+    };
 
     Commande commande = Commande::Aide;
-    QString id;                   ///< of `corrige` and `dictionnaire`; empty when not given
+    QString id;                   ///< of those that work on a document; empty when not given
+    QString chemin;               ///< of `relais`: the document's file; may be empty
     std::optional<Langue> langue; ///< of the same; found out when not given
     bool automatique = false;     ///< of `corrige`
     bool json = false;            ///< of all but `pilote`

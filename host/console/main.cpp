@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Aide.h"
 #include "Avertissement.h"
+#include "ChoixDocument.h"
 #include "Commandes.h"
 #include "InitialisationGenerale.h"
 #include "LigneDeCommande.h"
 #include "Sortie.h"
 #include "commun/MessagesHote.h"
+#include "fenetre/relais/CommandeRelais.h"
+#include "fenetre/vue/CommandeFenetre.h"
 
 #include <QCoreApplication>
 
@@ -50,6 +53,9 @@ eCodeSortie Execute(QStringList const& arguments) {
         return EcrisEtFinis("vocalyne-hote " VOCALYNE_VERSION "\n");
     }
     qInstallMessageHandler(FiltreMessagesQt);
+    if (options.commande == OptionsHote::Commande::Fenetre) {
+        PrepareFenetre();
+    }
     Application const application;
     InitialisationGenerale::InitApresQApp();
     switch (options.commande) {
@@ -61,6 +67,11 @@ eCodeSortie Execute(QStringList const& arguments) {
         return ExecuteDictionnaire(options);
     case OptionsHote::Commande::Moteurs:
         return ExecuteMoteurs(options);
+    case OptionsHote::Commande::Fenetre:
+        return ExecuteFenetre(options.id.isEmpty() ? ChoisisDocument() : options.id,
+                              options.greffon);
+    case OptionsHote::Commande::Relais:
+        return ExecuteRelais(options.id, options.chemin, options.greffon);
     default:
         qInstallMessageHandler(nullptr);
         return ExecutePilote(options);

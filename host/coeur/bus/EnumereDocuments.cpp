@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "EnumereDocuments.h"
 
+#include "ConnexionPrivee.h"
 #include "Contrat.h"
 #include "Questions.h"
 #include "commun/ErreurHote.h"
@@ -20,24 +21,6 @@ namespace {
 QString DonnePrefixe() {
     return QLatin1String(contrat::kPrefixeService);
 }
-
-/// A connection of its own: whatever companions send here cannot harm the one that the plug-in
-/// works on.
-class ConnexionPrivee {
-  public:
-    ConnexionPrivee()
-        : bus_(QDBusConnection::connectToBus(QDBusConnection::SessionBus, DonneNom())) {}
-    ~ConnexionPrivee() { QDBusConnection::disconnectFromBus(DonneNom()); }
-    ConnexionPrivee(ConnexionPrivee const&) = delete;
-    ConnexionPrivee& operator=(ConnexionPrivee const&) = delete;
-
-    QDBusConnection const& Donne() const noexcept { return bus_; }
-
-  private:
-    static QString DonneNom() { return QStringLiteral("vocalyne-hote-documents"); }
-
-    QDBusConnection bus_;
-};
 
 ErreurHote DonneErreurSansBus(std::string const& raison) {
     return {kSortieDocument, Tr("Pas de bus de session D-Bus ({1}).", raison)};
@@ -116,7 +99,7 @@ ListeDocuments EnumereDocuments(int delaiMs) {
     QElapsedTimer montre;
     montre.start();
     auto const reste = [&] { return delaiMs - static_cast<int>(montre.elapsed()); };
-    ConnexionPrivee const connexion;
+    ConnexionPrivee const connexion(QStringLiteral("vocalyne-hote-documents"));
     QDBusConnection const& bus = connexion.Donne();
     if (!bus.isConnected()) {
         throw DonneErreurSansBus(bus.lastError().message().toStdString());

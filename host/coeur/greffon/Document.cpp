@@ -33,6 +33,10 @@ QString Document::DonneTitre() {
     return tenu_.DonneAgent()->DonneTitreDocument().VersQString();
 }
 
+QString Document::DonneChemin() {
+    return tenu_.DonneAgent()->DonneCheminDocument().VersQString();
+}
+
 void Document::Lis() {
     auto& zones = tenu_.DonneZones();
     zones.Vide();
@@ -70,6 +74,15 @@ bool Document::PeutCorriger(int zone, int debut, int fin, QString const& attendu
 void Document::Corrige(int zone, int debut, int fin, QString const& texte, bool automatique) {
     DonneZone(zone).CorrigeDansTexteur(debut, fin, UniChaine(texte), automatique);
     textes_[static_cast<std::size_t>(zone)].replace(debut, fin - debut, texte);
+}
+
+void Document::Selectionne(int zone, int debut, int fin) {
+    DonneZone(zone).SelectionneIntervalle(debut, fin);
+}
+
+Document::Intervalle Document::DonneSelection(int zone) {
+    InterfaceZoneDeTexte& lue = DonneZone(zone);
+    return {lue.DonneDebutSelection(), lue.DonneFinSelection()};
 }
 
 void Document::VerifieVivant() {

@@ -18,6 +18,11 @@ namespace hote {
 /// is asked, and lets the plug-in's exceptions through. Main thread.
 class Document {
   public:
+    struct Intervalle {
+        int debut;
+        int fin;
+    };
+
     /// Attaches to the document `id` (UTF-16, whole identifier). The plug-in must outlive the
     /// object. Throws ErreurHote (kSortieDocument) when the plug-in does not serve it, or cannot
     /// reach it.
@@ -29,6 +34,8 @@ class Document {
     Document& operator=(Document const&) = delete;
 
     QString DonneTitre();
+    /// Of its file; empty when it has none.
+    QString DonneChemin();
 
     /// Reads all zones anew. Throws ErreurHote when the document cannot be read the first time
     /// (kSortieDocument), or has gone away since (kSortieDocumentMort): the word processor says so,
@@ -45,6 +52,12 @@ class Document {
     bool PeutCorriger(int zone, int debut, int fin, QString const& attendu);
     /// Sends a correction. Whether it was made shows when the document is read again.
     void Corrige(int zone, int debut, int fin, QString const& texte, bool automatique);
+    /// Selects [debut, fin) of the zone in the word processor, which shows it. Not waited for.
+    void Selectionne(int zone, int debut, int fin);
+    /// What was selected in the zone when it was last read; 0 and 0 where nothing was.
+    Intervalle DonneSelection(int zone);
+    /// The agent, for what concerns no zone. Its zones stay this object's.
+    InterfaceAgentTexteur& DonneAgent() noexcept { return *tenu_.DonneAgent(); }
     /// Throws ErreurHote (kSortieDocumentMort) when the document says that it has gone away.
     void VerifieVivant();
 

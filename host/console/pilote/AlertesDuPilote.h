@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
-#include "console/PresentateurImmediat.h"
+#include "greffon/PresentateurImmediat.h"
 
 #include <vector>
 

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MPL-2.0
+#include "FenetrePrincipale.h"
+
+#include "commun/MessagesHote.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+namespace hote {
+
+FenetrePrincipale::FenetrePrincipale(Revue& revue, QWidget* parent)
+    : QTabWidget(parent)
+    , correction_(new PageCorrection(revue)) {
+    setDocumentMode(true);
+    addTab(correction_, EnQt(Tr("&Correction")));
+    MetsTitre({});
+    correction_->setFocus();
+    connect(&revue, &Revue::EtatChange, this, [this, &revue] {
+        if (!revue.EstPerdue()) {
+            correction_->Annonce({});
+        }
+    });
+    connect(&revue, &Revue::Refusee, this, [this](QString const& raison) {
+        correction_->Annonce(
+            EnQt(Tr("Correction refusée : {1}",
+                    raison.isEmpty() ? EnQt(Tr("le passage a changé, ou est protégé.")) : raison)));
+    });
+    // Beside the document: at the right edge of the screen.
+    QRect const ecran = QGuiApplication::primaryScreen()->availableGeometry();
+    int const largeur = std::min(fontMetrics().averageCharWidth() * 62, ecran.width());
+    int const hauteur = std::min(fontMetrics().lineSpacing() * 46, ecran.height() * 9 / 10);
+    resize(largeur, hauteur);
+    move(ecran.right() - largeur, ecran.top() + (ecran.height() - hauteur) / 3);
+}
+
+void FenetrePrincipale::MetsTitre(QString const& titre) {
+    setWindowTitle(titre.isEmpty() ? QStringLiteral("Vocalyne")
+                                   : EnQt(Tr("{1} – Vocalyne", titre)));
+}
+
+void FenetrePrincipale::AnnoncePerte(QString const& raison) {
+    correction_->Annonce(EnQt(Tr("Le document n’est plus à portée. {1} La correction reprendra "
+                                 "dès qu’il sera là.",
+                                 raison)));
+}
+
+void FenetrePrincipale::AnnonceAttente(bool longtemps) {
+    correction_->Annonce(longtemps ? EnQt(Tr("Le document met du temps à répondre…")) : QString());
+}
+
+void FenetrePrincipale::Leve() {
+    if (isMinimized()) {
+        showNormal();
+    }
+    show();
+    raise();
+    activateWindow();
+}
+
+} // namespace hote
