@@ -15,7 +15,9 @@ std::string DonneUsage() {
               "                              [--sortie texte|json]\n"
               "        vocalyne-hote fenetre [ID] [--greffon FICHIER]\n"
               "        vocalyne-hote pilote [--greffon FICHIER]\n"
-              "        vocalyne-hote --help | --version\n");
+              "        vocalyne-hote --help | --version\n") +
+           Tr("        vocalyne-hote verifie GREFFON [ID] [--sortie texte|json] [--delai S]\n"
+              "                              [--epreuve NOM]\n");
 }
 
 std::string DonneAide() {
@@ -61,7 +63,17 @@ std::string DonneAide() {
               "  4  connecteur absent ou inutilisable\n"
               "  5  dictionnaire absent\n"
               "  6  le document a disparu en cours de route\n"
-              "  7  sortie impossible à écrire, ou panne du programme\n");
+              "  7  sortie impossible à écrire, ou panne du programme\n") +
+           Tr("\n"
+              "verifie tient un connecteur à son contrat, règle par règle, sur le document ID, qui "
+              "est\n"
+              "modifié puis remis comme il était. Le code de sortie est 1 quand une règle est "
+              "violée.\n"
+              "\n"
+              "  GREFFON        le connecteur, un fichier\n"
+              "  --delai S      le temps laissé à un appel, en secondes ; par défaut, celui du "
+              "contrat\n"
+              "  --epreuve NOM  une épreuve seule, dans ce processus : pour un débogueur\n");
 }
 
 } // namespace hote

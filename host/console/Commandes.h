@@ -13,5 +13,6 @@ eCodeSortie ExecuteCorrige(OptionsHote const& options);
 eCodeSortie ExecuteDictionnaire(OptionsHote const& options);
 eCodeSortie ExecuteMoteurs(OptionsHote const& options);
 eCodeSortie ExecutePilote(OptionsHote const& options);
+eCodeSortie ExecuteVerifie(OptionsHote const& options);
 
 } // namespace hote

@@ -32,6 +32,9 @@ OptionsHote::Commande LisCommande(QString const& nom) {
     if (nom == QLatin1String("pilote")) {
         return OptionsHote::Commande::Pilote;
     }
+    if (nom == QLatin1String("verifie")) {
+        return OptionsHote::Commande::Verifie;
+    }
     if (nom == QLatin1String("fenetre")) {
         return OptionsHote::Commande::Fenetre;
     }
@@ -53,9 +56,13 @@ class AnalyseurDeLigne {
         if (commande == OptionsHote::Commande::Corrige) {
             parseur_.addOption(automatique_);
         }
-        if (surDocument || commande == OptionsHote::Commande::Documents ||
+        bool const verifie = commande == OptionsHote::Commande::Verifie;
+        if (surDocument || verifie || commande == OptionsHote::Commande::Documents ||
             commande == OptionsHote::Commande::Moteurs) {
             parseur_.addOption(sortie_);
+        }
+        if (verifie) {
+            parseur_.addOptions({epreuve_, delai_});
         }
         if (surDocument || commande == OptionsHote::Commande::Pilote ||
             commande == OptionsHote::Commande::Fenetre ||
@@ -115,6 +122,18 @@ class AnalyseurDeLigne {
                 throw DonneErreurUsage(Tr("--sortie veut texte ou json, pas « {1} »", valeur));
             }
         }
+        if (EstDonnee(epreuve_)) {
+            options.epreuve = parseur_.value(epreuve_);
+        }
+        if (EstDonnee(delai_)) {
+            bool entier = false;
+            int const secondes = parseur_.value(delai_).toInt(&entier);
+            constexpr int kSecondesMax = 3600;
+            if (!entier || secondes < 1 || secondes > kSecondesMax) {
+                throw DonneErreurUsage(Tr("--delai veut des secondes, de 1 à {1}", kSecondesMax));
+            }
+            options.delaiMs = secondes * 1000;
+        }
         if (EstDonnee(greffon_)) {
             options.greffon = parseur_.value(greffon_).toStdString();
             if (options.greffon.empty()) {
@@ -127,7 +146,15 @@ class AnalyseurDeLigne {
         QStringList positionnels = parseur_.positionalArguments();
         bool const relais = options.commande == OptionsHote::Commande::Relais;
         bool const fenetre = options.commande == OptionsHote::Commande::Fenetre;
-        if ((PrendsDocument(options.commande) || fenetre || relais) && !positionnels.isEmpty()) {
+        bool const verifie = options.commande == OptionsHote::Commande::Verifie;
+        if (verifie && positionnels.isEmpty()) {
+            throw DonneErreurUsage(Tr("verifie veut un connecteur"));
+        }
+        if (verifie) {
+            options.greffon = positionnels.takeFirst().toStdString();
+        }
+        bool const aUnDocument = PrendsDocument(options.commande) || fenetre || relais || verifie;
+        if (aUnDocument && !positionnels.isEmpty()) {
             options.id = positionnels.takeFirst();
         }
         if (options.commande == OptionsHote::Commande::Moteurs) {
@@ -148,6 +175,8 @@ class AnalyseurDeLigne {
     QCommandLineOption langue_{QStringLiteral("langue"), {}, QStringLiteral("fr|en")};
     QCommandLineOption automatique_{QStringLiteral("automatique")};
     QCommandLineOption sortie_{QStringLiteral("sortie"), {}, QStringLiteral("texte|json")};
+    QCommandLineOption epreuve_{QStringLiteral("epreuve"), {}, QStringLiteral("NOM")};
+    QCommandLineOption delai_{QStringLiteral("delai"), {}, QStringLiteral("S")};
     QCommandLineOption greffon_{QStringLiteral("greffon"), {}, QStringLiteral("FICHIER")};
 };
 

@@ -23,6 +23,7 @@ struct OptionsHote {
         Moteurs,
         Pilote,
         Relais, ///< what the window starts for itself
+        Verifie
     };
 
     Commande commande = Commande::Aide;
@@ -33,6 +34,8 @@ struct OptionsHote {
     bool json = false;            ///< of all but `pilote`
     QStringList ordre;            ///< of `moteurs`: a verb and what it is about; empty: the list
     std::string greffon;          ///< of those on documents, and `pilote`; empty when not given
+    QString epreuve;              ///< of `verifie`; empty for all of them
+    int delaiMs = 0;              ///< of the same; 0 when not given
 };
 
 } // namespace hote

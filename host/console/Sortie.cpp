@@ -37,6 +37,15 @@ void Sortie::Verifie() const {
     }
 }
 
+int ReserveSortie() {
+    int const copie = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 3);
+    if (copie < 0 || dup2(STDERR_FILENO, STDOUT_FILENO) < 0) {
+        throw ErreurHote(kSortieInterne,
+                         Tr("La sortie ne s’écrit pas : {1}", std::strerror(errno)));
+    }
+    return copie;
+}
+
 void PrepareFluxStandard() {
     for (int descripteur = 0; descripteur <= 2; ++descripteur) {
         if (fcntl(descripteur, F_GETFD) >= 0) {

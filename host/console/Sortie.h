@@ -27,6 +27,11 @@ class Sortie {
     int erreur_ = 0;
 };
 
+/// Keeps standard output for what the program writes itself, and answers its new descriptor: what a
+/// plug-in or a library prints goes to standard error from then on, where it breaks nothing. Throws
+/// ErreurHote (kSortieInterne).
+int ReserveSortie();
+
 /// Opens /dev/null in the place of standard streams that the caller left closed (a socket would
 /// take such a number and receive what is written for people), and has a reader that goes away
 /// give a write error instead of ending the process. First thing in a program.

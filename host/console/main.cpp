@@ -72,6 +72,8 @@ eCodeSortie Execute(QStringList const& arguments) {
                               options.greffon);
     case OptionsHote::Commande::Relais:
         return ExecuteRelais(options.id, options.chemin, options.greffon);
+    case OptionsHote::Commande::Verifie:
+        return ExecuteVerifie(options);
     default:
         qInstallMessageHandler(nullptr);
         return ExecutePilote(options);

@@ -8,7 +8,6 @@
 #include <QEventLoop>
 #include <QSocketNotifier>
 
-#include <fcntl.h>
 #include <unistd.h>
 
 #include <array>
@@ -18,17 +17,6 @@
 namespace hote {
 
 namespace {
-
-/// Standard output for answers alone: what a plug-in or a library prints goes to standard error,
-/// where it does not break the dialogue.
-int ReserveSortie() {
-    int const copie = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 3);
-    if (copie < 0 || dup2(STDERR_FILENO, STDOUT_FILENO) < 0) {
-        throw ErreurHote(kSortieInterne,
-                         Tr("La sortie ne s’écrit pas : {1}", std::strerror(errno)));
-    }
-    return copie;
-}
 
 /// Waits until standard input has something to read, and lets the application's events run
 /// meanwhile, as in any host.
