@@ -48,11 +48,11 @@ void EprouveMemoire(Chantier const& chantier) {
     constexpr int kTours = 10;
     constexpr int kTranches = 15;
     // The bus library keeps some bytes of its own; the smallest object takes this much.
-    constexpr int kPlusPetit = 32;
-    long long moindre = kTours * kPlusPetit;
+    constexpr long long kAdmis = 32LL * kTours;
+    long long moindre = kAdmis;
     // What is kept on purpose is there after a while, and other threads of the process come and go;
     // a leak grows in every stretch.
-    for (int tranche = 0; tranche < kTranches && moindre >= kTours * kPlusPetit; ++tranche) {
+    for (int tranche = 0; tranche < kTranches && moindre >= kAdmis; ++tranche) {
         auto const avant = static_cast<long long>(DonneOctetsTenus());
         for (int i = 0; i < kTours; ++i) {
             JoueUnTour(chantier, *greffon);
@@ -61,7 +61,7 @@ void EprouveMemoire(Chantier const& chantier) {
         auto const croissance = static_cast<long long>(DonneOctetsTenus()) - avant;
         moindre = tranche == 0 ? croissance : std::min(moindre, croissance);
     }
-    chantier.Exige(moindre < kTours * kPlusPetit, "memoire.croissance",
+    chantier.Exige(moindre < kAdmis, "memoire.croissance",
                    Tr("{1} octets de plus à chaque fois.", moindre / kTours));
 }
 

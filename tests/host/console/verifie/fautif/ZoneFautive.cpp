@@ -2,7 +2,7 @@
 #include "ZoneFautive.h"
 
 TexteAvecAttributs ZoneFautive::DonneTexte() {
-    TexteAvecAttributs texte{sdd::ChaineN(kTexte)};
+    TexteAvecAttributs texte{sdd::ChaineN(texte_)};
     // The string of ours keeps its runs right; one of another maker's, or a bug, may not.
     auto& plages = const_cast<TexteAvecAttributs::Plages&>(texte.DonnePlages());
     if (Faute("styles-dehors")) {

@@ -26,14 +26,14 @@ class ZoneFautive : public InterfaceZoneDeTexte {
     }
     UniChaine DonneChaineAuxiliaire() override { return {}; }
     TexteAvecAttributs DonneTexte() override;
-    int DonneLongueur() override { return kTexte.size() + (Faute("longueur-fausse") ? 1 : 0); }
+    int DonneLongueur() override { return texte_.size() + (Faute("longueur-fausse") ? 1 : 0); }
     bool PeutCorriger(int debut, int fin, UniChaine const& texte) override {
-        return kTexte.mid(debut, fin - debut) == texte.VersQString();
+        return texte_.mid(debut, fin - debut) == texte.VersQString();
     }
     void AjusteIntervalle(int, int, int*, int*, bool) override {}
     bool SelectionneIntervalle(int, int) override { return false; }
 
   private:
-    QString const kTexte = QStringLiteral("Un texte de la zone.");
+    QString const texte_ = QStringLiteral("Un texte de la zone.");
     int debut_ = 0;
 };
