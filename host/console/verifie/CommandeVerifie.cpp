@@ -5,9 +5,9 @@
 #include "Valgrind.h"
 #include "commun/MessagesHote.h"
 #include "console/Commandes.h"
-#include "console/PresentateurImmediat.h"
 #include "console/Sortie.h"
 #include "greffon/LocaliseGreffon.h"
+#include "greffon/PresentateurImmediat.h"
 
 #include <QFileInfo>
 
