@@ -29,3 +29,7 @@ install(EXPORT VocalyneConnecteurCibles NAMESPACE Vocalyne::
 # The wire contract, for authors of companions.
 install(DIRECTORY protocol/ DESTINATION "${CMAKE_INSTALL_DATADIR}/vocalyne/protocol" COMPONENT sdk
   FILES_MATCHING PATTERN "*.xml" PATTERN "*.json" PATTERN "*.md" PATTERN "*.h")
+
+# Examples to begin with.
+install(DIRECTORY exemples/connecteur-markdown DESTINATION "${CMAKE_INSTALL_DOCDIR}/exemples"
+  COMPONENT sdk)
