@@ -13,7 +13,7 @@ std::string DonneUsage() {
               "                                   [--greffon FICHIER]\n"
               "        vocalyne-hote moteurs [installe|allume|eteins MOTEUR | adresse MOTEUR URL]\n"
               "                              [--sortie texte|json]\n"
-              "        vocalyne-hote fenetre [ID] [--greffon FICHIER]\n"
+              "        vocalyne-hote fenetre [ID] [--page correction|mots] [--greffon FICHIER]\n"
               "        vocalyne-hote pilote [--greffon FICHIER]\n"
               "        vocalyne-hote --help | --version\n") +
            Tr("        vocalyne-hote verifie GREFFON [ID] [--sortie texte|json] [--delai S]\n"

@@ -64,6 +64,9 @@ class AnalyseurDeLigne {
         if (verifie) {
             parseur_.addOptions({epreuve_, delai_});
         }
+        if (commande == OptionsHote::Commande::Fenetre) {
+            parseur_.addOption(page_);
+        }
         if (surDocument || commande == OptionsHote::Commande::Pilote ||
             commande == OptionsHote::Commande::Fenetre ||
             commande == OptionsHote::Commande::Relais) {
@@ -134,6 +137,14 @@ class AnalyseurDeLigne {
             }
             options.delaiMs = secondes * 1000;
         }
+        if (EstDonnee(page_)) {
+            options.page = parseur_.value(page_);
+            if (options.page != QLatin1String("mots") &&
+                options.page != QLatin1String("correction")) {
+                throw DonneErreurUsage(
+                    Tr("--page veut correction ou mots, pas « {1} »", options.page));
+            }
+        }
         if (EstDonnee(greffon_)) {
             options.greffon = parseur_.value(greffon_).toStdString();
             if (options.greffon.empty()) {
@@ -177,6 +188,7 @@ class AnalyseurDeLigne {
     QCommandLineOption sortie_{QStringLiteral("sortie"), {}, QStringLiteral("texte|json")};
     QCommandLineOption epreuve_{QStringLiteral("epreuve"), {}, QStringLiteral("NOM")};
     QCommandLineOption delai_{QStringLiteral("delai"), {}, QStringLiteral("S")};
+    QCommandLineOption page_{QStringLiteral("page"), {}, QStringLiteral("correction|mots")};
     QCommandLineOption greffon_{QStringLiteral("greffon"), {}, QStringLiteral("FICHIER")};
 };
 

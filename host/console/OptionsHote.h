@@ -30,6 +30,7 @@ struct OptionsHote {
     QString id;                   ///< of those that work on a document; empty when not given
     QString chemin;               ///< of `relais`: the document's file; may be empty
     std::optional<Langue> langue; ///< of the same; found out when not given
+    QString page;                 ///< of `fenetre`; empty when not given
     bool automatique = false;     ///< of `corrige`
     bool json = false;            ///< of all but `pilote`
     QStringList ordre;            ///< of `moteurs`: a verb and what it is about; empty: the list

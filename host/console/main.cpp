@@ -69,7 +69,7 @@ eCodeSortie Execute(QStringList const& arguments) {
         return ExecuteMoteurs(options);
     case OptionsHote::Commande::Fenetre:
         return ExecuteFenetre(options.id.isEmpty() ? ChoisisDocument() : options.id,
-                              options.greffon);
+                              options.greffon, options.page);
     case OptionsHote::Commande::Relais:
         return ExecuteRelais(options.id, options.chemin, options.greffon);
     case OptionsHote::Commande::Verifie:

@@ -72,6 +72,18 @@ class Outils:
         self.notes_terminal.unlink()
         return notes
 
+    def attends_la_fenetre(self):
+        """What the host noted of one run without a terminal, which is then forgotten."""
+        def lis():
+            try:
+                return json.loads(self.notes_hote.read_text())
+            except (FileNotFoundError, json.JSONDecodeError):
+                return None  # not written, or not whole
+        notes = banc.attends(lis, "the host to start")
+        self.notes_hote.unlink()
+        assert not self.notes_terminal.exists(), "a terminal was opened"
+        return notes
+
 
 def demande(bureau, cadre, commande):
     """Carries out what a menu entry would, on that window."""

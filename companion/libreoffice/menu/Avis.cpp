@@ -2,6 +2,7 @@
 #include "Avis.h"
 
 #include "commun/ChainesUno.h"
+#include "menu/lancement/Ecran.h"
 
 #include <com/sun/star/awt/MessageBoxButtons.hpp>
 #include <com/sun/star/awt/MessageBoxType.hpp>
@@ -13,8 +14,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
-#include <fstream>
 #include <string_view>
 
 using namespace com::sun::star;
@@ -22,27 +21,6 @@ using namespace com::sun::star;
 namespace extension {
 
 namespace {
-
-bool EstVide(char const* variable) {
-    char const* const valeur = std::getenv(variable);
-    return valeur == nullptr || *valeur == '\0';
-}
-
-/// The office does not tell by its interfaces: by how it was started, then.
-bool SansEcran() {
-    char const* const dessin = std::getenv("SAL_USE_VCLPLUGIN");
-    if ((EstVide("DISPLAY") && EstVide("WAYLAND_DISPLAY")) ||
-        (dessin != nullptr && std::string_view(dessin) == "svp")) {
-        return true;
-    }
-    std::ifstream commande("/proc/self/cmdline", std::ios::binary);
-    for (std::string mot; std::getline(commande, mot, '\0');) {
-        if (mot == "--headless" || mot == "-headless") {
-            return true;
-        }
-    }
-    return false;
-}
 
 void Ecris(std::string_view texte) {
     while (!texte.empty()) {
@@ -64,7 +42,7 @@ void Avise(uno::Reference<uno::XComponentContext> const& contexte,
         contexte->getServiceManager()->createInstanceWithContext("com.sun.star.awt.Toolkit",
                                                                  contexte),
         uno::UNO_QUERY);
-    if (SansEcran() || !dessous.is() || !boites.is()) {
+    if (!AUnEcran() || !dessous.is() || !boites.is()) {
         Ecris(texte);
         return;
     }

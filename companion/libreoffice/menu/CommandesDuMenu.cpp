@@ -5,6 +5,7 @@
 #include "Constat.h"
 #include "bus/BusDeSession.h"
 #include "extension/Extension.h"
+#include "menu/lancement/Ecran.h"
 #include "menu/lancement/EnvironnementEnfant.h"
 #include "menu/lancement/Lance.h"
 #include "menu/lancement/LigneDeTerminal.h"
@@ -27,6 +28,7 @@ Constat Constate(uno::Reference<frame::XFrame> const& cadre) {
     Constat constat;
     Reglages const reglages = ReglagesDeLEnvironnement();
     constat.hote = ChercheHote(reglages, VOCALYNE_DOSSIER_PROGRAMMES);
+    constat.ecran = AUnEcran();
     constat.terminal = ChercheTerminal(reglages);
     Extension* const extension = Extension::Donne();
     if (extension == nullptr) {
@@ -43,14 +45,27 @@ Constat Constate(uno::Reference<frame::XFrame> const& cadre) {
     return constat;
 }
 
-/// Empty when the host was started, else what failed.
-std::string LanceHote(Constat const& constat, char const* operation) {
+/// The host's window; in an office that shows none, a terminal.
+std::vector<std::string> LigneDeLHote(Constat const& constat, Commande commande) {
+    bool const corrige = commande == Commande::Corrige;
+    if (constat.ecran) {
+        std::vector<std::string> ligne{constat.hote.chemin, "fenetre"};
+        if (!corrige) {
+            ligne.insert(ligne.end(), {"--page", "mots"});
+        }
+        ligne.push_back(constat.idDocument);
+        return ligne;
+    }
     std::string const invite =
         Dis({"Appuyez sur Entrée pour fermer cette fenêtre.", "Press Enter to close this window."});
-    std::string const panne =
-        Lance(LigneDeTerminal(constat.terminal.commande, invite, constat.hote.chemin,
-                              {operation, constat.idDocument}),
-              EnvironnementEnfant(EnvironnementHerite(), AdresseDuBus()));
+    return LigneDeTerminal(constat.terminal.commande, invite, constat.hote.chemin,
+                           {corrige ? "corrige" : "dictionnaire", constat.idDocument});
+}
+
+/// Empty when the host was started, else what failed.
+std::string LanceHote(Constat const& constat, Commande commande) {
+    std::string const panne = Lance(LigneDeLHote(constat, commande),
+                                    EnvironnementEnfant(EnvironnementHerite(), AdresseDuBus()));
     return panne.empty()
                ? panne
                : Dis({"L’hôte n’a pas pu être lancé\u00a0: ", "The host could not be started: "}) +
@@ -90,7 +105,7 @@ void ExecuteCommande(Commande commande, uno::Reference<uno::XComponentContext> c
     }
     std::string ennui = Joins(manques);
     if (ennui.empty()) {
-        ennui = LanceHote(constat, commande == Commande::Corrige ? "corrige" : "dictionnaire");
+        ennui = LanceHote(constat, commande);
     }
     if (!ennui.empty()) {
         Avise(contexte, cadre, ennui, true);

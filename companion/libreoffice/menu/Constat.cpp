@@ -82,7 +82,7 @@ std::vector<std::string> Manques(Constat const& constat) {
     if (constat.hote.chemin.empty()) {
         manques.push_back(RemedeDeLHote(constat.hote));
     }
-    if (constat.terminal.commande.empty()) {
+    if (!constat.ecran && constat.terminal.commande.empty()) {
         manques.push_back(RemedeDuTerminal(constat.terminal));
     }
     return manques;
@@ -101,7 +101,9 @@ std::string Rapport(Constat const& constat) {
     rapport += Dis({"\nService\u00a0: ", "\nService: "}) + OuAbsent(constat.service);
     rapport += Dis({"\nBus de session\u00a0: ", "\nSession bus: "}) + BusEnUnMot(constat.bus.genre);
     rapport += Dis({"\nHôte\u00a0: ", "\nHost: "}) + OuAbsent(constat.hote.chemin);
-    rapport += Dis({"\nTerminal\u00a0: ", "\nTerminal: "}) + OuAbsent(terminal);
+    if (!constat.ecran) {
+        rapport += Dis({"\nTerminal\u00a0: ", "\nTerminal: "}) + OuAbsent(terminal);
+    }
     std::vector<std::string> const manques = Manques(constat);
     rapport += manques.empty() ? Dis({"\n\nTout va bien.", "\n\nAll is well."})
                                : Dis({"\n\nCe qui ne va pas\u00a0:", "\n\nWhat is wrong:"});

@@ -18,6 +18,7 @@ struct Constat {
     std::size_t documents = 0; ///< how many are served
     std::string idDocument;    ///< whole identifier of the one in front; empty: it is not served
     HoteTrouve hote;
+    bool ecran = false; ///< the host has a window then; else it speaks in a terminal
     TerminalTrouve terminal;
 };
 

@@ -117,6 +117,17 @@ void LiaisonProcessus::Selectionne(int paragraphe, int debut, int fin) {
            false);
 }
 
+void LiaisonProcessus::ChercheMots() {
+    Envoie({{QStringLiteral("op"), QStringLiteral("mots")}}, true);
+}
+
+void LiaisonProcessus::RemplaceMot(MotsDuCurseur const& mots, QString const& nouveau) {
+    Envoie({{QStringLiteral("op"), QStringLiteral("remplace")},
+            {QStringLiteral("mots"), EnJson(mots)},
+            {QStringLiteral("nouveau"), nouveau}},
+           true);
+}
+
 void LiaisonProcessus::RecoisLignes() {
     QProcess* const source = processus_;
     while (processus_ == source && source->canReadLine()) {
@@ -159,6 +170,13 @@ void LiaisonProcessus::Recois(QJsonObject const& reponse) {
             noms.append(nom.toString());
         }
         Q_EMIT Nommee(noms);
+    } else if (op == QLatin1String("mots")) {
+        MetsAttente(enAttente_ - 1);
+        Q_EMIT MotsTrouves(LisMots(reponse.value(QLatin1String("mots")).toObject()));
+    } else if (op == QLatin1String("remplace")) {
+        MetsAttente(enAttente_ - 1);
+        lecture_.start(kApresCorrectionMs);
+        Q_EMIT MotRemplace(reponse.value(QLatin1String("fait")).toBool());
     } else if (op == QLatin1String("perdu")) {
         raison_ = reponse.value(QLatin1String("raison")).toString();
     }

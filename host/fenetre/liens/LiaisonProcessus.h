@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
+#include "fenetre/echange/MotsDuCurseur.h"
 #include "fenetre/modele/Liaison.h"
 
 #include <QElapsedTimer>
@@ -40,7 +41,15 @@ class LiaisonProcessus : public Liaison {
                  QString const& apres) override;
     void Selectionne(int paragraphe, int debut, int fin) override;
 
+    /// Asks what is known of the word at the caret: `MotsTrouves`.
+    void ChercheMots();
+    /// Puts `nouveau` in that word's place, provided that the selection is still the one told, and
+    /// leaves it selected: `MotRemplace`.
+    void RemplaceMot(MotsDuCurseur const& mots, QString const& nouveau);
+
   Q_SIGNALS:
+    void MotsTrouves(hote::MotsDuCurseur const& mots);
+    void MotRemplace(bool fait);
     /// The document takes long to answer, or answers again.
     void Attend(bool longtemps);
 

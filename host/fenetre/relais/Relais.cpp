@@ -5,6 +5,7 @@
 #include "commun/ErreurHote.h"
 #include "commun/MessagesHote.h"
 #include "fenetre/echange/EcartJson.h"
+#include "greffon/SelectionParAgent.h"
 #include "moteurs/FaisParagraphe.h"
 #include "reglages/ReglagesHote.h"
 
@@ -57,6 +58,10 @@ void Relais::Traite(QJsonObject const& requete) {
         Selectionne(requete);
     } else if (op == QLatin1String("nomme")) {
         Nomme();
+    } else if (op == QLatin1String("mots")) {
+        ChercheLesMots();
+    } else if (op == QLatin1String("remplace")) {
+        RemplaceLeMot(requete);
     }
 }
 
@@ -155,6 +160,36 @@ void Relais::Nomme() {
     ecris_({{QStringLiteral("op"), QStringLiteral("nommee")},
             {QStringLiteral("version"), version_},
             {QStringLiteral("noms"), noms}});
+}
+
+void Relais::ChercheLesMots() {
+    auto const selection = SelectionParAgent(document_.DonneAgent()).Lis();
+    ecris_({{QStringLiteral("op"), QStringLiteral("mots")},
+            {QStringLiteral("mots"),
+             EnJson(mots_.Cherche(selection.texte, selection.debut, selection.fin,
+                                  DonneLangue(selection.texte, selection.debut)))}});
+}
+
+void Relais::RemplaceLeMot(QJsonObject const& requete) {
+    MotsDuCurseur const mots = LisMots(requete.value(QLatin1String("mots")).toObject());
+    bool const fait = SelectionParAgent(document_.DonneAgent())
+                          .Remplace({mots.texte, mots.debutSelection, mots.finSelection},
+                                    mots.debut, mots.fin, Texte(requete, "nouveau"));
+    ecris_({{QStringLiteral("op"), QStringLiteral("remplace")}, {QStringLiteral("fait"), fait}});
+}
+
+/// Of the selection's paragraph, as its style says; else the document's.
+QString Relais::DonneLangue(QString const& texte, int position) const {
+    for (ParagrapheDuDocument const& lu : lus_) {
+        if (lu.texte == texte) {
+            for (EtendueDeLangue const& etendue : lu.langues) {
+                if (position < etendue.fin && !etendue.langue.isEmpty()) {
+                    return etendue.langue;
+                }
+            }
+        }
+    }
+    return langue_.isEmpty() ? DevineLangue({texte}) : langue_;
 }
 
 QString Relais::DonneRaison(int zone) {

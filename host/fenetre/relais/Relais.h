@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
+#include "ChercheMots.h"
 #include "bus/Renseignements.h"
 #include "fenetre/echange/Lecture.h"
 #include "greffon/Document.h"
@@ -34,6 +35,9 @@ class Relais {
     void Corrige(QJsonObject const& requete);
     void Selectionne(QJsonObject const& requete);
     void Nomme();
+    void ChercheLesMots();
+    void RemplaceLeMot(QJsonObject const& requete);
+    QString DonneLangue(QString const& texte, int position) const;
     QString DonneRaison(int zone);
     std::vector<ParagrapheDuDocument> DonneParagraphes();
     PlaceDuCurseur ChercheEndroit();
@@ -44,7 +48,8 @@ class Relais {
     Ecris ecris_;
     QString langue_;                        ///< of text that says none; empty: not known yet
     std::vector<ParagrapheDuDocument> lus_; ///< as the window has them
-    std::vector<QString> cles_;             ///< of the zones, as the names were last asked for
+    ChercheMots mots_;
+    std::vector<QString> cles_; ///< of the zones, as the names were last asked for
     int version_ = 0;
 };
 

@@ -7,6 +7,7 @@
 #include "fenetre/liens/LiaisonProcessus.h"
 #include "fenetre/liens/VerificateurDesMoteurs.h"
 #include "langue/Decoupeur.h"
+#include "moteurs/ensemble/Decouverte.h"
 #include "moteurs/ensemble/Fabriques.h"
 #include "reglages/ReglagesHote.h"
 
@@ -56,6 +57,30 @@ void Retiens(Revue& revue, ReglagesHote& reglages) {
                      });
 }
 
+void Relie(FenetrePrincipale& fenetre, LiaisonProcessus& liaison,
+           VerificateurDesMoteurs& verificateur) {
+    QObject::connect(&liaison, &Liaison::Ouverte, &fenetre, &FenetrePrincipale::MetsTitre);
+    QObject::connect(&liaison, &Liaison::Perdue, &fenetre, &FenetrePrincipale::AnnoncePerte);
+    QObject::connect(&liaison, &LiaisonProcessus::Attend, &fenetre,
+                     &FenetrePrincipale::AnnonceAttente);
+    QObject::connect(&verificateur, &VerificateurDesMoteurs::EtatDuMoteur, &fenetre.DonneReglages(),
+                     &PageReglages::MontreEtat);
+    PageMots& mots = fenetre.DonneMots();
+    QObject::connect(&mots, &PageMots::Demandee, &liaison, &LiaisonProcessus::ChercheMots);
+    QObject::connect(&mots, &PageMots::Remplace, &liaison, &LiaisonProcessus::RemplaceMot);
+    QObject::connect(&liaison, &LiaisonProcessus::MotsTrouves, &mots, &PageMots::Montre);
+    QObject::connect(&liaison, &LiaisonProcessus::MotRemplace, &mots, &PageMots::MontreIssue);
+}
+
+QStringList DonneMoteurs(ReglagesHote const& reglages) {
+    QStringList moteurs{QStringLiteral("hunspell"), QStringLiteral("regles")};
+    QStringList fautes; // for the authors of engines, who have `vocalyne-hote moteurs`
+    for (DescriptionMoteur const& moteur : DecouvreMoteurs(reglages, fautes)) {
+        moteurs.append(moteur.nom);
+    }
+    return moteurs;
+}
+
 } // namespace
 
 void PrepareFenetre() {
@@ -63,10 +88,11 @@ void PrepareFenetre() {
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 }
 
-eCodeSortie ExecuteFenetre(QString const& id, std::string const& fichierGreffon) {
+eCodeSortie ExecuteFenetre(QString const& id, std::string const& fichierGreffon,
+                           QString const& page) {
     VerifieEcran();
     InstanceUnique instance(id);
-    if (!instance.EstPremiere({})) {
+    if (!instance.EstPremiere(page)) {
         return kSortieReussie;
     }
     LiaisonProcessus liaison(DonneProgramme(fichierGreffon), id);
@@ -75,13 +101,10 @@ eCodeSortie ExecuteFenetre(QString const& id, std::string const& fichierGreffon)
     VerificateurDesMoteurs verificateur(FaisReglage(reglages));
     Revue revue(liaison, verificateur);
     Retiens(revue, *reglages);
-    FenetrePrincipale fenetre(revue);
-    QObject::connect(&instance, &InstanceUnique::Demandee, &fenetre, [&] { fenetre.Leve(); });
-    QObject::connect(&liaison, &Liaison::Ouverte, &fenetre, &FenetrePrincipale::MetsTitre);
-    QObject::connect(&liaison, &Liaison::Perdue, &fenetre, &FenetrePrincipale::AnnoncePerte);
-    QObject::connect(&liaison, &LiaisonProcessus::Attend, &fenetre,
-                     &FenetrePrincipale::AnnonceAttente);
-    fenetre.show();
+    FenetrePrincipale fenetre(revue, *reglages, DonneMoteurs(*reglages));
+    QObject::connect(&instance, &InstanceUnique::Demandee, &fenetre, &FenetrePrincipale::Leve);
+    Relie(fenetre, liaison, verificateur);
+    fenetre.Leve(page);
     liaison.Demarre();
     QApplication::exec();
     return kSortieReussie;

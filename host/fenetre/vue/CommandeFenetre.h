@@ -13,7 +13,9 @@ namespace hote {
 void PrepareFenetre();
 
 /// Opens the window of the document `id`, or shows the one that is open, and stays until it is
-/// closed. Throws ErreurHote where there is no screen. Main thread, with an application object.
-eCodeSortie ExecuteFenetre(QString const& id, std::string const& fichierGreffon);
+/// closed. `page`: the one to show ("mots"); may be empty. Throws ErreurHote where there is no
+/// screen. Main thread, with an application object.
+eCodeSortie ExecuteFenetre(QString const& id, std::string const& fichierGreffon,
+                           QString const& page);
 
 } // namespace hote

@@ -3,16 +3,28 @@
 
 #include "commun/MessagesHote.h"
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <QScreen>
 
 namespace hote {
 
-FenetrePrincipale::FenetrePrincipale(Revue& revue, QWidget* parent)
+FenetrePrincipale::FenetrePrincipale(Revue& revue, ReglagesHote& reglages,
+                                     QStringList const& moteurs, QWidget* parent)
     : QTabWidget(parent)
-    , correction_(new PageCorrection(revue)) {
+    , correction_(new PageCorrection(revue))
+    , mots_(new PageMots)
+    , reglages_(new PageReglages(reglages, moteurs)) {
     setDocumentMode(true);
     addTab(correction_, EnQt(Tr("&Correction")));
+    addTab(mots_, EnQt(Tr("&Mots")));
+    addTab(reglages_, EnQt(Tr("&Réglages")));
+    connect(this, &QTabWidget::currentChanged, this, [this] {
+        currentWidget()->setFocus();
+        DemandeLesMots();
+    });
+    connect(reglages_, &PageReglages::Changes, &revue, &Revue::Reexamine);
+    connect(&revue, &Revue::EtatChange, this, &FenetrePrincipale::DemandeLesMots);
     MetsTitre({});
     correction_->setFocus();
     connect(&revue, &Revue::EtatChange, this, [this, &revue] {
@@ -48,7 +60,24 @@ void FenetrePrincipale::AnnonceAttente(bool longtemps) {
     correction_->Annonce(longtemps ? EnQt(Tr("Le document met du temps à répondre…")) : QString());
 }
 
-void FenetrePrincipale::Leve() {
+void FenetrePrincipale::DemandeLesMots() {
+    if (currentWidget() == mots_ && isVisible()) {
+        Q_EMIT mots_->Demandee();
+    }
+}
+
+void FenetrePrincipale::changeEvent(QEvent* evenement) {
+    QTabWidget::changeEvent(evenement);
+    // The person comes from the document, where another word may be selected.
+    if (evenement->type() == QEvent::ActivationChange && isActiveWindow()) {
+        DemandeLesMots();
+    }
+}
+
+void FenetrePrincipale::Leve(QString const& page) {
+    if (page == QLatin1String("mots")) {
+        setCurrentWidget(mots_);
+    }
     if (isMinimized()) {
         showNormal();
     }

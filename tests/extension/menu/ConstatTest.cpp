@@ -25,8 +25,13 @@ class Diagnostic : public testing::TestWithParam<bool> {
     void TearDown() override { compagnon::MetsFrancais(false); }
 
     static Constat ToutVaBien() {
-        return {"com.x.lo1", {EtatDuBus::Genre::Sert, {}},       2,
-                "lo1~d1",    {"/usr/bin/vocalyne-hote", {}, {}}, {{"/usr/bin/xterm", "-e"}, {}}};
+        return {"com.x.lo1",
+                {EtatDuBus::Genre::Sert, {}},
+                2,
+                "lo1~d1",
+                {"/usr/bin/vocalyne-hote", {}, {}},
+                false,
+                {{"/usr/bin/xterm", "-e"}, {}}};
     }
     char const* Selon(char const* francais, char const* anglais) const {
         return GetParam() ? francais : anglais;
@@ -56,6 +61,14 @@ TEST_P(Diagnostic, EachThingMissingHasASentenceOfItsOwnInTheReportToo) {
     for (std::string const& manque : manques) {
         EXPECT_THAT(Rapport(constat), HasSubstr("• " + manque));
     }
+}
+
+TEST_P(Diagnostic, NoTerminalIsMissingWhereTheHostHasAWindow) {
+    Constat constat = ToutVaBien();
+    constat.ecran = true;
+    constat.terminal = {};
+    EXPECT_THAT(Manques(constat), IsEmpty());
+    EXPECT_THAT(Rapport(constat), Not(HasSubstr("Terminal")));
 }
 
 TEST_P(Diagnostic, WhatTheEnvironmentNamesWronglyIsQuoted) {

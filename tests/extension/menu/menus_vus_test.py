@@ -67,14 +67,18 @@ class Vus(ecran.Fenetres):
                 banc.attends(lambda: disposition.isElementVisible(menus.BARRE), "the toolbar")
                 self.ecran.photographie(f"barre-{genre}-{self.interface}-{self.langue}")
 
-    def test_the_entry_correct_starts_the_host(self):
+    def test_the_entries_open_the_hosts_window(self):
         doc = self.ouvre_en_vue()
         doc.Text.setString("un chat noir")
         identifiant = banc.Client(self.bus).prends(doc)
-        self.choisis(1, self.outils.notes_terminal.exists,
+        self.choisis(1, self.outils.notes_hote.exists,
                      photo=f"menu-{self.interface}-{self.langue}")
-        hote, _ = self.outils.attends()
-        self.assertEqual(hote["arguments"], ["corrige", identifiant])
+        hote = self.outils.attends_la_fenetre()
+        self.assertEqual(hote["arguments"], ["fenetre", identifiant])
+        self.assertEqual(hote["environnement"]["DISPLAY"], self.ecran.nom)
+        menus.demande(self.bureau, doc.CurrentController.Frame, "dictionnaire")
+        hote = self.outils.attends_la_fenetre()
+        self.assertEqual(hote["arguments"], ["fenetre", "--page", "mots", identifiant])
 
     def test_about_opens_a_box_that_closes(self):
         self.ouvre_en_vue()
