@@ -31,5 +31,5 @@ install(DIRECTORY protocol/ DESTINATION "${CMAKE_INSTALL_DATADIR}/vocalyne/proto
   FILES_MATCHING PATTERN "*.xml" PATTERN "*.json" PATTERN "*.md" PATTERN "*.h")
 
 # Examples to begin with.
-install(DIRECTORY exemples/connecteur-markdown DESTINATION "${CMAKE_INSTALL_DOCDIR}/exemples"
-  COMPONENT sdk)
+install(DIRECTORY exemples/connecteur-markdown exemples/compagnon-python
+  DESTINATION "${CMAKE_INSTALL_DOCDIR}/exemples" COMPONENT sdk USE_SOURCE_PERMISSIONS)
