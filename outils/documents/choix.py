@@ -7,6 +7,7 @@ from typing import NamedTuple
 
 REMPLISSAGE = "\x07"
 MOTS = ("mot", "été", "naïveté", "x", "deux mots", "l’œuvre", "Ωmega", "𝄞a", "12", "=A1", " ")
+AUTOUR = 4  # zones on each side by which one that reads like others is known
 ZONES_VUES = 4000  # of a huge document, enough to find a border and a field
 
 
@@ -24,6 +25,16 @@ def coupe_une_paire(unites: str, ou: int) -> bool:
             and 0xDC00 <= ord(unites[ou]) < 0xE000)
 
 
+def _autour(textes: list[str], rang: int) -> tuple[str, ...]:
+    avant = textes[max(0, rang - AUTOUR):rang]
+    return (*[""] * (AUTOUR - len(avant)), *avant, *textes[rang:rang + AUTOUR + 1])
+
+
+def semblance(essai, textes: list[str], rang: int) -> int:
+    """How many of the texts around that one stand around what was corrected."""
+    return sum(vu == voulu for vu, voulu in zip(_autour(textes, rang), essai.autour))
+
+
 class Essai(NamedTuple):
     """A correction to try; offsets in UTF-16 units of the zone's text `avant`."""
 
@@ -34,6 +45,7 @@ class Essai(NamedTuple):
     ajout: str
     genre: str
     pareilles: int  # zones before it that read the same
+    autour: tuple[str, ...] = ()  # what the zones beside it read: those before it, itself, those after
 
     @property
     def original(self) -> str:
@@ -81,7 +93,8 @@ class Choix:
                         ajout == en_texte(unites[debut:fin]):
                     continue
                 return Essai(rang, zones[rang].texte, debut, fin, ajout, genre,
-                             sum(z.texte == zones[rang].texte for z in zones[:rang]))
+                             sum(z.texte == zones[rang].texte for z in zones[:rang]),
+                             _autour([z.texte for z in zones], rang))
         return None
 
     def _plage(self, genre: str, zone) -> tuple[int, int] | None:

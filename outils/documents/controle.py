@@ -6,8 +6,9 @@ import os
 
 import banc
 from .constats import BUREAU, FAUTE, Bilan
+from .fichier.demandees import sans_demandees
 from .fichier.differences import Difference, differences, mesures, partage
-from .fichier.ossature import Ossature
+from .fichier.ossature import Ligne, Ossature
 from .ouvert import Ouvert, PasAnnule, PasEnregistre
 from .temoin import Temoin
 
@@ -42,7 +43,14 @@ class Controle:
         self._tableur = False
 
     def compare(self, nature: str, avant: Ossature, apres: Ossature) -> None:
-        if trouvees := differences(avant.lignes, apres.lignes):
+        self._note(nature, avant.lignes, apres.lignes)
+
+    def compare_corriges(self, avant: Ossature, apres: Ossature) -> None:
+        """Their structure: of letters other ones were asked for."""
+        self._note("structure", *sans_demandees(avant.lignes, apres.lignes))
+
+    def _note(self, nature: str, avant: list[Ligne], apres: list[Ligne]) -> None:
+        if trouvees := differences(avant, apres):
             self._vues[nature] = trouvees
 
     def juge(self) -> None:

@@ -91,7 +91,7 @@ class Epreuve:
         annule = ouvert.enregistre()
         # The read state is what corrections began with: what reading changed was told above.
         controle.faits = self._faits
-        controle.compare("structure", Ossature(lu, False), Ossature(corrige, False))
+        controle.compare_corriges(Ossature(lu, False), Ossature(corrige, False))
         controle.compare("annulation", Ossature(lu, True), Ossature(annule, True))
         self.etape = "the same without the extension"
         ouvert.ferme()

@@ -6,8 +6,9 @@ The extension is asked for nothing here, and nothing of its way of finding place
 
 import itertools
 import os
+from typing import NamedTuple
 
-from .choix import REMPLISSAGE, Essai, en_unites
+from .choix import REMPLISSAGE, Essai, en_unites, semblance
 
 PARAGRAPHE_ECRIT = "SwXParagraph"  # of a text document: the services of both kinds are the same
 CHOSES = ("Footnote", "TextField", "ContentControl", "TextFieldStart", "TextFieldSeparator",
@@ -27,6 +28,26 @@ def _valeur(objet, nom: str):
         return getattr(objet, nom)
     except AttributeError:
         return None
+
+
+def _est_ferme(controle) -> bool:
+    """A content control that something is chosen in."""
+    return bool(_valeur(controle, "ListItems")) or any(
+        _valeur(controle, nom) for nom in ("Checkbox", "Picture", "Date"))
+
+
+def _lettres_saisies(champ) -> str:
+    """What stands in an input field as letters of the text; nothing of any other field."""
+    if champ is None or not champ.supportsService("com.sun.star.text.TextField.Input"):
+        return ""
+    return champ.Content if all(c >= " " or c == "\t" for c in champ.Content) else ""
+
+
+class Portion(NamedTuple):
+    etendue: object
+    lettres: str  # for what is no letter the filler, or nothing
+    entiere: bool  # one thing, whatever it reads
+    avant: int = 0  # steps of a cursor from its start to its letters
 
 
 def _est_dans_la_ligne(portion) -> bool:
@@ -63,29 +84,30 @@ class Paragraphe:
         return self._etendue.ImplementationName == PARAGRAPHE_ECRIT
 
     def _portions(self, porteur=None):
-        """Triples of a range, its letters, and whether it is one thing; for what is no letter the
-        filler, or nothing."""
         for portion in _suite((porteur or self._donne_etendue()).createEnumeration()):
             genre = _valeur(portion, "TextPortionType")
             dedans = genre in ("ContentControl", "InContentMetadata") and _valeur(portion, genre)
-            if dedans and not _valeur(dedans, "ListItems"):
+            if dedans and not _est_ferme(dedans):
                 yield from self._portions(dedans)
             elif genre == "Text" or genre is None:
                 if not _valeur(portion, "CharHidden"):
-                    yield portion, portion.getString(), False
+                    yield Portion(portion, portion.getString(), False)
             elif genre == "LineBreak":
-                yield portion, REMPLISSAGE, True
+                yield Portion(portion, REMPLISSAGE, True)
             elif genre == "TextField" and not self._est_ecrit():  # a link, read as its words
-                yield portion, portion.getString(), True
+                yield Portion(portion, portion.getString(), True)
+            elif genre == "TextField" and _lettres_saisies(portion.TextField):
+                yield Portion(portion, _lettres_saisies(portion.TextField), False, 1)
             elif genre in CHOSES or genre == "Frame" and _est_dans_la_ligne(portion):
-                yield portion, REMPLISSAGE, True
+                yield Portion(portion, REMPLISSAGE, True)
 
     def se_lit(self, texte: str) -> bool:
-        return "".join(lettres for _, lettres, _ in self._portions()).replace(CESURE, "") == texte
+        return "".join(portion.lettres for portion in self._portions()).replace(CESURE, "") == texte
 
     def remplace(self, essai: Essai) -> bool:
         if self.champ is not None:  # of a comment in a text, only all of it at once
             self.champ.Content = self.champ.Content.replace(essai.avant, essai.apres, 1)
+            self.vu = essai.apres
             return True
         avant, apres = _differe(essai.original, essai.ajout)
         debut, fin = (self._position(essai.debut + len(en_unites(essai.original[:avant]))),
@@ -100,7 +122,7 @@ class Paragraphe:
     def _position(self, unite: int):
         """A cursor there; a place counts from the start of the letters that hold it."""
         passees, bout = 0, self._donne_etendue().getStart()
-        for portion, lettres, entiere in self._portions():
+        for portion, lettres, entiere, avant in self._portions():
             if entiere:
                 if unite == passees:
                     return self._curseur(portion.getStart())
@@ -109,7 +131,7 @@ class Paragraphe:
                 pas = _pas(lettres, unite - passees, self._est_ecrit())
                 if pas is not None:
                     curseur = self._curseur(portion.getStart())
-                    curseur.goRight(pas, False)
+                    curseur.goRight(avant + pas, False)
                     return curseur
                 passees += len(en_unites(lettres.replace(CESURE, "")))
             bout = portion.getEnd()
@@ -145,16 +167,24 @@ class Temoin:
             self._pages(modele)
 
     def fais(self, essai: Essai) -> bool:
-        """Makes the correction in the paragraph that reads as the zone did, of several in the one
-        that comes as far down."""
-        semblables = [p for p in self._paragraphes if p.vu == essai.avant]
+        """Makes the correction in the paragraph that reads as the zone did; of several in the one that
+        stands between the same ones, or comes as far down."""
+        semblables = [i for i, p in enumerate(self._paragraphes) if p.vu == essai.avant]
         if not semblables:
             plus_long = max(essai.avant.replace("\n", REMPLISSAGE).split(REMPLISSAGE), key=len)
-            possibles = [p for p in self._paragraphes if plus_long in p.vu.replace(CESURE, "")]
-            semblables = [p for p in possibles[:POSSIBLES_MAX] if p.se_lit(essai.avant)]
+            possibles = [i for i, p in enumerate(self._paragraphes)
+                         if plus_long in p.vu.replace(CESURE, "")]
+            semblables = [i for i in possibles[:POSSIBLES_MAX]
+                          if self._paragraphes[i].se_lit(essai.avant)]
         if not semblables:
             return False
-        return semblables[min(essai.pareilles, len(semblables) - 1)].remplace(essai)
+        textes = [p.vu for p in self._paragraphes]
+        notes = [semblance(essai, textes, i) for i in semblables]
+        meilleurs = [i for i, note in zip(semblables, notes) if note == max(notes)]
+        choisi = semblables[min(essai.pareilles, len(semblables) - 1)]
+        if choisi not in meilleurs:
+            choisi = meilleurs[0]
+        return self._paragraphes[choisi].remplace(essai)
 
     def _texte(self, texte, champ=None, donne=None) -> None:
         for rang, element in enumerate(_suite(texte.createEnumeration())):

@@ -3,12 +3,14 @@
 """What is read of a saved file: its words with the reason why some are left out, and its structure."""
 
 import pathlib
+import re
 import sys
 import tempfile
 import unittest
 import zipfile
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "outils"))
+from documents.fichier.demandees import sans_demandees
 from documents.fichier.differences import Difference, differences, partage
 from documents.fichier.mots import Lecture
 from documents.fichier.ossature import Ligne, Ossature
@@ -216,6 +218,14 @@ class Structure(unittest.TestCase):
         self.assertNotEqual(lignes(f"<text:p>a{marque}</text:p>", lettres=False),
                             lignes(f"<text:p>{marque}a</text:p>", lettres=False))
 
+    def test_bookmarks_of_the_same_place_have_no_order(self):
+        def marques(*noms: str) -> str:
+            return "".join(f'<text:bookmark-start text:name="{nom}"/>' for nom in noms)
+        self.assertEqual(lignes(f"<text:p>{marques('a', 'b')}mot</text:p>"),
+                         lignes(f"<text:p>{marques('b', 'a')}mot</text:p>"))
+        self.assertNotEqual(lignes(f"<text:p>{marques('a')}mot{marques('b')}</text:p>"),
+                            lignes(f"<text:p>{marques('b')}mot{marques('a')}</text:p>"))
+
     def test_cells_that_stop_being_repeated_are_the_same(self):
         def feuille(*cellules: str) -> str:
             return f"<table:table><table:table-row>{''.join(cellules)}</table:table-row></table:table>"
@@ -231,6 +241,44 @@ class Structure(unittest.TestCase):
                          lignes(cellule.format("of:=A1", "2", "2"), lettres=False))
         self.assertNotEqual(lignes(cellule.format("of:=A1", "1", "1"), lettres=False),
                             lignes(cellule.format("of:=A2", "1", "1"), lettres=False))
+
+
+class Demandees(unittest.TestCase):
+    """Of two paragraphs: do their runs differ as was asked for?"""
+
+    def juge(self, avant: str, apres: str, juste: bool):
+        styles = gras("G") + gras("R", 'fo:color="#ff0000"')
+        textes = [re.sub(r"([GR])\(([^)]*)\)", r'<text:span text:style-name="\1">\2</text:span>', dit)
+                  for dit in (avant, apres)]
+        vues = [Ossature(fichier(f"<text:p>{t}</text:p>", styles), False).lignes for t in textes]
+        self.assertNotEqual(*([ligne.dit for ligne in lignes] for lignes in vues))
+        restes = sans_demandees(*vues)
+        self.assertEqual(not differences(*restes), juste, restes)
+
+    def test_a_format_whose_letters_were_all_replaced_or_taken_out_may_go(self):
+        self.juge("un G(mot) ici", "un  ici", True)
+        self.juge("G(e)R( )fin", "G(x)fin", True)
+
+    def test_a_letter_that_stays_keeps_its_format(self):
+        self.juge("un G(mot)", "un G(m)ot", False)
+        self.juge("un G(mot) ici", "un mot ici", False)
+        self.juge("un mot ici", "un G(mot) ici", False)
+
+    def test_new_letters_have_the_format_of_what_they_replace(self):
+        self.juge("a G(quoi) b", "a z b", False)
+        self.juge("G(a)R(b)", "G(a)R(b)R()zz", False)
+        self.juge("a", "aG(z)", False)
+
+    def test_an_empty_paragraph_gets_letters_without_a_format(self):
+        self.juge("", "mot", True)
+        self.juge("", "G(mot)", False)
+
+    def test_what_is_no_letter_stays_where_it_is(self):
+        marque, champ = '<text:bookmark text:name="x"/>', "<text:page-number/>"
+        self.juge(f"G(a){marque}b", f"G(a)b{marque}", False)
+        self.juge(f"G(a) {champ}b", "G(a) b", False)
+        self.juge(f"G(a){champ}b", f"{champ}b", True)
+        self.juge(f"G(a){champ}b", f"{champ}ab", False)
 
 
 class Differences(unittest.TestCase):

@@ -5,6 +5,7 @@ Two saves of the same document give the same lines, whatever the office calls it
 and however it cuts spans and repeated cells.
 """
 
+import itertools
 from typing import NamedTuple
 
 from .formats import SANS_EFFET, Formats, designe_un_style
@@ -40,6 +41,20 @@ def _anime_rien(element) -> bool:
 class Ligne(NamedTuple):
     lieu: str
     dit: str
+    lettres: str = ""  # of a run of letters, whether it says them or not
+
+
+def _range_les_signets(lignes: list[Ligne]) -> None:
+    """Several bookmarks that start or end in the same place are written in whatever order."""
+    def genre(ligne: Ligne) -> str:
+        return ligne.dit.split("[")[0] if ligne.dit.startswith("text:bookmark") else ""
+    debut = 0
+    for sorte, suite in itertools.groupby(lignes[:], genre):
+        fin = debut + sum(1 for _ in suite)
+        if sorte:
+            dits = sorted(ligne.dit for ligne in lignes[debut:fin])
+            lignes[debut:fin] = [ligne._replace(dit=dit) for ligne, dit in zip(lignes[debut:fin], dits)]
+        debut = fin
 
 
 class Ossature:
@@ -50,9 +65,10 @@ class Ossature:
                                (sauvegarde.styles, "office:master-styles")):
             self._formats = Formats(racine)
             self._enfants(Sauvegarde.partie(racine, partie), partie.split(":")[1])
+        _range_les_signets(self.lignes)
 
-    def _dis(self, lieu: str, dit: str) -> None:
-        self.lignes.append(Ligne(lieu, dit))
+    def _dis(self, lieu: str, dit: str, lettres: str = "") -> None:
+        self.lignes.append(Ligne(lieu, dit, lettres))
 
     def _attributs(self, element, genre: str) -> str:
         tous = attributs(element)
@@ -120,7 +136,7 @@ class Ossature:
 
     def passage(self, lieu: str, formats: tuple[str, ...], lettres: str) -> None:
         dit = "letters" + "".join(f"{{{f}}}" for f in formats)
-        self._dis(lieu, f"{dit} {lettres!r}" if self._lettres else dit)
+        self._dis(lieu, f"{dit} {lettres!r}" if self._lettres else dit, lettres)
 
     def dans_la_ligne(self, element, genre: str, lieu: str, formats: tuple[str, ...]) -> None:
         if formats and not genre.startswith(REPERES):
