@@ -12,6 +12,7 @@ enum class RaisonNonLu : std::uint8_t {
     Choix,    ///< chosen, not typed: an entry of a list, a date, a box that is ticked
     Masque,   ///< hidden letters, and paragraphs, cells and shapes
     Supprime, ///< deleted while changes were recorded
+    Saisie,   ///< typed into an input field of several lines, whose end the office does not tell
     Genere,   ///< made by the office out of other text: an index, a pivot table
     kNombre
 };

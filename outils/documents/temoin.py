@@ -8,7 +8,7 @@ import itertools
 import os
 from typing import NamedTuple
 
-from .choix import REMPLISSAGE, Essai, en_unites, semblance
+from .choix import REMPLISSAGE, Essai, en_texte, en_unites, semblance
 
 PARAGRAPHE_ECRIT = "SwXParagraph"  # of a text document: the services of both kinds are the same
 CHOSES = ("Footnote", "TextField", "ContentControl", "TextFieldStart", "TextFieldSeparator",
@@ -84,8 +84,13 @@ class Paragraphe:
         return self._etendue.ImplementationName == PARAGRAPHE_ECRIT
 
     def _portions(self, porteur=None):
+        supprimees = 0  # tracked deletions that are open
         for portion in _suite((porteur or self._donne_etendue()).createEnumeration()):
             genre = _valeur(portion, "TextPortionType")
+            if genre == "Redline" and portion.RedlineType == "Delete" and not portion.IsCollapsed:
+                supprimees = max(0, supprimees + (1 if portion.IsStart else -1))
+            if supprimees:
+                continue
             dedans = genre in ("ContentControl", "InContentMetadata") and _valeur(portion, genre)
             if dedans and not _est_ferme(dedans):
                 yield from self._portions(dedans)
@@ -109,6 +114,8 @@ class Paragraphe:
             self.champ.Content = self.champ.Content.replace(essai.avant, essai.apres, 1)
             self.vu = essai.apres
             return True
+        if self._dans_un_lien(essai):
+            return True
         avant, apres = _differe(essai.original, essai.ajout)
         debut, fin = (self._position(essai.debut + len(en_unites(essai.original[:avant]))),
                       self._position(essai.fin - len(en_unites(essai.original[apres:]))))
@@ -118,6 +125,22 @@ class Paragraphe:
         debut.setString(essai.ajout[avant:len(essai.ajout) - len(essai.original) + apres])
         self.vu = self._donne_etendue().getString()
         return True
+
+    def _dans_un_lien(self, essai: Essai) -> bool:
+        """Gives a link of the drawing engine other words, where all that is corrected stands in it."""
+        passees = 0
+        for portion in self._portions():
+            debut, fin = passees, passees + len(en_unites(portion.lettres))
+            passees = fin
+            if portion.entiere and portion.lettres != REMPLISSAGE and debut < essai.fin <= fin and \
+                    debut <= essai.debut and (essai.debut, essai.ajout) != (debut, ""):
+                unites, champ = en_unites(portion.lettres), portion.etendue.TextField
+                champ.Representation = en_texte(unites[:essai.debut - debut] + en_unites(essai.ajout)
+                                                + unites[essai.fin - debut:])
+                self._donne_texte().insertTextContent(self._curseur(portion.etendue), champ, True)
+                self.vu = self._donne_etendue().getString()
+                return True
+        return False
 
     def _position(self, unite: int):
         """A cursor there; a place counts from the start of the letters that hold it."""
@@ -169,18 +192,20 @@ class Temoin:
     def fais(self, essai: Essai) -> bool:
         """Makes the correction in the paragraph that reads as the zone did; of several in the one that
         stands between the same ones, or comes as far down."""
-        semblables = [i for i, p in enumerate(self._paragraphes) if p.vu == essai.avant]
+        textes = [p.vu for p in self._paragraphes]
+        semblables = [i for i, vu in enumerate(textes) if vu == essai.avant]
+        notes = [semblance(essai, textes, i) for i in range(len(textes))]
         if not semblables:
             plus_long = max(essai.avant.replace("\n", REMPLISSAGE).split(REMPLISSAGE), key=len)
-            possibles = [i for i, p in enumerate(self._paragraphes)
-                         if plus_long in p.vu.replace(CESURE, "")]
-            semblables = [i for i in possibles[:POSSIBLES_MAX]
-                          if self._paragraphes[i].se_lit(essai.avant)]
+            possibles = [i for i, vu in enumerate(textes) if plus_long in vu.replace(CESURE, "")]
+        else:  # one with something in it that does not count may read the same
+            possibles = [i for i, note in enumerate(notes)
+                         if note > max(notes[i] for i in semblables)]
+        semblables += [i for i in possibles[:POSSIBLES_MAX]
+                       if self._paragraphes[i].se_lit(essai.avant)]
         if not semblables:
             return False
-        textes = [p.vu for p in self._paragraphes]
-        notes = [semblance(essai, textes, i) for i in semblables]
-        meilleurs = [i for i, note in zip(semblables, notes) if note == max(notes)]
+        meilleurs = [i for i in semblables if notes[i] == max(notes[j] for j in semblables)]
         choisi = semblables[min(essai.pareilles, len(semblables) - 1)]
         if choisi not in meilleurs:
             choisi = meilleurs[0]

@@ -221,8 +221,11 @@ void TexteDessine::Fais(ParagrapheLu const& lu, std::vector<Geste> const& gestes
     auto const champs = ChampsDe(lu);
     for (Geste const& geste : gestes) {
         if (geste.champ) {
-            texte->insertTextContent(curseur(geste.position, 1).get(),
+            auto const place = curseur(geste.position, 1);
+            FormatPropre const format(place.get()); // the new one has none of its own
+            texte->insertTextContent(place.get(),
                                      ChampAvec(champs.at(*geste.champ), EnUno(geste.ajout)), true);
+            format.Mets(curseur(geste.position, 1).get());
             continue;
         }
         if (geste.retire > 0) {

@@ -106,6 +106,9 @@ void PassageDePortions::Saisie(Vue const& vue, OUString const& lettres) {
                                     [](char16_t unite) { return unite < 0x20 && unite != u'\t'; });
     if (lettres.isEmpty() || !seule || dedans->getString() != lettres ||
         !vues.startsWith(lettres)) {
+        if (!lettres.isEmpty()) {
+            lu_.plan.NoteNonLu(RaisonNonLu::Saisie);
+        }
         Chose(vue);
         return;
     }

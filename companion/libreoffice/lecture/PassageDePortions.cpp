@@ -52,8 +52,8 @@ PassageDePortions::Genre const& PassageDePortions::DonneGenre(uno::Any const& no
         {u"Ruby", true, &P::Bord},
         {u"ReferenceMark", true, &P::Marque},
         {u"DocumentIndexMark", true, &P::Marque},
-        {u"Annotation", false, &P::Commentaire},
-        {u"AnnotationEnd", false, &P::Commentaire},
+        {u"Annotation", true, &P::Commentaire},
+        {u"AnnotationEnd", true, &P::Commentaire},
         {u"Footnote", false, &P::Note},
         {u"Frame", false, &P::Cadres},
         {u"LineBreak", false, &P::SautDeLigne},
@@ -194,6 +194,11 @@ void PassageDePortions::Bord(Vue const& vue) {
 }
 
 void PassageDePortions::Commentaire(Vue const& vue) {
+    if (suppressions_ > 0 || EstDansUneCommande()) {
+        Ajoute(vue, GenrePortion::Exclue);
+        return;
+    }
+    // Also one on hidden letters: the margin shows it all the same.
     Ajoute(vue, GenrePortion::Ancre);
     // Where a commented range ends there is a portion too, without the comment.
     uno::Reference<text::XTextField> champ;

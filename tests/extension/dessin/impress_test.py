@@ -404,6 +404,21 @@ class Correction(Cas):
         self.annule(3, encore=True)
         self.assertEqual(self.liens(forme), apres)
 
+    def test_a_link_in_a_format_of_its_own_keeps_it(self):
+        forme = self.forme("un\nvoir")
+        for _ in range(2):
+            self.lien(forme, 7, "un bau lien")
+        lettres = plage(forme, 7, 9)
+        lettres.CharWeight, lettres.CharHeight, lettres.CharColor = 150.0, 30.0, 0x0000FF
+        self.corrige("voirun bau", "voisun beau")
+        for texte in ("voisun beau lienun bau lien", "voirun bau lienun bau lien"):
+            self.assertEqual(self.client.textes(), ["un", texte])
+            for rang in (7, 8):
+                vu = plage(forme, rang, rang + 1)
+                self.assertEqual((vu.CharWeight, vu.CharHeight, vu.CharColor), (150.0, 30.0, 0x0000FF))
+            if self.doc.UndoManager.isUndoPossible():
+                self.annule()
+
     def test_a_link_never_loses_all_of_its_words(self):
         forme = self.forme("voir  ici")
         self.lien(forme, 5, "lien")

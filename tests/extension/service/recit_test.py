@@ -231,6 +231,7 @@ class Rapport(unittest.TestCase):
             e.met("com.sun.star.text.textfield.DropDown", Items=("x", "y"), SelectedItem="y")
             e.ecrit(" ")
         e.met("com.sun.star.text.textfield.PageNumber")
+        e.met("com.sun.star.text.textfield.Input", Content="une ligne\r", Hint="h")
         e.plage(3, 8).CharHidden = True
         doc.RecordChanges = True
         e.plage(8, 14).setString("")
@@ -239,6 +240,7 @@ class Rapport(unittest.TestCase):
         self.assertEqual({r["code"]: (r["nombre"], r["phrase"])
                           for r in client.rapport()["laisses"]},
                          {"choix": (2, "2 choices from lists, or dates, are not read"),
+                          "saisie": (1, "1 input field of several lines is not read"),
                           "masque": (1, "1 hidden passage is not read"),
                           "supprime": (1, "1 deleted passage (tracked changes) is not read")})
 

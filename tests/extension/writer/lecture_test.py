@@ -174,6 +174,13 @@ class Caracteres(Cas):
         self.texte.setString("cons\u00adtitution\nnext\tend\u00a0!")
         self.assertEqual(self.seule().texte, "constitution\nnext\tend\u00a0!")
 
+    def test_a_comment_on_hidden_letters_is_read_as_the_margin_shows_it(self):
+        self.e.ecrit("seen hidden ")
+        self.e.met("com.sun.star.text.textfield.Annotation", Content="remarque")
+        self.e.ecrit("seen")
+        self.e.plage(5, 13).CharHidden = True
+        self.assertEqual(self.client.textes(), ["seen seen", "remarque"])
+
     def test_hidden_letters_are_not_read(self):
         self.texte.setString("seen hidden seen")
         self.e.plage(5, 12).CharHidden = True
