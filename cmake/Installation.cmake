@@ -33,3 +33,8 @@ install(DIRECTORY protocol/ DESTINATION "${CMAKE_INSTALL_DATADIR}/vocalyne/proto
 # Examples to begin with.
 install(DIRECTORY exemples/connecteur-markdown exemples/compagnon-python
   DESTINATION "${CMAKE_INSTALL_DOCDIR}/exemples" COMPONENT sdk USE_SOURCE_PERMISSIONS)
+
+# Pages for authors, in folders that their links know.
+install(FILES docs/abi.md docs/connecteur.md docs/pilote.md
+  DESTINATION "${CMAKE_INSTALL_DOCDIR}/docs" COMPONENT sdk)
+install(FILES protocol/README.md DESTINATION "${CMAKE_INSTALL_DOCDIR}/protocol" COMPONENT sdk)
