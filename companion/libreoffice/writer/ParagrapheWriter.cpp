@@ -4,6 +4,7 @@
 #include "commun/ChainesUno.h"
 #include "commun/Proprietes.h"
 #include "dessin/EditionEnCours.h"
+#include "document/EtapePropre.h"
 #include "document/SelectionDuBureau.h"
 #include "lecture/Curseur.h"
 #include "lecture/FormatPropre.h"
@@ -91,6 +92,31 @@ bool ParagrapheWriter::EstProtegee() {
 }
 
 void ParagrapheWriter::Applique(CorrectionPrete const& correction) {
+    SignetsDuParagraphe const avant = DonneSignets();
+    if (avant.EstVide()) {
+        Fais(correction);
+        return;
+    }
+    // The office's own steps stand between these: undone, the first one comes last.
+    AjouteEtape(fond_->modele, {}, [avant](bool aLEnvers) {
+        if (aLEnvers) {
+            avant.Retablis();
+        }
+    });
+    Fais(correction);
+    AjouteEtape(fond_->modele, {}, [apres = DonneSignets()](bool aLEnvers) {
+        if (!aLEnvers) {
+            apres.Retablis();
+        }
+    });
+}
+
+SignetsDuParagraphe ParagrapheWriter::DonneSignets() const {
+    return SignetsDuParagraphe(fond_->modele, contenant_->texte,
+                               uno::Reference<text::XTextRange>(paragraphe_, uno::UNO_QUERY_THROW));
+}
+
+void ParagrapheWriter::Fais(CorrectionPrete const& correction) const {
     std::vector<uno::Reference<text::XTextRange>> const etendues = DonneEtendues();
     for (compagnon::EtapeEdition const& etape : correction.etapes) {
         std::u16string_view const source = etape.source;

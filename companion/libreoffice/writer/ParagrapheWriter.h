@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
+#include "SignetsDuParagraphe.h"
 #include "Suppressions.h"
 #include "commun/Objets.h"
 #include "document/Contenant.h"
@@ -51,6 +52,9 @@ class ParagrapheWriter : public ZoneOuverte {
 
   private:
     ParagrapheLu LisPortions() const;
+    SignetsDuParagraphe DonneSignets() const;
+    /// Does a correction's steps.
+    void Fais(CorrectionPrete const& correction) const;
     /// Puts letters in where the cursor stands, in `portion`.
     void Insere(css::uno::Reference<css::text::XTextCursor> const& curseur,
                 std::u16string const& lettres,
