@@ -106,6 +106,7 @@ void Revue::MetsCourante(quint64 id) {
         return;
     }
     courante_ = id;
+    prochainAlors_ = prochainId_;
     if (auto const montree = Donne(id)) {
         liaison_.Selectionne(montree->paragraphe, montree->remarque.debut, montree->remarque.fin);
     }
@@ -124,8 +125,35 @@ void Revue::Suivante() {
         ChoisisPremiere();
         return;
     }
-    MetsCourante(ChercheDepuis(montree->paragraphe, montree->remarque.debut + 1, true));
+    quint64 const tardive = ChercheTardive(*montree);
+    MetsCourante(tardive != 0
+                     ? tardive
+                     : ChercheDepuis(montree->paragraphe, montree->remarque.debut + 1, true));
     ChoisisPremiere();
+}
+
+/// The first remark before the one shown that has come since that was chosen: engines are not
+/// equally quick, and the order is the text's all the same.
+quint64 Revue::ChercheTardive(RemarqueMontree const& montree) const {
+    int const nombre = static_cast<int>(paragraphes_.size());
+    int const depart = std::clamp(depart_.zone, 0, std::max(nombre - 1, 0));
+    for (int pas = 0; pas < nombre; ++pas) {
+        int const rang = (depart + pas) % nombre;
+        ParagrapheSuivi const& ici = paragraphes_[static_cast<std::size_t>(rang)];
+        for (RemarqueSuivie const& remarque : ici.DonneRemarques()) {
+            if (rang == montree.paragraphe && remarque.remarque.debut >= montree.remarque.debut) {
+                return 0;
+            }
+            if (remarque.id >= prochainAlors_ && remarque.etat == EtatRemarque::AVoir &&
+                EstADecider(ici, remarque)) {
+                return remarque.id;
+            }
+        }
+        if (rang == montree.paragraphe) {
+            return 0;
+        }
+    }
+    return 0;
 }
 
 void Revue::Precedente() {

@@ -128,6 +128,7 @@ class Revue : public QObject {
     ParagrapheSuivi* TrouveParagraphe(quint64 jeton);
     std::vector<ParagrapheSuivi> Reporte(Lecture const& lecture);
     void NoteLieux(ParagrapheSuivi const& paragraphe);
+    quint64 ChercheTardive(RemarqueMontree const& montree) const;
     void MetsCourante(quint64 id);
     void Demande(ParagrapheSuivi& paragraphe, int priorite);
     void DemandeTout();
@@ -151,6 +152,7 @@ class Revue : public QObject {
     PlaceDuCurseur depart_;
     quint64 courante_ = 0;
     quint64 prochainId_ = 1;
+    quint64 prochainAlors_ = 1; ///< when the remark shown was chosen
     quint64 prochainParagraphe_ = 1;
     quint64 prochainEnvoi_ = 1;
     bool lue_ = false;

@@ -59,7 +59,7 @@ PageCorrection::PageCorrection(Revue& revue, QWidget* parent)
     setFocusProxy(suggestions_);
     bientot_.setSingleShot(true);
     EcouteRevue();
-    MontreRien();
+    Actualise();
 }
 
 QWidget* PageCorrection::CreeRemarque() {
@@ -298,6 +298,12 @@ void PageCorrection::MontreProgres() {
 }
 
 bool PageCorrection::eventFilter(QObject* objet, QEvent* evenement) {
+    auto* const bouton = qobject_cast<QPushButton*>(objet);
+    if (evenement->type() == QEvent::Shortcut && bouton != nullptr && isAncestorOf(bouton)) {
+        // By itself a button waits a tenth of a second, and takes two quick keys for one.
+        bouton->click();
+        return true;
+    }
     bool const pourNous = evenement->type() == QEvent::KeyPress && isVisible() &&
                           objet == QApplication::focusWidget() && objet != autre_ &&
                           QApplication::activeWindow() == window();

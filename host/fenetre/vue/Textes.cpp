@@ -33,9 +33,16 @@ PhraseMontree DonnePhrase(QString const& paragraphe, int debut, int fin) {
     phrases.setPosition(std::max(debut, fin - 1));
     int const suivante = phrases.toNextBoundary();
     int const arrivee = suivante < fin ? paragraphe.size() : suivante;
-    QString const avant = DonnePourTerminal(paragraphe.mid(depart, debut - depart));
-    QString const extrait = DonnePourTerminal(paragraphe.mid(debut, fin - debut));
-    QString const apres = DonnePourTerminal(paragraphe.mid(fin, arrivee - fin));
+    auto const montre = [&paragraphe](int de, int a) {
+        QString texte = paragraphe.mid(de, a - de);
+        return DonnePourTerminal(texte.replace(QLatin1Char('\n'), QLatin1Char(' ')));
+    };
+    QString const avant = montre(depart, debut);
+    QString const extrait = montre(debut, fin);
+    QString apres = montre(fin, arrivee);
+    while (apres.endsWith(QLatin1Char(' '))) {
+        apres.chop(1);
+    }
     return {avant + extrait + apres, avant.size(), avant.size() + extrait.size()};
 }
 

@@ -86,7 +86,6 @@ class VerificateurFaux : public Verificateur {
     std::map<quint64, std::pair<QString, int>> enCours;
     quint64 dernier = 0;
 
-  private:
     static std::vector<Remarque> Cherche(QString const& texte) {
         std::vector<Remarque> remarques;
         int debut = 0;

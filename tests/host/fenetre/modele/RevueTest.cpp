@@ -42,6 +42,23 @@ TEST_F(RevueTest, DoesNotChooseARemarkWhileWhatStandsBeforeItIsUnknown) {
     EXPECT_EQ(DonneCourant(), Q("xa"));
 }
 
+TEST_F(RevueTest, ComesToWhatASlowerEngineFindsBeforeTheRemarkShown) {
+    liaison.DonneLecture({Q("lent et xa"), Q("xb")});
+    auto const premier = verificateur.enCours.begin()->first;
+    Q_EMIT verificateur.Trouvees(premier, Q("essai"), VerificateurFaux::Cherche(Q("lent et xa")));
+    EXPECT_EQ(DonneCourant(), Q("xa"));
+    Q_EMIT verificateur.Trouvees(premier, Q("autre"),
+                                 {{0, 4, GenreDeRemarque::Accord, Q("autre"), Q("r"), {}, {}, 1}});
+    verificateur.enCours.erase(premier);
+    Q_EMIT verificateur.Examine(premier);
+    verificateur.Travaille();
+    EXPECT_EQ(DonneCourant(), Q("xa"));
+    revue.Ignore();
+    EXPECT_EQ(DonneCourant(), Q("lent"));
+    revue.Suivante();
+    EXPECT_EQ(DonneCourant(), Q("xb"));
+}
+
 TEST_F(RevueTest, CorrectsAndGoesOnWithoutWaitingForTheDocument) {
     Ouvre({Q("un xaaa xb")});
     revue.Corrige(Q("bon"));
