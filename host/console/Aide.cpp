@@ -14,6 +14,7 @@ std::string DonneUsage() {
               "        vocalyne-hote moteurs [installe|allume|eteins MOTEUR | adresse MOTEUR URL]\n"
               "                              [--sortie texte|json]\n"
               "        vocalyne-hote fenetre [ID] [--page correction|mots] [--greffon FICHIER]\n"
+              "        vocalyne-hote diagnostic [--bref] [--greffon FICHIER]\n"
               "        vocalyne-hote pilote [--greffon FICHIER]\n"
               "        vocalyne-hote --help | --version\n") +
            Tr("        vocalyne-hote verifie GREFFON [ID] [--sortie texte|json] [--delai S]\n"
@@ -38,6 +39,9 @@ std::string DonneAide() {
               "  fenetre       ouvre une fenêtre à côté d’un document : ses fautes une à une, et "
               "ce\n"
               "                que l’on peut en faire\n"
+              "  diagnostic    essaie le connecteur, les dictionnaires et les moteurs, et dit ce "
+              "qui\n"
+              "                manque ; avec --bref, sans démarrer les moteurs\n"
               "  pilote        conduit un connecteur par des lignes de JSON, une requête la ligne\n"
               "\n"
               "  ID                   le document ; par défaut, celui qui est à portée, ou celui\n"

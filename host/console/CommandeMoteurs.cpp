@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Avertissement.h"
 #include "Commandes.h"
+#include "EtatDesMoteurs.h"
 #include "Sortie.h"
 #include "commun/EcritureJson.h"
 #include "commun/ErreurHote.h"
 #include "commun/MessagesHote.h"
-#include "langue/LocaliseDictionnaire.h"
 #include "moteurs/ensemble/Decouverte.h"
 #include "moteurs/externes/MoteurExterne.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -21,73 +20,6 @@
 namespace hote {
 
 namespace {
-
-/// What a person is told of an engine.
-struct LigneMoteur {
-    QString nom;
-    char const* etat; ///< "pret", "absent", "eteint", "panne"
-    QString version;
-    QStringList langues;
-    std::string message; ///< what to do; empty when all is well
-};
-
-constexpr char const* kPret = "pret";
-constexpr char const* kAbsent = "absent";
-constexpr char const* kEteint = "eteint";
-constexpr char const* kPanne = "panne";
-
-std::string DonneMotEtat(char const* etat) {
-    if (etat == kPret) {
-        return Tr("prêt");
-    }
-    if (etat == kAbsent) {
-        return Tr("absent");
-    }
-    return etat == kEteint ? Tr("éteint") : Tr("en panne");
-}
-
-LigneMoteur ExamineHunspell() {
-    LigneMoteur ligne{QStringLiteral("hunspell"), kPret, {}, {}, {}};
-    auto const dossiers = DonneDossiersDictionnaires();
-    QStringList manquants;
-    for (auto const& [langue, paquet] :
-         {std::pair{"fr", "hunspell-fr"}, std::pair{"en", "hunspell-en-us"}}) {
-        auto const variantes = LocaliseVariantes(langue, dossiers);
-        for (auto const& fichiers : variantes) {
-            ligne.langues.append(
-                QFileInfo(QString::fromStdString(fichiers.mots)).completeBaseName());
-        }
-        if (variantes.empty()) {
-            manquants.append(QLatin1String(paquet));
-        }
-    }
-    if (!manquants.isEmpty()) {
-        ligne.etat = kAbsent;
-        ligne.message = Tr("Il manque des dictionnaires : sudo apt install {1}",
-                           manquants.join(QLatin1Char(' ')));
-    }
-    return ligne;
-}
-
-LigneMoteur ExamineExterne(DescriptionMoteur const& description, ReglagesHote const& reglages) {
-    LigneMoteur ligne{description.nom, kEteint, {}, description.langues, {}};
-    if (reglages.EstMoteurEteint(description.nom)) {
-        ligne.message = Tr("vocalyne-hote moteurs allume {1}", description.nom);
-        return ligne;
-    }
-    if (!description.reglage.isEmpty() && reglages.DonneAdresse(description.reglage).isEmpty()) {
-        ligne.message = Tr("vocalyne-hote moteurs adresse {1} http://…", description.nom);
-        return ligne;
-    }
-    try {
-        ligne.version = MoteurExterne(description).Demarre(Arret()).version;
-        ligne.etat = kPret;
-    } catch (ErreurDeMoteur const& erreur) {
-        ligne.etat = erreur.EstAbsent() ? kAbsent : kPanne;
-        ligne.message = erreur.what();
-    }
-    return ligne;
-}
 
 std::string DonneJson(std::vector<LigneMoteur> const& lignes) {
     EcritureJson json;
@@ -103,28 +35,8 @@ std::string DonneJson(std::vector<LigneMoteur> const& lignes) {
     return json.DonneJson() + '\n';
 }
 
-std::string DonneTexte(LigneMoteur const& ligne) {
-    std::string texte = ligne.nom.toStdString() + ' ' + ligne.version.toStdString();
-    texte += (ligne.version.isEmpty() ? "(" : " (") +
-             ligne.langues.join(QStringLiteral(", ")).toStdString() +
-             ") : " + DonneMotEtat(ligne.etat);
-    return texte + (ligne.message.empty() ? "" : ". " + ligne.message) + '\n';
-}
-
-void Liste(std::vector<DescriptionMoteur> const& descriptions, ReglagesHote const& reglages,
-           bool json) {
-    std::vector<LigneMoteur> lignes{ExamineHunspell(),
-                                    {QStringLiteral("regles"), kPret, {}, {}, {}}};
-    lignes.back().langues = QStringList{QStringLiteral("fr"), QStringLiteral("en")};
-    for (LigneMoteur& ligne : lignes) {
-        if (reglages.EstMoteurEteint(ligne.nom)) {
-            ligne.etat = kEteint;
-            ligne.message = Tr("vocalyne-hote moteurs allume {1}", ligne.nom);
-        }
-    }
-    for (DescriptionMoteur const& description : descriptions) {
-        lignes.push_back(ExamineExterne(description, reglages));
-    }
+void Liste(ReglagesHote const& reglages, bool json) {
+    auto const lignes = ExamineMoteurs(reglages, true);
     Sortie sortie(STDOUT_FILENO);
     if (json) {
         sortie.Ecris(DonneJson(lignes));
@@ -192,7 +104,7 @@ eCodeSortie ExecuteMoteurs(OptionsHote const& options) {
         Avertis(faute.toStdString());
     }
     if (options.ordre.isEmpty()) {
-        Liste(descriptions, reglages, options.json);
+        Liste(reglages, options.json);
     } else {
         Agis(options.ordre, descriptions, reglages);
     }

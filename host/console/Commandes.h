@@ -10,6 +10,7 @@ namespace hote {
 /// application object exists.
 eCodeSortie ExecuteDocuments(OptionsHote const& options);
 eCodeSortie ExecuteCorrige(OptionsHote const& options);
+eCodeSortie ExecuteDiagnostic(OptionsHote const& options);
 eCodeSortie ExecuteDictionnaire(OptionsHote const& options);
 eCodeSortie ExecuteMoteurs(OptionsHote const& options);
 eCodeSortie ExecutePilote(OptionsHote const& options);

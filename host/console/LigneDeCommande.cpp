@@ -35,6 +35,9 @@ OptionsHote::Commande LisCommande(QString const& nom) {
     if (nom == QLatin1String("verifie")) {
         return OptionsHote::Commande::Verifie;
     }
+    if (nom == QLatin1String("diagnostic")) {
+        return OptionsHote::Commande::Diagnostic;
+    }
     if (nom == QLatin1String("fenetre")) {
         return OptionsHote::Commande::Fenetre;
     }
@@ -67,9 +70,13 @@ class AnalyseurDeLigne {
         if (commande == OptionsHote::Commande::Fenetre) {
             parseur_.addOption(page_);
         }
+        if (commande == OptionsHote::Commande::Diagnostic) {
+            parseur_.addOption(bref_);
+        }
         if (surDocument || commande == OptionsHote::Commande::Pilote ||
             commande == OptionsHote::Commande::Fenetre ||
-            commande == OptionsHote::Commande::Relais) {
+            commande == OptionsHote::Commande::Relais ||
+            commande == OptionsHote::Commande::Diagnostic) {
             parseur_.addOption(greffon_);
         }
     }
@@ -107,6 +114,7 @@ class AnalyseurDeLigne {
     }
 
     void LisValeurs(OptionsHote& options) const {
+        options.bref = EstDonnee(bref_);
         options.automatique = EstDonnee(automatique_);
         if (EstDonnee(langue_)) {
             QString const valeur = parseur_.value(langue_);
@@ -188,6 +196,7 @@ class AnalyseurDeLigne {
     QCommandLineOption sortie_{QStringLiteral("sortie"), {}, QStringLiteral("texte|json")};
     QCommandLineOption epreuve_{QStringLiteral("epreuve"), {}, QStringLiteral("NOM")};
     QCommandLineOption delai_{QStringLiteral("delai"), {}, QStringLiteral("S")};
+    QCommandLineOption bref_{QStringLiteral("bref")};
     QCommandLineOption page_{QStringLiteral("page"), {}, QStringLiteral("correction|mots")};
     QCommandLineOption greffon_{QStringLiteral("greffon"), {}, QStringLiteral("FICHIER")};
 };

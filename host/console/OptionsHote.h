@@ -18,6 +18,7 @@ struct OptionsHote {
         Version,
         Documents,
         Corrige,
+        Diagnostic,
         Dictionnaire,
         Fenetre,
         Moteurs,
@@ -31,6 +32,7 @@ struct OptionsHote {
     QString chemin;               ///< of `relais`: the document's file; may be empty
     std::optional<Langue> langue; ///< of the same; found out when not given
     QString page;                 ///< of `fenetre`; empty when not given
+    bool bref = false;            ///< of `diagnostic`
     bool automatique = false;     ///< of `corrige`
     bool json = false;            ///< of all but `pilote`
     QStringList ordre;            ///< of `moteurs`: a verb and what it is about; empty: the list

@@ -67,6 +67,8 @@ eCodeSortie Execute(QStringList const& arguments) {
         return ExecuteDictionnaire(options);
     case OptionsHote::Commande::Moteurs:
         return ExecuteMoteurs(options);
+    case OptionsHote::Commande::Diagnostic:
+        return ExecuteDiagnostic(options);
     case OptionsHote::Commande::Fenetre:
         return ExecuteFenetre(options.id.isEmpty() ? ChoisisDocument() : options.id,
                               options.greffon, options.page);

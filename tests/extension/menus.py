@@ -12,6 +12,9 @@ BARRE = "private:resource/toolbar/addon_com.ombrel.vocalyne"
 
 HOTE = """#!{python}
 import json, os, pathlib, sys
+if sys.argv[1] == "diagnostic":
+    print("the host is well")
+    sys.exit(0)
 pathlib.Path({notes!r}).write_text(json.dumps(
     {{"arguments": sys.argv[1:], "environnement": dict(os.environ)}}))
 print("the host was here")

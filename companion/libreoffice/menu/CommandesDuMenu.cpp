@@ -24,6 +24,9 @@ namespace extension {
 
 namespace {
 
+/// Several times what it takes on a slow machine.
+constexpr int kPatienceDiagnosticMs = 10000;
+
 Constat Constate(uno::Reference<frame::XFrame> const& cadre) {
     Constat constat;
     Reglages const reglages = ReglagesDeLEnvironnement();
@@ -97,7 +100,13 @@ std::optional<Commande> CommandeDeNom(std::u16string_view nom) {
 
 void ExecuteCommande(Commande commande, uno::Reference<uno::XComponentContext> const& contexte,
                      uno::Reference<frame::XFrame> const& cadre) {
-    Constat const constat = Constate(cadre);
+    Constat constat = Constate(cadre);
+    if (commande == Commande::Diagnostic && !constat.hote.chemin.empty()) {
+        // It asks nobody on the bus: this thread, which would have to answer, waits for it.
+        constat.hoteDit = Interroge({constat.hote.chemin, "diagnostic", "--bref"},
+                                    EnvironnementEnfant(EnvironnementHerite(), AdresseDuBus()),
+                                    kPatienceDiagnosticMs);
+    }
     std::vector<std::string> const manques = Manques(constat);
     if (commande == Commande::Diagnostic) {
         Avise(contexte, cadre, Rapport(constat), !manques.empty());

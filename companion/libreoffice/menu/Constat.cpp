@@ -44,6 +44,19 @@ std::string RemedeDuTerminal(TerminalTrouve const& terminal) {
                 "name it in the variable VOCALYNE_TERMINAL."});
 }
 
+std::string RemedeDeLHoteLance(HoteTrouve const& hote, Dite const& dite) {
+    if (dite.finie && dite.code >= 0) {
+        return Dis({"L’hôte ne peut pas travailler\u00a0; ce qu’il dit est ci-dessus. « "
+                    "vocalyne-hote diagnostic », dans un terminal, le dit en entier.",
+                    "The host cannot work; what it says stands above. “vocalyne-hote "
+                    "diagnostic”, in a terminal, says it in full."});
+    }
+    return Dis({"L’hôte ne se lance pas, ou ne répond pas\u00a0: ",
+                "The host does not start, or does not answer: "}) +
+           hote.chemin + (dite.finie || dite.texte.empty() ? "" : " (" + dite.texte + ')') +
+           Dis({". Réinstallez-le.", ". Install it again."});
+}
+
 std::string BusEnUnMot(EtatDuBus::Genre genre) {
     switch (genre) {
     case EtatDuBus::Genre::Sert:
@@ -82,6 +95,9 @@ std::vector<std::string> Manques(Constat const& constat) {
     if (constat.hote.chemin.empty()) {
         manques.push_back(RemedeDeLHote(constat.hote));
     }
+    if (constat.hoteDit && constat.hoteDit->code != 0) {
+        manques.push_back(RemedeDeLHoteLance(constat.hote, *constat.hoteDit));
+    }
     if (!constat.ecran && constat.terminal.commande.empty()) {
         manques.push_back(RemedeDuTerminal(constat.terminal));
     }
@@ -103,6 +119,9 @@ std::string Rapport(Constat const& constat) {
     rapport += Dis({"\nHôte\u00a0: ", "\nHost: "}) + OuAbsent(constat.hote.chemin);
     if (!constat.ecran) {
         rapport += Dis({"\nTerminal\u00a0: ", "\nTerminal: "}) + OuAbsent(terminal);
+    }
+    if (constat.hoteDit && constat.hoteDit->finie) {
+        rapport += "\n\n" + constat.hoteDit->texte;
     }
     std::vector<std::string> const manques = Manques(constat);
     rapport += manques.empty() ? Dis({"\n\nTout va bien.", "\n\nAll is well."})

@@ -2,9 +2,11 @@
 #pragma once
 
 #include "bus/EtatDuBus.h"
+#include "menu/lancement/Interroge.h"
 #include "menu/lancement/Recherche.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,6 +22,9 @@ struct Constat {
     HoteTrouve hote;
     bool ecran = false; ///< the host has a window then; else it speaks in a terminal
     TerminalTrouve terminal;
+    /// What the host said of itself, its plug-in and dictionaries (`vocalyne-hote diagnostic`).
+    /// Nothing: it was not asked.
+    std::optional<Dite> hoteDit;
 };
 
 /// What is missing, and how to get it: a sentence or two each, in the person's language; none when

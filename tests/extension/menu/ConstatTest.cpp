@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 using extension::Constat;
+using extension::Dite;
 using extension::EtatDuBus;
 using extension::Manques;
 using extension::Rapport;
@@ -31,7 +32,8 @@ class Diagnostic : public testing::TestWithParam<bool> {
                 "lo1~d1",
                 {"/usr/bin/vocalyne-hote", {}, {}},
                 false,
-                {{"/usr/bin/xterm", "-e"}, {}}};
+                {{"/usr/bin/xterm", "-e"}, {}},
+                std::nullopt};
     }
     char const* Selon(char const* francais, char const* anglais) const {
         return GetParam() ? francais : anglais;
@@ -69,6 +71,25 @@ TEST_P(Diagnostic, NoTerminalIsMissingWhereTheHostHasAWindow) {
     constat.terminal = {};
     EXPECT_THAT(Manques(constat), IsEmpty());
     EXPECT_THAT(Rapport(constat), Not(HasSubstr("Terminal")));
+}
+
+TEST_P(Diagnostic, WhatTheHostSaysOfItselfStandsInTheReport) {
+    Constat constat = ToutVaBien();
+    constat.hoteDit = Dite{true, 0, "plug-in ready"};
+    EXPECT_THAT(Rapport(constat), HasSubstr("plug-in ready"));
+    EXPECT_THAT(Manques(constat), IsEmpty());
+    constat.hoteDit = Dite{true, 4, "no plug-in"};
+    EXPECT_THAT(Rapport(constat), AllOf(HasSubstr("no plug-in"),
+                                        Not(HasSubstr(Selon("Tout va bien", "All is well")))));
+    EXPECT_THAT(Manques(constat), ElementsAre(HasSubstr("vocalyne-hote diagnostic")));
+}
+
+TEST_P(Diagnostic, AHostThatDoesNotRunIsNotWell) {
+    Constat constat = ToutVaBien();
+    for (Dite const& dite : {Dite{false, -1, "no such library"}, Dite{true, -1, {}}}) {
+        constat.hoteDit = dite;
+        EXPECT_THAT(Manques(constat), ElementsAre(HasSubstr("/usr/bin/vocalyne-hote")));
+    }
 }
 
 TEST_P(Diagnostic, WhatTheEnvironmentNamesWronglyIsQuoted) {

@@ -1,26 +1,13 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Lance.h"
 
+#include "PourC.h"
+
 #include <glib.h>
 
 #include <unistd.h>
 
 namespace extension {
-
-namespace {
-
-/// As C wants it; lives no longer than `mots`.
-std::vector<char*> PourC(std::vector<std::string> const& mots) {
-    std::vector<char*> pointeurs;
-    pointeurs.reserve(mots.size() + 1);
-    for (std::string const& mot : mots) {
-        pointeurs.push_back(const_cast<char*>(mot.c_str())); // GLib only reads it
-    }
-    pointeurs.push_back(nullptr);
-    return pointeurs;
-}
-
-} // namespace
 
 std::string Lance(std::vector<std::string> const& ligne,
                   std::vector<std::string> const& environnement) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "menu/lancement/EnvironnementEnfant.h"
+#include "menu/lancement/Interroge.h"
 #include "menu/lancement/Lance.h"
 #include "menu/lancement/LigneDeTerminal.h"
 
@@ -21,6 +22,35 @@ TEST(LigneDeTerminal, ArgumentsStayWordsOfTheirOwnWhateverTheyHold) {
     EXPECT_EQ(ligne[4].find("reboot"), std::string::npos);
     EXPECT_THAT(std::vector<std::string>(ligne.begin() + 6, ligne.end()),
                 ElementsAre("Entrée ; fin", hote, "corrige", "a~b"));
+}
+
+TEST(Interroge, AProgramSaysItsTextAndItsCode) {
+    auto const dite =
+        extension::Interroge({"/bin/sh", "-c", "printf '%s' \"$UN\"; exit 3"}, {"UN=dit"}, 60000);
+    EXPECT_TRUE(dite.finie);
+    EXPECT_EQ(dite.code, 3);
+    EXPECT_EQ(dite.texte, "dit");
+}
+
+TEST(Interroge, OneThatDoesNotEndIsKilled) {
+    auto const dite =
+        extension::Interroge({"/bin/sh", "-c", "echo debut; exec sleep 600"}, {}, 200);
+    EXPECT_FALSE(dite.finie);
+    EXPECT_EQ(dite.code, -1);
+}
+
+TEST(Interroge, OneThatCannotBeStartedIsTold) {
+    auto const dite = extension::Interroge({"/absent"}, {}, 60000);
+    EXPECT_FALSE(dite.finie);
+    EXPECT_FALSE(dite.texte.empty());
+}
+
+TEST(Interroge, MoreThanIsWantedIsReadAndLeftOut) {
+    auto const dite = extension::Interroge(
+        {"/bin/sh", "-c", "i=0; while [ $i -lt 3000 ]; do printf '%0100d' 0; i=$((i+1)); done"}, {},
+        60000);
+    EXPECT_TRUE(dite.finie);
+    EXPECT_EQ(dite.texte.size(), 65536U);
 }
 
 TEST(Environnement, WhatIsTheOfficesOwnIsTakenOut) {
