@@ -5,6 +5,12 @@ include_guard(GLOBAL)
 
 install(FILES LICENSE DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT runtime)
 
+add_custom_target(desinstalle
+  COMMAND "${CMAKE_COMMAND}" "-DCONSTRUCTION=${PROJECT_BINARY_DIR}"
+    -P "${PROJECT_SOURCE_DIR}/cmake/Desinstalle.cmake"
+  COMMENT "Taking away what was installed"
+  VERBATIM)
+
 # With another provider's libraries there is no SDK of ours to give.
 if(VOCALYNE_SDK)
   return()
