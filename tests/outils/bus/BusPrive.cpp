@@ -50,11 +50,12 @@ void BusPrive::Recommence() {
 }
 
 void BusPrive::Commence() {
+    char const* const autre = std::getenv("VOCALYNE_DBUS_DAEMON");
     std::string const reglages =
         dossier_.Ecris("session.conf", Reglages(dossier_.Chemin().string())).string();
-    demon_ = std::make_unique<Processus>(
-        std::vector<std::string>{CHEMIN_DBUS_DAEMON, "--nofork", "--nopidfile", "--nosyslog",
-                                 "--print-address", "--config-file=" + reglages});
+    demon_ = std::make_unique<Processus>(std::vector<std::string>{
+        autre != nullptr ? autre : CHEMIN_DBUS_DAEMON, "--nofork", "--nopidfile", "--nosyslog",
+        "--print-address", "--config-file=" + reglages});
     std::optional<std::string> const adresse = demon_->LisLigne();
     if (!adresse || adresse->empty()) {
         throw std::runtime_error("the private bus did not start: " + demon_->Erreurs());

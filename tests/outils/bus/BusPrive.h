@@ -12,6 +12,9 @@
 /// Its address does not tell which bus it is: another may come in its place, as a login's.
 /// DBUS_SESSION_BUS_ADDRESS points to it while it lives, and is put back then. Make it before
 /// anything in the process looks for the session bus.
+///
+/// It is dbus-daemon, or the program that VOCALYNE_DBUS_DAEMON names and that is started alike
+/// (`courtier`).
 class BusPrive {
   public:
     BusPrive();

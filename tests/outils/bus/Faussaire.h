@@ -10,6 +10,9 @@ struct DBusMessage;
 
 /// Another member of the bus that overhears every call of one method and answers it in the place of
 /// whoever was asked, with the call's own number. Stands ready from its construction on.
+///
+/// It listens as a monitor of the bus, which every bus lets its own user be (dbus-broker knows no
+/// other way to overhear), and speaks on a connection of its own.
 class Faussaire {
   public:
     /// A text; true; the list of one document, of whichever companion was asked.
@@ -33,7 +36,8 @@ class Faussaire {
     void Ecoute();
     void Reponds(DBusMessage* appel);
 
-    DBusConnection* connexion_ = nullptr;
+    DBusConnection* oreille_ = nullptr;
+    DBusConnection* bouche_ = nullptr;
     std::string methode_;
     Reponse reponse_;
     std::atomic<int> nombre_{0};
