@@ -9,12 +9,12 @@ from essai import DEMO, SOURCES, Essai
 class Demo(Essai):
 
     def test_without_a_file_both_examples_are_corrected_and_stay_as_they_were(self):
-        avant = {c: c.read_bytes() for c in (SOURCES / "exemples").iterdir()}
+        avant = {c: c.read_bytes() for c in (SOURCES / "exemples").iterdir() if c.is_file()}
         sortie = lance(DEMO, env=self.env).stdout
         for faute, juste in (("acceuil", "accueil"), ("bibliotèque", "bibliothèque"),
                              ("Untill", "Until"), ("definately", "definitely")):
             self.assertIn(f"[-{faute}-]{{+{juste}+}}", sortie)
-        self.assertEqual({c: c.read_bytes() for c in (SOURCES / "exemples").iterdir()}, avant)
+        self.assertEqual({c: c.read_bytes() for c in (SOURCES / "exemples").iterdir() if c.is_file()}, avant)
 
     def test_a_file_of_ones_own_is_left_alone_and_the_corrected_text_stands_beside_it(self):
         lettre = self.fichier("ma lettre.txt", "Un bel acceuil.\n")
