@@ -7,7 +7,7 @@ namespace hote {
 
 std::string DonneUsage() {
     return Tr("Usage : vocalyne-hote documents [--sortie texte|json]\n"
-              "        vocalyne-hote corrige [ID] [--langue fr|en] [--automatique]\n"
+              "        vocalyne-hote corrige [ID] [--langue fr|en] [--automatique | --tout]\n"
               "                              [--sortie texte|json] [--greffon FICHIER]\n"
               "        vocalyne-hote dictionnaire [ID] [--langue fr|en] [--sortie texte|json]\n"
               "                                   [--greffon FICHIER]\n"
@@ -24,13 +24,12 @@ std::string DonneUsage() {
 std::string DonneAide() {
     return DonneUsage() +
            Tr("\n"
-              "Corrige l’orthographe des documents ouverts, par un connecteur.\n"
+              "Corrige les documents ouverts, par un connecteur.\n"
               "\n"
               "  documents     donne les documents à portée : identificateur, titre, chemin\n"
               "  corrige       cherche les fautes d’un document. Sur un terminal, demande que "
               "faire\n"
-              "                de chacune ; avec --automatique, prend la première suggestion ; "
-              "sinon\n"
+              "                de chacune ; avec --automatique, corrige ce qui est sûr ; sinon\n"
               "                (ou avec --sortie json) les montre sans rien changer.\n"
               "  dictionnaire  donne les synonymes du mot sélectionné dans un document. Sur un\n"
               "                terminal, met à sa place celui que l’on choisit.\n"
@@ -47,7 +46,8 @@ std::string DonneAide() {
               "  ID                   le document ; par défaut, celui qui est à portée, ou celui\n"
               "                       de devant quand ils sont tous du même logiciel\n"
               "  --langue fr|en       la langue ; par défaut, d’après les mots du texte\n"
-              "  --automatique        corrige sans rien demander\n"
+              "  --automatique        corrige sans rien demander ce dont un moteur est sûr\n"
+              "  --tout               prend partout la première suggestion, sûre ou non\n"
               "  --sortie texte|json  la forme de ce qui est écrit ; par défaut, texte\n"
               "  --greffon FICHIER    le connecteur ; par défaut, celui de VOCALYNE_GREFFON, "
               "sinon\n"

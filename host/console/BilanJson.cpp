@@ -21,6 +21,24 @@ char const* DonneNomEtat(EtatFaute etat) {
     return "laissee";
 }
 
+char const* DonneNomGenre(GenreDeRemarque genre) {
+    switch (genre) {
+    case GenreDeRemarque::Orthographe:
+        return "orthographe";
+    case GenreDeRemarque::Accord:
+        return "accord";
+    case GenreDeRemarque::Confusion:
+        return "confusion";
+    case GenreDeRemarque::Typographie:
+        return "typographie";
+    case GenreDeRemarque::Repetition:
+        return "repetition";
+    case GenreDeRemarque::Style:
+        break;
+    }
+    return "style";
+}
+
 void EcrisFaute(EcritureJson& json, FauteTraitee const& faute) {
     json.OuvreObjet();
     json.EcrisCle("zone").EcrisEntier(faute.zone);
@@ -29,10 +47,14 @@ void EcrisFaute(EcritureJson& json, FauteTraitee const& faute) {
     json.EcrisCle("mot").EcrisTexte(faute.faute.mot);
     json.EcrisCle("contexte").EcrisTexte(faute.contexte);
     json.EcrisCle("suggestions").OuvreTableau();
-    for (QString const& suggestion : faute.suggestions) {
+    for (QString const& suggestion : faute.faute.suggestions) {
         json.EcrisTexte(suggestion);
     }
     json.FermeTableau();
+    json.EcrisCle("genre").EcrisTexte(QLatin1String(DonneNomGenre(faute.faute.genre)));
+    json.EcrisCle("moteur").EcrisTexte(faute.faute.moteur);
+    json.EcrisCle("regle").EcrisTexte(faute.faute.regle);
+    json.EcrisCle("explication").EcrisTexte(faute.faute.explication);
     json.EcrisCle("etat").EcrisTexte(QLatin1String(DonneNomEtat(faute.etat)));
     json.EcrisCle("remplacement");
     if (faute.etat == EtatFaute::Laissee) {

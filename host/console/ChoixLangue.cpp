@@ -53,10 +53,7 @@ ChoixLangue ChoisisLangue(std::vector<QString> const& textes) {
     }
     // A text that does not tell is taken for one in the person's own language.
     auto const langue = detecteur.DonneLangue().value_or(DonneLangueAffichage());
-    if (langue == Langue::Anglais) {
-        std::swap(francais, anglais);
-    }
-    return {std::move(francais.lexique), true, std::move(anglais.lexique)};
+    return {std::move(langue == Langue::Anglais ? anglais.lexique : francais.lexique), true};
 }
 
 std::string DonneNomLangue(Langue langue) {

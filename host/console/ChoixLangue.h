@@ -15,7 +15,6 @@ namespace hote {
 struct ChoixLangue {
     std::unique_ptr<Lexique> lexique;
     bool trouvee;
-    std::unique_ptr<Lexique> autre = nullptr; ///< the other language's, where it was opened too
 };
 
 /// The dictionary of the language in which `textes` are written. Where only one of the two

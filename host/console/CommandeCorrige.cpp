@@ -5,6 +5,7 @@
 #include "ChoixDocument.h"
 #include "ChoixLangue.h"
 #include "Commandes.h"
+#include "ExamenParAtelier.h"
 #include "ExecuteSurGreffon.h"
 #include "InterlocuteurRegle.h"
 #include "InterlocuteurTerminal.h"
@@ -14,6 +15,7 @@
 #include "greffon/LocaliseGreffon.h"
 #include "langue/Contexte.h"
 #include "langue/DictionnaireHunspell.h"
+#include "moteurs/ensemble/Fabriques.h"
 
 #include <unistd.h>
 
@@ -30,7 +32,7 @@ class Seance {
   public:
     Seance(OptionsHote const& options, std::unique_ptr<Lexique> lexique, Greffon const& greffon)
         : options_(options)
-        , choix_{std::move(lexique), false, nullptr}
+        , choix_{std::move(lexique), false}
         , id_(options.id.isEmpty() ? ChoisisDocument() : options.id)
         , document_(greffon, id_)
         , titre_(document_.DonneTitre())
@@ -46,11 +48,14 @@ class Seance {
             choix_ = ChoisisLangue(document_.DonneTextes());
         }
         Annonce();
-        Orthographe const orthographe(*choix_.lexique,
-                                      [this](Langue langue) { return TrouveAutre(langue); });
+        ExamenParAtelier examen(FaisReglage(DonneReglages(), id_),
+                                DonneCodeLangue(choix_.lexique->DonneLangue()));
         Progression progression;
-        Bilan const bilan = Corrige(orthographe, progression);
+        Bilan const bilan = Corrige(examen, progression);
         progression.Efface();
+        for (QString const& plainte : examen.PrendsPlaintes()) {
+            Avertis(plainte.toStdString());
+        }
         if (options_.json) {
             sortie_.Ecris(
                 DonneBilanJson({id_, titre_, choix_.lexique->DonneLangue(), choix_.trouvee},
@@ -62,18 +67,13 @@ class Seance {
     }
 
   private:
-    /// The dictionary of a language that parts of the document say they are in; null, and said
-    /// once, where there is none: the host knows two languages, so that there is one other.
-    Lexique* TrouveAutre(Langue langue) {
-        if (!choix_.autre && !autreManque_) {
-            try {
-                choix_.autre = OuvreDictionnaire(langue);
-            } catch (ErreurHote const& erreur) {
-                autreManque_ = true;
-                Avertis(erreur.what());
-            }
+    static std::shared_ptr<ReglagesHote> DonneReglages() {
+        auto const reglages = std::make_shared<ReglagesHote>();
+        reglages->Charge();
+        for (QString const& dossier : ReglagesHote::DonneDossiersDuBureau()) {
+            reglages->LisDictionnairesDuBureau(dossier);
         }
-        return choix_.autre.get();
+        return reglages;
     }
 
     void Annonce() {
@@ -88,12 +88,19 @@ class Seance {
             '\n');
     }
 
-    Bilan Corrige(Orthographe const& orthographe, Progression& progression) {
+    Bilan Corrige(Examen& examen, Progression& progression) {
         InterlocuteurTerminal personne(std::cin, sortie_, presentation_, progression);
-        InterlocuteurRegle regle(options_.automatique, options_.json ? nullptr : &sortie_,
+        InterlocuteurRegle regle(DonneHardiesse(), options_.json ? nullptr : &sortie_,
                                  presentation_, progression);
         Interlocuteur& interlocuteur = interactive_ ? static_cast<Interlocuteur&>(personne) : regle;
-        return Correcteur(document_, orthographe, interlocuteur, options_.automatique).Execute();
+        return Correcteur(document_, examen, interlocuteur, options_.automatique).Execute();
+    }
+
+    Hardiesse DonneHardiesse() const {
+        if (options_.tout) {
+            return Hardiesse::Tout;
+        }
+        return options_.automatique ? Hardiesse::Sur : Hardiesse::Rien;
     }
 
     eCodeSortie DonneCode(Bilan const& bilan) const {
@@ -110,7 +117,6 @@ class Seance {
 
     OptionsHote const& options_;
     ChoixLangue choix_;
-    bool autreManque_ = false;
     QString id_;
     Document document_;
     QString titre_;

@@ -2,30 +2,43 @@
 #include "InterlocuteurTerminal.h"
 
 #include "DemandeLigne.h"
+#include "LisTouche.h"
 #include "commun/MessagesHote.h"
 
 #include <string>
 
 namespace hote {
 
+namespace {
+
+constexpr int kChiffres = 9; ///< suggestions that a key can choose
+constexpr char const* kRetrait = "      ";
+
+} // namespace
+
 Decision InterlocuteurTerminal::Decide(Question const& question) {
     progression_.Efface();
+    QStringList const suggestions = question.faute.suggestions.mid(0, kChiffres);
     sortie_.Ecris('\n' + presentation_.DonneFaute(question) +
-                  presentation_.DonneChoix(question.suggestions));
+                  presentation_.DonneChoix(suggestions));
     for (;;) {
-        auto const reponse = DemandeLigne(
-            entree_, sortie_,
-            question.suggestions.isEmpty()
-                ? Tr("r remplacer, i ignorer, I tout ignorer, q quitter")
-                : Tr("1-{1} choisir, r remplacer, i ignorer, I tout ignorer, q quitter",
-                     question.suggestions.size()));
-        if (!reponse) {
+        auto const touche = LisTouche(entree_, sortie_, DonneInvite(suggestions.size()));
+        if (!touche) {
             return {Decision::Genre::Quitte, {}};
         }
-        if (auto decision = Comprends(*reponse, question.suggestions)) {
+        if (auto decision = Comprends(*touche, suggestions)) {
             return *decision;
         }
     }
+}
+
+std::string InterlocuteurTerminal::DonneInvite(int choix) {
+    std::string const lettres = Tr("r remplacer, i ignorer, q quitter, ? aide");
+    if (choix == 0) {
+        return kRetrait + lettres;
+    }
+    return kRetrait + (choix == 1 ? Tr("1 choisir") : Tr("1-{1} choisir", choix)) + ", " +
+           Tr("t corriger partout") + ", " + lettres;
 }
 
 void InterlocuteurTerminal::ApprendsIssue(FauteTraitee const& faute, bool envoyee) {
@@ -37,26 +50,32 @@ void InterlocuteurTerminal::ApprendsProgres(int zone, int nombreZones, int nombr
         [&] { return PresentationTexte::DonneProgres(zone, nombreZones, nombreFautes); });
 }
 
-std::optional<Decision> InterlocuteurTerminal::Comprends(QString const& reponse,
+std::optional<Decision> InterlocuteurTerminal::Comprends(QString const& touche,
                                                          QStringList const& suggestions) {
-    QString const mot = reponse.trimmed();
-    if (mot == QLatin1String("q")) {
+    if (touche == QLatin1String("q")) {
         return Decision{Decision::Genre::Quitte, {}};
     }
-    if (mot == QLatin1String("i")) {
+    if (touche == QLatin1String("i")) {
         return Decision{Decision::Genre::Laisse, {}};
     }
-    if (mot == QLatin1String("I")) {
+    if (touche == QLatin1String("I")) {
         return Decision{Decision::Genre::LaisseTout, {}};
     }
-    if (mot == QLatin1String("r")) {
+    if (touche == QLatin1String("b")) {
+        return Decision{Decision::Genre::Retour, {}};
+    }
+    if (touche == QLatin1String("t") && !suggestions.isEmpty()) {
+        return Decision{Decision::Genre::CorrigeTout, suggestions.first()};
+    }
+    if (touche == QLatin1String("r")) {
         return DemandeTexte();
     }
     bool nombre = false;
-    int const choix = mot.toInt(&nombre);
+    int const choix = touche.toInt(&nombre);
     if (nombre && choix >= 1 && choix <= suggestions.size()) {
         return Decision{Decision::Genre::Corrige, suggestions.at(choix - 1)};
     }
+    sortie_.Ecris(presentation_.DonneAideDesTouches());
     return std::nullopt; // the question is put again
 }
 

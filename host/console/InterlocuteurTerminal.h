@@ -14,8 +14,8 @@ namespace hote {
 /// Asks the person at the terminal what to do about each mistake.
 class InterlocuteurTerminal : public Interlocuteur {
   public:
-    /// Reads answers from `entree`, a line each; its end means to quit. All must outlive the
-    /// object.
+    /// Takes answers by a key each, texts from `entree` by lines; its end means to quit. All must
+    /// outlive the object.
     InterlocuteurTerminal(std::istream& entree, Sortie& sortie,
                           PresentationTexte const& presentation, Progression& progression)
         : entree_(entree)
@@ -28,7 +28,8 @@ class InterlocuteurTerminal : public Interlocuteur {
     void ApprendsProgres(int zone, int nombreZones, int nombreFautes) override;
 
   private:
-    std::optional<Decision> Comprends(QString const& reponse, QStringList const& suggestions);
+    std::optional<Decision> Comprends(QString const& touche, QStringList const& suggestions);
+    static std::string DonneInvite(int choix);
     std::optional<Decision> DemandeTexte();
 
     std::istream& entree_;

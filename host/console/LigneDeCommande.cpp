@@ -57,7 +57,7 @@ class AnalyseurDeLigne {
             parseur_.addOption(langue_);
         }
         if (commande == OptionsHote::Commande::Corrige) {
-            parseur_.addOption(automatique_);
+            parseur_.addOptions({automatique_, tout_});
         }
         bool const verifie = commande == OptionsHote::Commande::Verifie;
         if (surDocument || verifie || commande == OptionsHote::Commande::Documents ||
@@ -115,7 +115,8 @@ class AnalyseurDeLigne {
 
     void LisValeurs(OptionsHote& options) const {
         options.bref = EstDonnee(bref_);
-        options.automatique = EstDonnee(automatique_);
+        options.tout = EstDonnee(tout_);
+        options.automatique = options.tout || EstDonnee(automatique_);
         if (EstDonnee(langue_)) {
             QString const valeur = parseur_.value(langue_);
             if (valeur == QLatin1String("fr")) {
@@ -193,6 +194,7 @@ class AnalyseurDeLigne {
     QCommandLineOption version_{QStringLiteral("version")};
     QCommandLineOption langue_{QStringLiteral("langue"), {}, QStringLiteral("fr|en")};
     QCommandLineOption automatique_{QStringLiteral("automatique")};
+    QCommandLineOption tout_{QStringLiteral("tout")};
     QCommandLineOption sortie_{QStringLiteral("sortie"), {}, QStringLiteral("texte|json")};
     QCommandLineOption epreuve_{QStringLiteral("epreuve"), {}, QStringLiteral("NOM")};
     QCommandLineOption delai_{QStringLiteral("delai"), {}, QStringLiteral("S")};

@@ -33,7 +33,8 @@ struct OptionsHote {
     std::optional<Langue> langue; ///< of the same; found out when not given
     QString page;                 ///< of `fenetre`; empty when not given
     bool bref = false;            ///< of `diagnostic`
-    bool automatique = false;     ///< of `corrige`
+    bool automatique = false;     ///< of `corrige`: what is sure is corrected
+    bool tout = false;            ///< of `corrige`: all that has a suggestion is
     bool json = false;            ///< of all but `pilote`
     QStringList ordre;            ///< of `moteurs`: a verb and what it is about; empty: the list
     std::string greffon;          ///< of those on documents, and `pilote`; empty when not given

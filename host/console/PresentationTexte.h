@@ -16,12 +16,14 @@ class PresentationTexte {
     explicit PresentationTexte(Couleurs const& couleurs)
         : couleurs_(couleurs) {}
 
-    /// The mistake in its context, after the zone's number.
+    /// The mistake in its context, after the number of its place, and why it is one.
     std::string DonneFaute(Question const& question) const;
     /// The suggestions in one line.
     std::string DonneSuggestions(QStringList const& suggestions) const;
     /// The suggestions, numbered.
     std::string DonneChoix(QStringList const& suggestions) const;
+    /// What each key does, a line each.
+    static std::string DonneAideDesTouches();
     /// What became of the correction just decided.
     std::string DonneIssue(FauteTraitee const& faute, bool envoyee) const;
     /// How far the work is; without a line feed.
@@ -30,6 +32,8 @@ class PresentationTexte {
     std::string DonneFin(Bilan const& bilan, bool change) const;
 
   private:
+    std::string DonneRaison(Faute const& faute) const;
+
     Couleurs couleurs_;
 };
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MPL-2.0
 #pragma once
 
+#include "Faute.h"
 #include "commun/ErreurHote.h"
-#include "langue/Orthographe.h"
 
 #include <QString>
 #include <QStringList>
@@ -17,7 +17,7 @@ namespace hote {
 enum class EtatFaute {
     Corrigee,    ///< the document, read again, shows the correction
     Refusee,     ///< the correction was not taken, or the document does not show it
-    Laissee,     ///< nobody asked for a correction
+    Laissee,     ///< it was shown, or met, and left as it is
     NonVerifiee, ///< the correction was sent, and the document could not be read again
 };
 
@@ -26,8 +26,7 @@ enum class EtatFaute {
 struct FauteTraitee {
     int zone;
     Faute faute;
-    QString contexte; ///< some of the text around the mistake
-    QStringList suggestions;
+    QString contexte;     ///< some of the text around the mistake
     QString remplacement; ///< meaningful unless the mistake was left
     EtatFaute etat;
 };

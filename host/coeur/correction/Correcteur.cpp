@@ -14,6 +14,14 @@ namespace hote {
 namespace {
 
 constexpr int kLargeurContexte = 30;
+// Engines work on these while the person thinks about the first.
+constexpr int kZonesPrevues = 24;
+
+/// What is wrong in the same way.
+QString DonneCle(Faute const& faute) {
+    bool const mot = faute.genre == GenreDeRemarque::Orthographe;
+    return DonneForme(faute.mot) + QLatin1Char('\n') + (mot ? QString() : faute.regle);
+}
 
 Faute Decale(Faute faute, int decalage) {
     faute.debut += decalage;
@@ -23,10 +31,10 @@ Faute Decale(Faute faute, int decalage) {
 
 } // namespace
 
-Correcteur::Correcteur(Document& document, Orthographe const& orthographe,
-                       Interlocuteur& interlocuteur, bool automatique)
+Correcteur::Correcteur(Document& document, Examen& examen, Interlocuteur& interlocuteur,
+                       bool automatique)
     : document_(document)
-    , orthographe_(orthographe)
+    , examen_(examen)
     , interlocuteur_(interlocuteur)
     , automatique_(automatique) {}
 
@@ -52,50 +60,72 @@ void Correcteur::Parcours() {
         AnnonceProgres(curseur.zone);
         curseur = TraiteZone(curseur);
     }
-    CompteLeReste(curseur);
     bilan_.zones = document_.DonneNombre();
     if (envois_.EstVide()) {
         return;
     }
+    Relis();
+}
+
+void Correcteur::Relis() {
     auto const anciens = document_.DonneTextes();
     document_.Lis();
     auto const& nouveaux = document_.DonneTextes();
     envois_.Verifie(Recalage(anciens, nouveaux), anciens, nouveaux, bilan_);
 }
 
+void Correcteur::PrevoisLaSuite(int zone) {
+    int const fin = std::min(zone + kZonesPrevues, document_.DonneNombre());
+    for (; zone < fin; ++zone) {
+        examen_.Prevois(document_.DonneTextes()[zone], document_.DonnePlages(zone));
+    }
+}
+
 Correcteur::Curseur Correcteur::TraiteZone(Curseur depart) {
     int const zone = depart.zone;
-    auto const fautes =
-        orthographe_.Cherche(document_.DonneTextes()[zone], document_.DonnePlages(zone));
-    bool const apostropheCourbe = Orthographe::AUneApostropheCourbe(document_.DonneTextes()[zone]);
+    PrevoisLaSuite(zone);
+    auto const fautes = examen_.Cherche(document_.DonneTextes()[zone], document_.DonnePlages(zone));
     int decalage = 0; // of what lies behind the corrections made here
     for (Faute const& faute : fautes) {
         if (faute.debut < depart.position) {
             continue;
         }
         Faute const place = Decale(faute, decalage);
-        std::size_t const rang = Note(zone, faute, place);
-        if (ignores_.contains(DonneForme(faute.mot))) {
+        QString const cle = DonneCle(faute);
+        if (ignores_.contains(cle)) {
             continue;
         }
-        bilan_.fautes[rang].suggestions = orthographe_.Suggere(place, apostropheCourbe);
+        std::size_t const rang = Note(zone, faute, place);
         AnnonceProgres(zone);
-        Decision const decision =
-            interlocuteur_.Decide({zone, document_.DonneNombre(), document_.DonneTextes()[zone],
-                                   place, bilan_.fautes[rang].suggestions});
+        Decision const decision = Demande(zone, place);
         if (decision.genre == Decision::Genre::Quitte) {
             bilan_.interrompu = true;
             return {zone, place.fin};
         }
-        if (decision.genre == Decision::Genre::LaisseTout) {
-            ignores_.insert(DonneForme(faute.mot));
+        if (decision.genre == Decision::Genre::Retour) {
+            return Reviens(rang);
         }
-        if (decision.genre != Decision::Genre::Corrige) {
+        bool const estNom = faute.regle == QLatin1String(kRegleNom);
+        if (decision.genre == Decision::Genre::LaisseTout ||
+            (estNom && decision.genre == Decision::Genre::Laisse)) {
+            ignores_.insert(cle); // who leaves a name has answered for all its places
+        }
+        bool const corrige = decision.genre == Decision::Genre::Corrige ||
+                             decision.genre == Decision::Genre::CorrigeTout;
+        if (decision.genre == Decision::Genre::CorrigeTout) {
+            remplacements_.insert(cle, decision.remplacement);
+        }
+        passages_.push_back({rang, zone, place.debut, place.mot, QString(), cle});
+        if (!corrige) {
             continue;
         }
         Issue const issue = Applique(rang, zone, place, decision.remplacement);
         interlocuteur_.ApprendsIssue(bilan_.fautes[rang], issue.envoyee);
+        if (issue.envoyee && !issue.suite) {
+            passages_.back().remplacement = decision.remplacement;
+        }
         if (issue.suite) {
+            passages_.clear(); // the document is another one: what was decided before stands
             return *issue.suite;
         }
         if (issue.envoyee) {
@@ -105,16 +135,40 @@ Correcteur::Curseur Correcteur::TraiteZone(Curseur depart) {
     return {zone + 1, 0};
 }
 
-void Correcteur::CompteLeReste(Curseur depart) {
-    for (; depart.zone < document_.DonneNombre(); depart = {depart.zone + 1, 0}) {
-        AnnonceProgres(depart.zone);
-        QString const& texte = document_.DonneTextes()[depart.zone];
-        for (Faute const& faute : orthographe_.Cherche(texte, document_.DonnePlages(depart.zone))) {
-            if (faute.debut >= depart.position) {
-                Note(depart.zone, faute, faute);
-            }
+Decision Correcteur::Demande(int zone, Faute const& place) {
+    auto const connu = remplacements_.constFind(DonneCle(place));
+    if (connu != remplacements_.constEnd()) {
+        return {Decision::Genre::Corrige, *connu};
+    }
+    for (;;) {
+        Decision decision = interlocuteur_.Decide(
+            {zone, document_.DonneNombre(), document_.DonneTextes()[zone], place});
+        if (decision.genre != Decision::Genre::Retour || !passages_.empty()) {
+            return decision;
         }
     }
+}
+
+/// Takes the last decision back: the document has its old text again, and the work goes on there.
+Correcteur::Curseur Correcteur::Reviens(std::size_t rang) {
+    Passage const passage = passages_.back();
+    Curseur const ici{bilan_.fautes[rang].zone, bilan_.fautes[rang].faute.debut};
+    bilan_.fautes.resize(rang);
+    passages_.pop_back();
+    if (!passage.remplacement.isNull()) {
+        Relis();
+        int const fin = passage.debut + passage.remplacement.size();
+        if (passage.zone >= document_.DonneNombre() ||
+            !document_.PeutCorriger(passage.zone, passage.debut, fin, passage.remplacement)) {
+            return ici; // it is not there any more: nothing is guessed
+        }
+        document_.Corrige(passage.zone, passage.debut, fin, passage.mot, automatique_);
+        Relis();
+    }
+    ignores_.remove(passage.cle);
+    remplacements_.remove(passage.cle);
+    bilan_.fautes.resize(passage.rang);
+    return Curseur{passage.zone, passage.debut};
 }
 
 void Correcteur::AnnonceProgres(int zone) {
@@ -126,7 +180,7 @@ std::size_t Correcteur::Note(int zone, Faute const& faute, Faute const& place) {
     Contexte const contexte =
         DonneContexte(document_.DonneTextes()[zone], place.debut, place.fin, kLargeurContexte);
     bilan_.fautes.push_back(
-        {zone, faute, contexte.avant + faute.mot + contexte.apres, {}, {}, EtatFaute::Laissee});
+        {zone, faute, contexte.avant + faute.mot + contexte.apres, {}, EtatFaute::Laissee});
     return bilan_.fautes.size() - 1;
 }
 

@@ -2,10 +2,12 @@
 #pragma once
 
 #include "Envois.h"
+#include "Examen.h"
 #include "Interlocuteur.h"
 #include "Relectures.h"
 #include "greffon/Document.h"
 
+#include <QHash>
 #include <QSet>
 
 namespace hote {
@@ -20,8 +22,7 @@ namespace hote {
 class Correcteur {
   public:
     /// All must outlive the object. `automatique` is passed on with each correction.
-    Correcteur(Document& document, Orthographe const& orthographe, Interlocuteur& interlocuteur,
-               bool automatique);
+    Correcteur(Document& document, Examen& examen, Interlocuteur& interlocuteur, bool automatique);
 
     /// The document must have been read once. What goes wrong on the way, exceptions of the plug-in
     /// included, is told in the result. Once an object.
@@ -39,9 +40,22 @@ class Correcteur {
         std::optional<Curseur> suite;
     };
 
+    /// A decision that can be taken back.
+    struct Passage {
+        std::size_t rang; ///< of the mistake in the result
+        int zone;
+        int debut;
+        QString mot;
+        QString remplacement; ///< null when it was left
+        QString cle;
+    };
+
     void Parcours();
     Curseur TraiteZone(Curseur depart);
-    void CompteLeReste(Curseur depart);
+    void PrevoisLaSuite(int zone);
+    Decision Demande(int zone, Faute const& place);
+    Curseur Reviens(std::size_t rang);
+    void Relis();
     void AnnonceProgres(int zone);
     std::size_t Note(int zone, Faute const& faute, Faute const& place);
     Issue Applique(std::size_t rang, int zone, Faute const& place, QString const& remplacement);
@@ -52,13 +66,15 @@ class Correcteur {
     Curseur TrouveZoneSuivante(int zone, int nombreAncien, Recalage const& recalage) const;
 
     Document& document_;
-    Orthographe const& orthographe_;
+    Examen& examen_;
     Interlocuteur& interlocuteur_;
     bool automatique_;
     Bilan bilan_;
     Envois envois_;
     Relectures relectures_;
-    QSet<QString> ignores_;
+    QSet<QString> ignores_;                 ///< what is left without asking
+    QHash<QString, QString> remplacements_; ///< what is corrected without asking
+    std::vector<Passage> passages_;         ///< what was decided, oldest first
 };
 
 } // namespace hote

@@ -10,17 +10,18 @@ struct Question {
     int zone;
     int nombreZones;
     QString const& texte; ///< the zone's text now
-    Faute const& faute;   ///< in that text
-    QStringList const& suggestions;
+    Faute const& faute;   ///< in that text, with what may stand in its place
 };
 
 /// What to do about a mistake.
 struct Decision {
     enum class Genre {
-        Corrige,    ///< put `remplacement` in its place
-        Laisse,     ///< leave it
-        LaisseTout, ///< leave it, and the same word from now on
-        Quitte,     ///< leave it, and everything behind it
+        Corrige,     ///< put `remplacement` in its place
+        Laisse,      ///< leave it
+        CorrigeTout, ///< the same, and from now on wherever the same is wrong in the same way
+        LaisseTout,  ///< leave it, and the same word from now on
+        Retour,      ///< undo what was decided before this one, and ask about that again
+        Quitte,      ///< leave it, and everything behind it
     };
     Genre genre;
     QString remplacement;

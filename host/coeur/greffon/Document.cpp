@@ -63,7 +63,7 @@ void Document::Lis() {
     }
 }
 
-Orthographe::Plages Document::DonnePlages(int zone) {
+std::vector<sdd::PlageAttribut> Document::DonnePlages(int zone) {
     return DonneZone(zone).DonneTexte().DonnePlages();
 }
 

@@ -3,7 +3,8 @@
 
 #include "AgentTenu.h"
 #include "Greffon.h"
-#include "langue/Orthographe.h"
+
+#include "ChaineTemplateAvecAttributs.h"
 
 #include <QString>
 
@@ -46,7 +47,7 @@ class Document {
     /// The zones' texts as this side believes them to be.
     std::vector<QString> const& DonneTextes() const noexcept { return textes_; }
     /// The style runs of a zone, as it was last read: corrections do not move them.
-    Orthographe::Plages DonnePlages(int zone);
+    std::vector<sdd::PlageAttribut> DonnePlages(int zone);
 
     /// May [debut, fin) of the zone be changed now, and does it hold `attendu`?
     bool PeutCorriger(int zone, int debut, int fin, QString const& attendu);

@@ -104,6 +104,9 @@ std::vector<FichiersDictionnaire> LocaliseVariantes(std::string const& langue,
                 variantes.push_back(*fichiers);
             }
         }
+        if (!variantes.empty()) {
+            break;
+        }
     }
     return variantes;
 }

@@ -34,8 +34,8 @@ std::optional<FichiersDictionnaire> LocaliseDictionnaire(Langue langue,
 std::optional<FichiersDictionnaire> LocaliseDictionnaire(std::string const& etiquette,
                                                          std::vector<std::string> const& dossiers);
 
-/// All dictionaries of a language ("en"), a country each; of those with the same files under two
-/// names, one.
+/// All dictionaries of a language ("en"), a country each, in the first of the folders that has one;
+/// of those with the same files under two names, one.
 std::vector<FichiersDictionnaire> LocaliseVariantes(std::string const& langue,
                                                     std::vector<std::string> const& dossiers);
 

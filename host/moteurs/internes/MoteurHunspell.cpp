@@ -5,7 +5,6 @@
 #include "commun/MessagesHote.h"
 #include "langue/Decoupeur.h"
 #include "langue/JugeMot.h"
-#include "langue/Orthographe.h"
 #include "moteurs/FaisParagraphe.h"
 
 #include <algorithm>
@@ -15,8 +14,11 @@ namespace hote {
 namespace {
 
 constexpr int kSuggestionsMax = 8;
+constexpr QChar kApostropheCourbe(0x2019);
 constexpr int kMotsPourChoisir = 200; ///< of a paragraph, to choose a variant by
 constexpr int kSigleMax = 6;          ///< letters
+constexpr int kUneLettre = 2;         ///< as `DonneDistance` counts
+constexpr int kMotClair = 5;          ///< letters, from where a slip leaves a word told from others
 constexpr int kMotLong = 8;           ///< letters, where two slips are still the same word
 
 /// Nothing but spaces, quotes and the like between the place and the beginning of a sentence.
@@ -31,6 +33,40 @@ bool EstDebutDePhrase(QString const& texte, int position) {
         }
     }
     return true;
+}
+
+int Eloigne(QString const& forme, QString const& suggestion) {
+    return DonneDistance(forme.toLower(), suggestion.toLower());
+}
+
+/// Words cut in two with a letter left over ("until l") are nobody's meaning.
+bool EstCoupee(QString const& suggestion) {
+    QStringList const parties = suggestion.split(QLatin1Char(' '));
+    return parties.size() > 1 &&
+           std::any_of(parties.begin(), parties.end(), [](QString const& partie) {
+               return partie.size() == 1 && !QStringLiteral("aàyoI").contains(partie);
+           });
+}
+
+QStringList DonneSuggestions(Lexique& lexique, QString const& forme) {
+    QStringList suggestions;
+    for (QString const& suggestion : lexique.Suggere(forme)) {
+        if (!EstCoupee(suggestion) && suggestions.size() < kSuggestionsMax) {
+            suggestions.append(suggestion);
+        }
+    }
+    return suggestions;
+}
+
+/// Is the first suggestion one slip away, and every other one further?
+bool EstClaire(QString const& forme, QStringList const& suggestions) {
+    if (suggestions.isEmpty() || forme.size() < kMotClair) {
+        return false;
+    }
+    int const premiere = Eloigne(forme, suggestions.first());
+    return premiere <= kUneLettre &&
+           std::all_of(suggestions.begin() + 1, suggestions.end(),
+                       [&](QString const& autre) { return Eloigne(forme, autre) > premiere; });
 }
 
 bool EstSigle(QString const& mot) {
@@ -145,24 +181,20 @@ bool MoteurHunspell::FaisRemarque(ParagrapheAExaminer const& paragraphe, Inconnu
     if (EstSigle(inconnu.mot) || (inconnu.capitale && EstConnuAilleurs(forme, *inconnu.lexique))) {
         return false;
     }
-    QStringList suggestions = inconnu.lexique->Suggere(forme).mid(0, kSuggestionsMax);
-    int const plafond = forme.size() >= kMotLong ? 2 : 1;
-    QString const minuscule = forme.toLower();
-    int const distance = suggestions.isEmpty()
-                             ? plafond + 1
-                             : DonneDistance(minuscule, suggestions.first().toLower(), plafond);
+    QStringList suggestions = DonneSuggestions(*inconnu.lexique, forme);
+    int const plafond = forme.size() >= kMotLong ? 2 * kUneLettre : kUneLettre;
+    int const distance = suggestions.isEmpty() ? plafond + 1 : Eloigne(forme, suggestions.first());
     bool const nom = inconnu.capitale && (!inconnu.debutDePhrase || noms_.contains(forme));
     // Letters of another language, or no word near: a name, not a slip.
     bool const marquesEnPlus = !suggestions.isEmpty() && inconnu.capitale &&
                                OteMarques(suggestions.first()) == OteMarques(forme) &&
                                suggestions.first().size() == forme.size();
-    if (inconnu.capitale && (distance > (nom ? 1 : plafond) || (nom && marquesEnPlus))) {
+    if (inconnu.capitale && (distance > (nom ? kUneLettre : plafond) || (nom && marquesEnPlus))) {
         return false;
     }
-    if (Orthographe::AUneApostropheCourbe(paragraphe.texte)) {
-        suggestions.replaceInStrings(QStringLiteral("'"), QString(QChar(0x2019)));
+    if (paragraphe.texte.contains(kApostropheCourbe)) {
+        suggestions.replaceInStrings(QStringLiteral("'"), QString(kApostropheCourbe));
     }
-    bool const claire = distance <= 1 && suggestions.size() == 1;
     remarque.debut = inconnu.place.debut;
     remarque.fin = inconnu.place.fin;
     remarque.genre = GenreDeRemarque::Orthographe;
@@ -171,7 +203,10 @@ bool MoteurHunspell::FaisRemarque(ParagrapheAExaminer const& paragraphe, Inconnu
         nom ? Tr("« {1} » n’est dans aucun dictionnaire : est-ce un nom ?", inconnu.mot)
             : Tr("« {1} » n’est pas dans le dictionnaire.", inconnu.mot));
     remarque.suggestions = suggestions;
-    remarque.surete = nom ? 0.2 : claire ? 0.9 : distance <= plafond ? 0.7 : 0.5;
+    remarque.surete = nom                             ? 0.2
+                      : EstClaire(forme, suggestions) ? 0.9
+                      : distance <= plafond           ? 0.7
+                                                      : 0.5;
     return true;
 }
 

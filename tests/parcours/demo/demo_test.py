@@ -12,7 +12,7 @@ class Demo(Essai):
         avant = {c: c.read_bytes() for c in (SOURCES / "exemples").iterdir() if c.is_file()}
         sortie = lance(DEMO, env=self.env).stdout
         for faute, juste in (("acceuil", "accueil"), ("bibliotèque", "bibliothèque"),
-                             ("Untill", "Until"), ("definately", "definitely")):
+                             ("reste", "restent"), ("Untill", "Until"), ("definately", "definitely")):
             self.assertIn(f"[-{faute}-]{{+{juste}+}}", sortie)
         self.assertEqual({c: c.read_bytes() for c in (SOURCES / "exemples").iterdir() if c.is_file()}, avant)
 

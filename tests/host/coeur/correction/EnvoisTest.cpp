@@ -12,7 +12,7 @@ namespace {
 Bilan DonneBilan(int nombre) {
     Bilan bilan;
     for (int i = 0; i < nombre; ++i) {
-        bilan.fautes.push_back({0, {0, 0, {}}, {}, {}, {}, EtatFaute::Refusee});
+        bilan.fautes.push_back({0, {}, {}, {}, EtatFaute::Refusee});
     }
     return bilan;
 }

@@ -76,11 +76,12 @@ class SurUnTerminal(Corrige):
         return terminal
 
     def reponds(self, *reponses: str) -> tuple[int, str]:
-        """Each answer after its question; the exit code and what was shown after the last."""
+        """Each key after its question, a text with its Enter; the exit code and what was shown
+        after the last."""
         terminal = self.terminal()
         for reponse in reponses:
             terminal.attends(INVITE)
-            terminal.tape(reponse + "\n")
+            terminal.tape(reponse)
         return terminal.finis()
 
     def test_a_number_takes_that_suggestion(self):
@@ -95,26 +96,26 @@ class SurUnTerminal(Corrige):
         question = self.terminal().attends(INVITE)
         self.assertIn("    1 la petite [maisso] rouge", question)
         self.assertIn("1 maison", question)
-        self.assertIn("1-1 choose, r replace, i ignore, I ignore all, q quit", question)
+        self.assertIn("1 choose, t correct all, r replace, i ignore, q quit, ? help", question)
 
     def test_a_text_of_ones_own_takes_the_place_of_the_mistake(self):
         self.joue(["la maisso noir"])
-        self.assertEqual(self.reponds("r", "très petite école 😀")[0], 0)
+        self.assertEqual(self.reponds("r", "très petite école 😀\n")[0], 0)
         self.assertEqual(self.zones(), ["la très petite école 😀 noir"])
 
     def test_giving_up_ones_own_text_puts_the_question_again(self):
         self.joue(["la maisso noir"])
-        self.reponds("r", "", "1")
+        self.reponds("r", "\n", "1")
         self.assertEqual(self.zones(), ["la maison noir"])
 
     def test_a_text_that_does_not_decode_goes_into_no_document(self):
         self.joue(["la maisso noir"])
-        self.reponds("r", "\udce9cole", "1")
+        self.reponds("r", "\udce9cole\n", "1")
         self.assertEqual(self.zones(), ["la maison noir"])
 
     def test_a_mistake_without_suggestions_can_be_replaced(self):
         self.joue(["qzxwvkqzxw"])
-        self.reponds("r", "chat")
+        self.reponds("r", "chat\n")
         self.assertEqual(self.zones(), ["chat"])
 
     def test_ignoring_leaves_one_mistake_and_goes_on(self):
@@ -127,13 +128,14 @@ class SurUnTerminal(Corrige):
         self.joue(["maisso maisso chyen", "maisso"])
         _, suite = self.reponds("I", "1")
         self.assertEqual(self.zones(), ["maisso maisso chien", "maisso"])
-        self.assertIn("Corrected: 1, refused: 0, left: 3.", suite)
+        # What was not asked about again does not count as left.
+        self.assertIn("Corrected: 1, refused: 0, left: 1.", suite)
 
-    def test_quitting_keeps_what_was_done_and_counts_the_rest_as_left(self):
+    def test_quitting_keeps_what_was_done_and_counts_what_was_shown(self):
         self.joue(["maisso chyen rouje", "maisso maisso"])
         code, suite = self.reponds("1", "q")
         self.assertEqual(code, 0)
-        self.assertIn("Corrected: 1, refused: 0, left: 4.", suite)
+        self.assertIn("Corrected: 1, refused: 0, left: 1.", suite)
         self.assertEqual(self.zones()[0], "maison chyen rouje")
 
     def test_the_end_of_the_input_quits(self):
@@ -144,16 +146,50 @@ class SurUnTerminal(Corrige):
 
     def test_an_answer_that_is_none_puts_the_question_again(self):
         self.joue(["maisso"])
-        self.reponds("", "0", "99", "oui", "-1", "1")
+        self.reponds("0", "9", "o", "é", "\x1b", "1")
+        self.assertEqual(self.zones(), ["maison"])
+
+    def test_a_key_that_means_nothing_shows_what_the_keys_do(self):
+        self.joue(["maisso"])
+        terminal = self.terminal()
+        terminal.attends(INVITE)
+        terminal.tape("x")
+        self.assertIn("q       end", terminal.attends(INVITE))
+
+    def test_enter_behind_a_key_is_passed_over(self):
+        self.joue(["maisso chyen rouje"])
+        self.reponds("1\n", "1\n", "1\n")
+        self.assertEqual(self.zones(), ["maison chien rouge"])
+
+    def test_one_key_corrects_the_same_mistake_everywhere(self):
+        self.joue(["maisso chyen maisso", "maisso"])
+        _, suite = self.reponds("t", "i")
+        self.assertEqual(self.zones(), ["maison chyen maison", "maison"])
+        self.assertIn("Corrected: 3, refused: 0, left: 1.", suite)
+
+    def test_going_back_takes_a_correction_back_and_asks_again(self):
+        self.joue(["la maisso noir chyen", "rouje"])
+        _, suite = self.reponds("1", "b", "i", "1", "b", "1", "1")
+        self.assertEqual(self.zones(), ["la maisso noir chien", "rouge"])
+        self.assertIn("Corrected: 2, refused: 0, left: 1.", suite)
+
+    def test_going_back_to_the_zone_before_works_too(self):
+        self.joue(["maisso", "chyen"])
+        self.reponds("1", "b", "r", "chat noir\n", "1")
+        self.assertEqual(self.zones(), ["chat noir", "chien"])
+
+    def test_there_is_nothing_to_go_back_to_before_the_first_mistake(self):
+        self.joue(["maisso"])
+        self.reponds("b", "1")
         self.assertEqual(self.zones(), ["maison"])
 
     def test_a_refused_correction_is_told_at_once(self):
         self.joue(["maisso chyen"], [{"op": "PeutCorriger", "appel": 1, "reponse": False}])
         terminal = self.terminal()
         terminal.attends(INVITE)
-        terminal.tape("1\n")
+        terminal.tape("1")
         self.assertIn("refused: maison", terminal.attends(INVITE))
-        terminal.tape("1\n")
+        terminal.tape("1")
         self.assertEqual(terminal.finis()[0], 1)
 
     def test_mistakes_are_in_colour_on_a_terminal_that_knows_colours(self):
@@ -171,7 +207,7 @@ class SurUnTerminal(Corrige):
 
     def test_automatic_asks_nothing_on_a_terminal(self):
         self.joue(["la maisso noir"])
-        terminal = self.terminal("--automatique")
+        terminal = self.terminal("--tout")
         code, suite = terminal.finis()
         self.assertEqual((code, INVITE in suite), (0, False))
         self.assertEqual(self.zones(), ["la maison noir"])
@@ -186,9 +222,9 @@ class SurUnTerminal(Corrige):
         # Without the wait of a fifth of a second that spares short works the sight of it.
         self.env["VOCALYNE_PROGRESSION_MS"] = "0"
         self.joue(["chat chien maison blanche petite rouge"] * 250)
-        terminal = self.terminal("--automatique")
+        terminal = self.terminal("--tout")
         vu = terminal.attends(" of 250")
-        self.assertRegex(vu, r"\r\x1b\[KZone \d+ of 250")
+        self.assertRegex(vu, r"\r\x1b\[KParagraph \d+ of 250")
         _, suite = terminal.finis()
         self.assertTrue(re.search(r"\r\x1b\[KNo mistake\.\r\n$", suite), suite[-80:])
 
