@@ -100,14 +100,15 @@ void Processus::Lance(std::vector<std::string> const& commande, int entree, int 
     posix_spawn_file_actions_adddup2(&actions, erreur, STDERR_FILENO);
     posix_spawnattr_t attributs;
     posix_spawnattr_init(&attributs);
-    posix_spawnattr_setflags(&attributs, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGMASK |
-                                             POSIX_SPAWN_SETSIGDEF);
+    posix_spawnattr_setflags(&attributs, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
     sigset_t aucun;
     sigemptyset(&aucun);
     posix_spawnattr_setsigmask(&attributs, &aucun);
     sigset_t ordinaires;
     sigemptyset(&ordinaires);
-    sigaddset(&ordinaires, SIGPIPE);
+    for (int const signal : {SIGPIPE, SIGINT, SIGTERM}) {
+        sigaddset(&ordinaires, signal);
+    }
     posix_spawnattr_setsigdefault(&attributs, &ordinaires);
     int const issue = commande.empty() ? ENOENT
                                        : posix_spawnp(&pid_, arguments[0], &actions, &attributs,
@@ -131,7 +132,7 @@ Processus::~Processus() {
         AttendsFlux(false, echeance);
         lu_.clear();
     }
-    kill(-pid_, SIGKILL);
+    kill(pid_, SIGKILL);
     while (waitpid(pid_, nullptr, 0) < 0 && errno == EINTR) {
     }
     Ferme(sortie_);

@@ -18,10 +18,11 @@ class Processus {
   public:
     using Instant = std::chrono::steady_clock::time_point;
 
-    /// Starts `commande` (a path, or a name looked up in PATH, and its arguments) in a process
-    /// group of its own. Throws ErreurDeMoteur when it cannot be started.
+    /// Starts `commande` (a path, or a name looked up in PATH, and its arguments). It stays in our
+    /// process group, so that an interruption from the terminal ends it too. Throws ErreurDeMoteur
+    /// when it cannot be started.
     explicit Processus(std::vector<std::string> const& commande);
-    /// Closes the program's input, and kills its group unless it ends within half a second.
+    /// Closes the program's input, and kills it unless it ends within half a second.
     ~Processus();
     Processus(Processus const&) = delete;
     Processus& operator=(Processus const&) = delete;

@@ -2,6 +2,7 @@
 """Grammalecte as an engine: JSON Lines on standard input and output (docs/moteurs.md)."""
 import json
 import re
+import signal
 import sys
 
 # What clean texts are full of, or what spelling and the writer's own taste decide.
@@ -16,6 +17,8 @@ GENRES = {
 }
 SURETES = {"accord": 0.85, "confusion": 0.85, "typographie": 0.8, "repetition": 0.7, "style": 0.4}
 MOT = re.compile(r"\w+")
+# Small raised letters ("XIXᵉ"): who writes a letter raises it by its format.
+EXPOSANTS = re.compile("[\u02b0-\u02b8\u1d2c-\u1d6a\u2070-\u207f]")
 
 
 def charge():
@@ -71,8 +74,9 @@ def examine(correcteur, texte: str, pays: str) -> list[dict]:
     fautes = correcteur.parse(texte, pays)
     if isinstance(fautes, tuple):
         fautes = fautes[0]
+    fautes = [f for f in fautes if not any(EXPOSANTS.search(s) for s in f["aSuggestions"])]
     places = fais_places(texte)
-    return [fais_remarque(faute, places) for faute in sans_doubles(list(fautes), texte)]
+    return [fais_remarque(faute, places) for faute in sans_doubles(fautes, texte)]
 
 
 def donne_pays(langues: list[dict]) -> str:
@@ -86,6 +90,7 @@ def ecris(objet: dict) -> None:
 
 
 def main() -> None:
+    signal.signal(signal.SIGINT, signal.SIG_DFL) # quietly, whatever it is about
     try:
         correcteur, version = charge()
     except ImportError as faute:

@@ -96,3 +96,4 @@ async function main() {
 }
 
 await main();
+process.exit(0);

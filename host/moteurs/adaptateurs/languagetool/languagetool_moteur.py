@@ -3,6 +3,7 @@
 
 Argument: the server's address. Nothing is sent anywhere else, and no redirection is followed."""
 import json
+import signal
 import sys
 import urllib.error
 import urllib.parse
@@ -63,6 +64,7 @@ def ecris(objet: dict) -> None:
 
 
 def main() -> None:
+    signal.signal(signal.SIGINT, signal.SIG_DFL) # quietly, whatever it is about
     adresse = sys.argv[1]
     ecris({"contrat": 1, "moteur": "languagetool", "version": adresse})
     for ligne in sys.stdin:

@@ -29,7 +29,7 @@ Bilan Corrige(QStringList const& arguments) {
         arguments));
 }
 
-QString const kAuto = QStringLiteral("--automatique");
+QString const kAuto = QStringLiteral("--tout");
 
 class HostCorrection : public testing::Test {
   protected:
@@ -69,7 +69,7 @@ TEST_F(HostCorrection, OrdinaryProseHasNoMistake) {
     BureauDeTest bureau(
         {{"fr.txt",
           "C’est l’été : qu’il fasse beau ou non, j’irai là-bas aujourd’hui, peut-être même ce "
-          "soir-là.\nDonne-le-moi, dis-je ; va-t-en, s’écria-t-il. Jusqu’à présent, quelqu’un a "
+          "soir-là.\nDonne-le-moi, dis-je ; va-t’en, s’écria-t-il. Jusqu’à présent, quelqu’un a "
           "dit "
           "« presqu’île » et « entr’ouvrir », d’après Marie.\nL’œuvre, le cœur, les naïfs, l’aîné "
           "et l’hôtel coûtent 3,50 € (n° 12), c’est-à-dire 20 % de plus.\n"},

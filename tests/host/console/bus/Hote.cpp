@@ -33,6 +33,8 @@ QProcessEnvironment DonneEnvironnement(DossierTemporaire const& maison) {
     }
     environnement.insert(QStringLiteral("HOME"), Q(maison.Chemin().string()));
     environnement.insert(QStringLiteral("LANG"), QStringLiteral("C.UTF-8"));
+    // No engine outside the host: what they find is not the matter here.
+    environnement.insert(QStringLiteral("VOCALYNE_MOTEURS"), QString());
     return environnement;
 }
 
