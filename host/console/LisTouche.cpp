@@ -13,6 +13,7 @@ namespace hote {
 namespace {
 
 constexpr char kFinDEntree = 4; // Control-D
+constexpr char kFinAvant = 0;   // the same, typed before the terminal gave key by key
 
 /// A terminal that gives each key at once; as it was again at the end.
 class ToucheParTouche {
@@ -54,10 +55,9 @@ int DonneSuite(char premier) {
 }
 
 std::optional<QString> LisAuTerminal() {
-    ToucheParTouche const reglage;
     std::string touche(1, '\0');
     do { // who is used to it types Enter behind a digit
-        if (!LisOctet(touche[0]) || touche[0] == kFinDEntree) {
+        if (!LisOctet(touche[0]) || touche[0] == kFinDEntree || touche[0] == kFinAvant) {
             return std::nullopt;
         }
     } while (touche[0] == '\n' || touche[0] == '\r');
@@ -78,6 +78,7 @@ std::optional<QString> LisTouche(std::istream& entree, Sortie& sortie, std::stri
         auto const ligne = DemandeLigne(entree, sortie, invite);
         return ligne ? std::make_optional(ligne->trimmed().left(1)) : std::nullopt;
     }
+    ToucheParTouche const reglage; // before anybody can answer
     sortie.Ecris(invite + " > ");
     if (sortie.EstRompue()) {
         return std::nullopt;
