@@ -27,7 +27,7 @@ def coupe_une_paire(unites: str, ou: int) -> bool:
 
 def _autour(textes: list[str], rang: int) -> tuple[str, ...]:
     avant = textes[max(0, rang - AUTOUR):rang]
-    return (*[""] * (AUTOUR - len(avant)), *avant, *textes[rang:rang + AUTOUR + 1])
+    return (*[""] * (AUTOUR - len(avant)), *avant, *textes[rang + 1:rang + AUTOUR + 1])
 
 
 def semblance(essai, textes: list[str], rang: int) -> int:
@@ -45,7 +45,7 @@ class Essai(NamedTuple):
     ajout: str
     genre: str
     pareilles: int  # zones before it that read the same
-    autour: tuple[str, ...] = ()  # what the zones beside it read: those before it, itself, those after
+    autour: tuple[str, ...] = ()  # what the zones beside it read: those before it, those after
 
     @property
     def original(self) -> str:

@@ -12,6 +12,7 @@ from .fichier.ossature import Ossature
 from .ouvert import Ouvert, PasAnnule, PasEnregistre
 
 SELECTIONS = 5
+AUTRE = "§"
 
 
 def _compte(zones) -> Counter:
@@ -151,7 +152,7 @@ class Epreuve:
     def _corrige(self, ouvert: Ouvert, zones) -> None:
         while essai := self._choix.suivant(zones):
             pas = ouvert.etapes()
-            refus = self._demande(zones[essai.zone], essai)
+            refus = self._demande(ouvert, zones[essai.zone], essai)
             lues = self._client.zones()
             if refus:
                 self._bilan.refusees += 1
@@ -167,19 +168,34 @@ class Epreuve:
                     self._note("annulation.pas", f"{ouvert.etapes() - pas} steps: {_dis(essai)}")
             zones = lues
 
-    def _demande(self, zone, essai: Essai) -> str:
+    def _demande(self, ouvert: Ouvert, zone, essai: Essai) -> str:
         """Asks whether it may, then for it. Why not, or nothing."""
-        peut = self._client.PeutCorriger(zone.nom, essai.debut, essai.fin, essai.original)
+        peut = self._client.PeutCorriger(zone.nom, essai.debut, essai.fin, essai.original) or \
+            self._se_refuse(ouvert, zone, essai)
         try:
             self._client.CorrigeDansTexteur(zone.nom, essai.debut, essai.fin, essai.ajout, False)
         except banc.Appel as erreur:
             if erreur.nom in ("Bureau", "Interne", "NoReply"):
                 self._note("correction.echec", f"{erreur.nom}: {erreur}: {_dis(essai)}")
             return erreur.nom
-        # It answers whatever the new text will be: one with all the old letters in it takes none away.
+        # One with all the old letters in it takes none away.
         if not peut and essai.original not in essai.ajout:
             self._note("peut", f"answered no, and it was done: {_dis(essai)}")
         return ""
+
+    def _se_refuse(self, ouvert: Ouvert, zone, essai: Essai) -> bool:
+        """"No" says that not every text may stand there: here is one of other letters, and more."""
+        pas = ouvert.etapes()
+        try:
+            self._client.CorrigeDansTexteur(zone.nom, essai.debut, essai.fin,
+                                            AUTRE * (essai.fin - essai.debut + 1), False)
+        except banc.Appel:
+            refusee = True
+        else:
+            refusee = False
+            ouvert.annule(pas)
+        self._client.zones()
+        return refusee
 
     @staticmethod
     def _ecarts(avant, apres, sauf: str = "") -> list[str]:

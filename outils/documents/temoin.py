@@ -121,8 +121,12 @@ class Paragraphe:
                       self._position(essai.fin - len(en_unites(essai.original[apres:]))))
         if debut is None or fin is None:
             return False
-        debut.gotoRange(fin, True)
-        debut.setString(essai.ajout[avant:len(essai.ajout) - len(essai.original) + apres])
+        lettres = essai.ajout[avant:len(essai.ajout) - len(essai.original) + apres]
+        if avant == apres:  # not through the cursor, which takes what is anchored there for replaced
+            self._donne_texte().insertString(debut, lettres, False)
+        else:
+            debut.gotoRange(fin, True)
+            debut.setString(lettres)
         self.vu = self._donne_etendue().getString()
         return True
 
@@ -193,23 +197,31 @@ class Temoin:
         """Makes the correction in the paragraph that reads as the zone did; of several in the one that
         stands between the same ones, or comes as far down."""
         textes = [p.vu for p in self._paragraphes]
-        semblables = [i for i, vu in enumerate(textes) if vu == essai.avant]
         notes = [semblance(essai, textes, i) for i in range(len(textes))]
-        if not semblables:
-            plus_long = max(essai.avant.replace("\n", REMPLISSAGE).split(REMPLISSAGE), key=len)
-            possibles = [i for i, vu in enumerate(textes) if plus_long in vu.replace(CESURE, "")]
-        else:  # one with something in it that does not count may read the same
-            possibles = [i for i, note in enumerate(notes)
-                         if note > max(notes[i] for i in semblables)]
-        semblables += [i for i in possibles[:POSSIBLES_MAX]
-                       if self._paragraphes[i].se_lit(essai.avant)]
+        semblables = self._semblables(essai, textes, notes)
         if not semblables:
             return False
         meilleurs = [i for i in semblables if notes[i] == max(notes[j] for j in semblables)]
         choisi = semblables[min(essai.pareilles, len(semblables) - 1)]
-        if choisi not in meilleurs:
-            choisi = meilleurs[0]
-        return self._paragraphes[choisi].remplace(essai)
+        return self._paragraphes[choisi if choisi in meilleurs else meilleurs[0]].remplace(essai)
+
+    def _semblables(self, essai: Essai, textes: list[str], notes: list[int]) -> list[int]:
+        """Those that read so; looked at portion by portion, as what is deleted does not count, where
+        it is worth the time."""
+        semblables = [i for i, vu in enumerate(textes) if vu == essai.avant]
+        plus_long = max(essai.avant.replace("\n", REMPLISSAGE).split(REMPLISSAGE), key=len)
+        probables = [i for i, vu in enumerate(textes) if plus_long in vu.replace(CESURE, "")]
+        voisins = sorted(range(len(textes)), key=lambda i: -notes[i])
+        if semblables:  # one that stands in the right place may read the same
+            meilleure = max(notes[i] for i in semblables)
+            suites = [[i for i in voisins if notes[i] > meilleure]]
+        else:
+            suites = [probables, voisins]
+        for suite in suites:
+            vus = [i for i in suite[:POSSIBLES_MAX] if self._paragraphes[i].se_lit(essai.avant)]
+            if vus:
+                return sorted({*semblables, *vus})
+        return semblables
 
     def _texte(self, texte, champ=None, donne=None) -> None:
         for rang, element in enumerate(_suite(texte.createEnumeration())):

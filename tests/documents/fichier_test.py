@@ -272,6 +272,8 @@ class Demandees(unittest.TestCase):
     def test_an_empty_paragraph_gets_letters_without_a_format(self):
         self.juge("", "mot", True)
         self.juge("", "G(mot)", False)
+        self.juge("G(<text:page-number/>)", "G(<text:page-number/>mot)", True)
+        self.juge("G(<text:page-number/>)", "G(<text:page-number/>)mot", False)
 
     def test_what_is_no_letter_stays_where_it_is(self):
         marque, champ = '<text:bookmark text:name="x"/>', "<text:page-number/>"

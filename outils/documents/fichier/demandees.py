@@ -45,8 +45,13 @@ def _lettres(lignes: list[Ligne]) -> list[Lettre]:
 
 
 def _voisins(lettres: list[Lettre], debut: int, fin: int) -> set[str]:
-    """The formats of the letters on both sides; the paragraph's own where it has none."""
-    return {voisine.format for voisine in lettres[max(0, debut - 1):debut] + lettres[fin:fin + 1]} \
+    """The formats of the letters on both sides."""
+    return {voisine.format for voisine in lettres[max(0, debut - 1):debut] + lettres[fin:fin + 1]}
+
+
+def _de_naissance(choses: list[str]) -> set[str]:
+    """The formats that the first letters of a paragraph may have: that of a field in it, or none."""
+    return {chose.replace("formats", "letters", 1) for chose in choses if chose.startswith("formats")} \
         or {SANS_FORMAT}
 
 
@@ -62,7 +67,8 @@ def _est_demandee(avant: list[Ligne], apres: list[Ligne]) -> bool:
             if [v[1:] for v in vues[a1:a2]] != [f[1:] for f in faites[b1:b2]]:
                 return False
         else:
-            permis = {v.format for v in vues[a1:a2]} or _voisins(vues, a1, a2)
+            permis = {v.format for v in vues[a1:a2]} or _voisins(vues, a1, a2) or \
+                _de_naissance(_choses(avant))
             if not permis.issuperset(f.format for f in faites[b1:b2]):
                 return False
     return True
