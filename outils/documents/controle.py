@@ -7,6 +7,7 @@ import os
 import banc
 from .constats import BUREAU, FAUTE, Bilan
 from .fichier.demandees import sans_demandees
+from .fichier.deplacees import sans_deplacees
 from .fichier.differences import Difference, differences, mesures, partage
 from .fichier.ossature import Ligne, Ossature
 from .ouvert import Ouvert, PasAnnule, PasEnregistre
@@ -41,6 +42,8 @@ class Controle:
         self.faits: list = []  # the corrections that were made
         self.autrement: list[str] = []  # zones that undo did not give back
         self._tableur = False
+        self._annules: tuple[list[Ligne], list[Ligne]] = ([], [])
+        self._temoin_annule: tuple[list[Ligne], list[Ligne]] | None = None
 
     def compare(self, nature: str, avant: Ossature, apres: Ossature) -> None:
         self._note(nature, avant.lignes, apres.lignes)
@@ -48,6 +51,10 @@ class Controle:
     def compare_corriges(self, avant: Ossature, apres: Ossature) -> None:
         """Their structure: of letters other ones were asked for."""
         self._note("structure", *sans_demandees(avant.lignes, apres.lignes))
+
+    def compare_annules(self, avant: Ossature, apres: Ossature) -> None:
+        self._annules = (avant.lignes, apres.lignes)
+        self._note("annulation", *self._annules)
 
     def _note(self, nature: str, avant: list[Ligne], apres: list[Ligne]) -> None:
         if trouvees := differences(avant, apres):
@@ -60,6 +67,10 @@ class Controle:
 
     def _juge_avec_temoin(self) -> None:
         du_bureau, passageres, manques = self._rejoue()
+        if "annulation" in self._vues and self._temoin_annule:
+            avant, apres, dites = sans_deplacees(*self._annules, self._temoin_annule)
+            self._vues["annulation"] = differences(avant, apres)
+            self._bilan.note("annulation", BUREAU, dites)
         # What grew with the letters does not shrink again for their undoing.
         libres = frozenset().union(*map(mesures, du_bureau.get("structure", [])),
                                    RANGEES if self._tableur else ())
@@ -95,8 +106,10 @@ class Controle:
         finally:
             if self._bureau.processus.poll() is None:
                 ouvert.ferme()
+        if annulable:
+            self._temoin_annule = (Ossature(avant, True).lignes, Ossature(annule, True).lignes)
         return {"lecture.change": passageres,
                 "structure": differences(Ossature(avant, False).lignes,
                                          Ossature(corrige, False).lignes),
-                "annulation": differences(Ossature(avant, True).lignes, Ossature(annule, True).lignes)
-                if annulable else []}, passageres, manques
+                "annulation": differences(*self._temoin_annule) if annulable else []}, \
+            passageres, manques

@@ -93,7 +93,7 @@ class Epreuve:
         # The read state is what corrections began with: what reading changed was told above.
         controle.faits = self._faits
         controle.compare_corriges(Ossature(lu, False), Ossature(corrige, False))
-        controle.compare("annulation", Ossature(lu, True), Ossature(annule, True))
+        controle.compare_annules(Ossature(lu, True), Ossature(annule, True))
         self.etape = "the same without the extension"
         ouvert.ferme()
         controle.juge()

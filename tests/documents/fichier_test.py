@@ -11,6 +11,7 @@ import zipfile
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "outils"))
 from documents.fichier.demandees import sans_demandees
+from documents.fichier.deplacees import sans_deplacees
 from documents.fichier.differences import Difference, differences, partage
 from documents.fichier.mots import Lecture
 from documents.fichier.ossature import Ligne, Ossature
@@ -281,6 +282,36 @@ class Demandees(unittest.TestCase):
         self.juge(f"G(a) {champ}b", "G(a) b", False)
         self.juge(f"G(a){champ}b", f"{champ}b", True)
         self.juge(f"G(a){champ}b", f"{champ}ab", False)
+
+
+class Deplacees(unittest.TestCase):
+    """Of two paragraphs, and two of a witness: is what undo changed the office's own?"""
+
+    MARQUES = {"[": '<text:bookmark-start text:name="x"/>', "]": '<text:bookmark-end text:name="x"/>',
+               "(": '<office:annotation office:name="1"><dc:creator>A</dc:creator>'
+                    "<text:p>dit</text:p></office:annotation>",
+               "#": "<text:page-number/>"}
+
+    def juge(self, avant: str, apres: str, temoin: str, sien: bool):
+        vues = []
+        for dit in (avant, apres, avant, temoin):
+            corps = "".join(self.MARQUES.get(signe, signe) for signe in dit)
+            vues.append(Ossature(fichier(f"<text:p>{corps}</text:p>"), True).lignes)
+        reste, autre, dites = sans_deplacees(vues[0], vues[1], (vues[2], vues[3]))
+        self.assertEqual((not differences(reste, autre), bool(dites)), (sien, sien))
+
+    def test_a_mark_that_moves_in_the_witness_too_is_the_offices_however_far(self):
+        self.juge("un [mot]", "un m[ot]", "un mot[]", True)
+        self.juge("un (mot", "un m(ot", "un mot(", True)
+
+    def test_a_mark_that_moves_for_us_alone_is_ours(self):
+        self.juge("un [mot]", "un m[ot]", "un [mot]", False)
+        self.juge("[un (mot]", "un[ m(ot]", "[un mot(]", False)
+
+    def test_what_else_differs_is_ours(self):
+        self.juge("un [mot]", "un m[o]", "un mot[]", False)
+        self.juge("un [mot]", "un mot", "un mot[]", False)
+        self.juge("un #mot", "un m#ot", "un m#ot", False)
 
 
 class Differences(unittest.TestCase):

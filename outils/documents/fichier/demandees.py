@@ -23,7 +23,7 @@ class Lettre(NamedTuple):
     apres: int  # how many things that are no letters stand before it in the line
 
 
-def _paragraphes(lignes: list[Ligne]) -> dict[str, list[Ligne]]:
+def paragraphes(lignes: list[Ligne]) -> dict[str, list[Ligne]]:
     """What stands in each paragraph itself: not in a note or frame of it."""
     siens: dict[str, list[Ligne]] = {}
     for ligne in lignes:
@@ -77,7 +77,7 @@ def _est_demandee(avant: list[Ligne], apres: list[Ligne]) -> bool:
 def sans_demandees(avant: list[Ligne], apres: list[Ligne]) -> tuple[list[Ligne], list[Ligne]]:
     """The lines of two saves (of structure: runs without what they read), less those of letters in
     paragraphs where nothing is wrong with them."""
-    vus, faits = _paragraphes(avant), _paragraphes(apres)
+    vus, faits = paragraphes(avant), paragraphes(apres)
     justes = {lieu for lieu, siennes in vus.items()
               if [ligne.dit for ligne in siennes] != [ligne.dit for ligne in faits.get(lieu, [])]
               and _est_demandee(siennes, faits.get(lieu, []))}
