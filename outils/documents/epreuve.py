@@ -69,7 +69,8 @@ class Epreuve:
         self._client.prends(ouvert.modele)
         zones = self._client.zones()
         self._bilan.zones = len(zones)
-        manques, surplus = self._mots(avant, zones)
+        lecture = Lecture(avant)
+        manques, surplus = self._mots(lecture, zones)
         self.etape = "selections"
         self._selectionne(zones)
         self.etape = "save after reading"
@@ -81,7 +82,7 @@ class Epreuve:
         self._corrige(ouvert, zones)
         self.etape = "save after corrections"
         corrige = ouvert.enregistre()
-        self._mots_corriges(corrige, manques, surplus)
+        self._mots_corriges(corrige, manques, surplus, lecture.douteux)
         self.etape = "undo"
         try:
             ouvert.annule(pas)
@@ -107,8 +108,7 @@ class Epreuve:
             avant.texte for avant, apres in zip(zones, relues) if avant.nom != apres.nom])
         return relues
 
-    def _mots(self, sauvegarde, zones) -> tuple[Counter, Counter]:
-        lecture = Lecture(sauvegarde)
+    def _mots(self, lecture: Lecture, zones) -> tuple[Counter, Counter]:
         self._bilan.ecartes = {raison: sum(siens.values())
                                for raison, siens in sorted(lecture.ecartes.items())}
         lus = _compte(zones)
@@ -121,12 +121,15 @@ class Epreuve:
             self._note("mots.en-trop", f"{mot} ({', '.join(raisons) or 'not in the file'})")
         return manques, surplus
 
-    def _mots_corriges(self, sauvegarde, manques: Counter, surplus: Counter) -> None:
-        """What the zones hold now stands in the file, but for what was told before."""
+    def _mots_corriges(self, sauvegarde, manques: Counter, surplus: Counter, avant: Counter) -> None:
+        """What the zones hold now stands in the file, but for what was told before. `avant`: words of
+        which the file did not say then whether they are to be read; such a one may have made up for
+        another that is not."""
         lecture, lus = Lecture(sauvegarde), _compte(self._client.zones())
-        for mot in lecture.lus - lus - lecture.douteux - manques:
+        douteux = lecture.douteux | avant
+        for mot in lecture.lus - lus - douteux - manques:
             self._note("mots.enregistres", f"{mot}: in the file, not in the zones")
-        for mot in lus - lecture.lus - lecture.douteux - surplus:
+        for mot in lus - lecture.lus - douteux - surplus:
             self._note("mots.enregistres", f"{mot}: in the zones, not in the file")
 
     def _selectionne(self, zones) -> None:
