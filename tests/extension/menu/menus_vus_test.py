@@ -80,6 +80,19 @@ class Vus(ecran.Fenetres):
         hote = self.outils.attends_la_fenetre()
         self.assertEqual(hote["arguments"], ["fenetre", "--page", "mots", identifiant])
 
+    def test_the_key_opens_the_window_too(self):
+        doc = self.ouvre_en_vue()
+        identifiant = banc.Client(self.bus).prends(doc)
+
+        def essaie():
+            self.ecran.touche("LibreOffice Writer", "ctrl+alt+v")
+            try:
+                return banc.attends(self.outils.notes_hote.exists, "the key's effect", 5)
+            except AssertionError:
+                return False
+        banc.attends(essaie, "the key's effect")
+        self.assertEqual(self.outils.attends_la_fenetre()["arguments"], ["fenetre", identifiant])
+
     def test_about_opens_a_box_that_closes(self):
         self.ouvre_en_vue()
         self.choisis(3, lambda: '"Vocalyne"' in self.ecran.titres())
