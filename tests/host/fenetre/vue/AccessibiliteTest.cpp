@@ -47,6 +47,30 @@ TEST_F(Accessibilite, TheMistakeIsMarkedInThePalettesColoursAndNotByThemAlone) {
     EXPECT_TRUE(marque.format.fontUnderline());
 }
 
+TEST_F(Accessibilite, EverythingIsDarkWhereTheDesktopIs) {
+    Ouvre({Q("Voici xa.")});
+    QPalette const avant = QApplication::palette();
+    QPalette sombre(QColor(40, 40, 40));
+    sombre.setColor(QPalette::Base, QColor(30, 30, 30));
+    QApplication::setPalette(sombre);
+    QTRY_VERIFY_WITH_TIMEOUT(fenetre->palette().color(QPalette::Window) == QColor(40, 40, 40),
+                             5000);
+    QImage const image = fenetre->grab().toImage();
+    QString const dossier = qEnvironmentVariable("VOCALYNE_IMAGES");
+    if (!dossier.isEmpty()) { // for people to look at
+        image.save(dossier + QStringLiteral("/fenetre-sombre.png"));
+    }
+    QApplication::setPalette(avant);
+    int clairs = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            clairs += image.pixelColor(x, y).lightness() > 128 ? 1 : 0;
+        }
+    }
+    EXPECT_GT(clairs, 0); // the letters
+    EXPECT_LT(clairs, image.width() * image.height() / 10);
+}
+
 TEST_F(Accessibilite, LettersOfTwiceTheSizeStillFitASmallScreen) {
     QFont const avant = QApplication::font();
     QFont grande = avant;
