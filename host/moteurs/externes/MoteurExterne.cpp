@@ -10,8 +10,20 @@ namespace hote {
 
 namespace {
 
+constexpr QChar kApostropheCourbe(0x2019);
+
 /// The person does not wait for it any more.
 struct ArretDemande {};
+
+/// Letters of a part that the engine does not judge: words of its own language there would have it
+/// see mistakes around them.
+void Masque(QString& texte, EtendueDeLangue const& etendue) {
+    for (int i = etendue.debut; i < etendue.fin; ++i) {
+        if (texte.at(i).isLetter()) {
+            texte[i] = texte.at(i).isUpper() ? QLatin1Char('X') : QLatin1Char('x');
+        }
+    }
+}
 
 Processus::Instant DonneEcheance(int ms) {
     return std::chrono::steady_clock::now() + std::chrono::milliseconds(ms);
@@ -48,7 +60,18 @@ std::vector<Remarque> MoteurExterne::Examine(ParagrapheAExaminer const& paragrap
 
 void MoteurExterne::ExamineTexte(TexteNu const& texte, Arret const& arret,
                                  std::vector<Remarque>& remarques) {
-    for (Remarque& remarque : Demande(texte, arret).remarques) {
+    TexteNu masque = texte;
+    for (EtendueDeLangue const& etendue : texte.langues) {
+        if (!Juge(etendue.langue)) {
+            Masque(masque.texte, etendue);
+        }
+    }
+    bool const droites =
+        texte.texte.contains(QLatin1Char('\'')) && !texte.texte.contains(kApostropheCourbe);
+    for (Remarque& remarque : Demande(masque, arret).remarques) {
+        if (droites) { // the writer's own apostrophe
+            remarque.suggestions.replaceInStrings(QString(kApostropheCourbe), QStringLiteral("'"));
+        }
         int const debut = texte.Retrouve(remarque.debut);
         int const fin = texte.Retrouve(remarque.fin - 1);
         if (debut >= 0 && fin >= 0) {

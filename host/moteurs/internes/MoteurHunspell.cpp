@@ -16,6 +16,7 @@ namespace {
 constexpr int kSuggestionsMax = 8;
 constexpr QChar kApostropheCourbe(0x2019);
 constexpr int kMotsPourChoisir = 200; ///< of a paragraph, to choose a variant by
+constexpr int kAvanceClaire = 8;      ///< words that one variant knows more than another
 constexpr int kSigleMax = 6;          ///< letters
 constexpr int kUneLettre = 2;         ///< as `DonneDistance` counts
 constexpr int kMotClair = 5;          ///< letters, from where a slip leaves a word told from others
@@ -58,13 +59,16 @@ QStringList DonneSuggestions(Lexique& lexique, QString const& forme) {
     return suggestions;
 }
 
-/// Is the first suggestion one slip away, and every other one further?
+/// Is the first suggestion a word one slip away, and every other one further?
 bool EstClaire(QString const& forme, QStringList const& suggestions) {
     if (suggestions.isEmpty() || forme.size() < kMotClair) {
         return false;
     }
-    int const premiere = Eloigne(forme, suggestions.first());
-    return premiere <= kUneLettre &&
+    QString const& meilleure = suggestions.first();
+    bool const mot =
+        !meilleure.contains(QLatin1Char(' ')) && meilleure.at(0).isUpper() == forme.at(0).isUpper();
+    int const premiere = Eloigne(forme, meilleure);
+    return mot && premiere <= kUneLettre &&
            std::all_of(suggestions.begin() + 1, suggestions.end(),
                        [&](QString const& autre) { return Eloigne(forme, autre) > premiere; });
 }
@@ -80,6 +84,7 @@ struct MoteurHunspell::Inconnu {
     Mot place;
     QString mot;
     Lexique* lexique;
+    QString langue;
     bool capitale;
     bool debutDePhrase;
 };
@@ -111,7 +116,7 @@ std::vector<Remarque> MoteurHunspell::Examine(ParagrapheAExaminer const& paragra
             JugeMot(*lexique, texte, *mot, parties);
             for (Mot const& partie : parties) {
                 inconnus.push_back({partie, texte.mid(partie.debut, partie.fin - partie.debut),
-                                    lexique, texte.at(partie.debut).isUpper(),
+                                    lexique, etendue.langue, texte.at(partie.debut).isUpper(),
                                     EstDebutDePhrase(texte, mot->debut)});
             }
         }
@@ -155,6 +160,19 @@ Lexique* MoteurHunspell::TrouveLexique(QString const& langue, QString const& tex
     });
 }
 
+/// A word of another country's, in a text that names none and has not shown clearly which is its
+/// own.
+bool MoteurHunspell::EstDUneAutreVariante(QString const& forme, Inconnu const& inconnu) {
+    if (inconnu.langue.contains(QLatin1Char('-'))) {
+        return false;
+    }
+    auto const variantes = dictionnaires_.TrouveVariantes(inconnu.langue);
+    return std::any_of(variantes.begin(), variantes.end(), [&](Lexique* autre) {
+        return autre != inconnu.lexique && autre->Connait(forme) &&
+               connus_.value(inconnu.lexique) - connus_.value(autre) < kAvanceClaire;
+    });
+}
+
 bool MoteurHunspell::EstConnuAilleurs(QString const& forme, Lexique const& lexique) {
     for (char const* langue : {"fr", "en", "de", "es", "it", "nl", "pt", "pl"}) {
         for (Lexique* const autre : dictionnaires_.TrouveVariantes(QString::fromLatin1(langue))) {
@@ -178,7 +196,8 @@ void MoteurHunspell::ApprendsNoms(QString const& texte, std::vector<Inconnu> con
 bool MoteurHunspell::FaisRemarque(ParagrapheAExaminer const& paragraphe, Inconnu const& inconnu,
                                   Remarque& remarque) {
     QString const forme = DonneForme(inconnu.mot);
-    if (EstSigle(inconnu.mot) || (inconnu.capitale && EstConnuAilleurs(forme, *inconnu.lexique))) {
+    if (EstSigle(inconnu.mot) || EstDUneAutreVariante(forme, inconnu) ||
+        (inconnu.capitale && EstConnuAilleurs(forme, *inconnu.lexique))) {
         return false;
     }
     QStringList suggestions = DonneSuggestions(*inconnu.lexique, forme);

@@ -29,6 +29,7 @@ class MoteurHunspell : public Moteur {
 
     Lexique* TrouveLexique(QString const& langue, QString const& texte,
                            EtendueDeLangue const& etendue);
+    bool EstDUneAutreVariante(QString const& forme, Inconnu const& inconnu);
     bool EstConnuAilleurs(QString const& forme, Lexique const& lexique);
     void ApprendsNoms(QString const& texte, std::vector<Inconnu> const& inconnus);
     bool FaisRemarque(ParagrapheAExaminer const& paragraphe, Inconnu const& inconnu,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "MoteurRegles.h"
 
+#include "Confusions.h"
 #include "commun/MessagesHote.h"
 #include "moteurs/FaisParagraphe.h"
 
@@ -170,6 +171,7 @@ std::vector<Remarque> MoteurRegles::Examine(ParagrapheAExaminer const& paragraph
     Fouille const fouille(paragraphe, remarques);
     ChercheRepetitions(fouille);
     ChercheEspaces(fouille);
+    ChercheConfusions(paragraphe, remarques);
     if (espacesFrancaises_) {
         ChercheEspacesFrancaises(fouille);
     }

@@ -6,7 +6,7 @@
 namespace hote {
 
 /// A few rules that need no dictionary, for French and English: words written twice, doubled
-/// spaces, a space before a comma or a full stop, none behind them.
+/// spaces, a space before a comma or a full stop, none behind them, words taken for others.
 class MoteurRegles : public Moteur {
   public:
     /// `espacesFrancaises`: also no space before « : ; ! ? » where the country's custom has one,

@@ -16,6 +16,7 @@ namespace {
 constexpr int kMotsDUneCitation = 2;
 constexpr int kMotsDUnePhrase = 4;
 constexpr double kPartEtrangere = 0.8;  ///< known words of a text in the right language
+constexpr double kEcart = 0.15;         ///< by which another language must know more
 constexpr double kPartHorsLangue = 0.4; ///< of one in a language that nobody knows
 
 QRegularExpression Fais(char const* motif) {
@@ -103,12 +104,12 @@ std::optional<QString> Preparateur::DevineLangue(QString const& partie, QString 
         return std::nullopt;
     }
     double const sienne = DonnePartConnue(formes, langue);
-    if (sienne < 0 || sienne >= kPartEtrangere) {
+    if (sienne < 0 || sienne >= (citation ? 1.0 : kPartEtrangere)) {
         return std::nullopt;
     }
     QString const seule = DonneLangueSansPays(langue);
     QString meilleure;
-    double part = std::max(kPartEtrangere, sienne + 0.2);
+    double part = std::max(kPartEtrangere, sienne + kEcart);
     for (char const* autre : {"fr", "en", "de", "es", "it", "nl", "pt"}) {
         QString const etiquette = QLatin1String(autre);
         double const connue = etiquette == seule ? -1 : DonnePartConnue(formes, etiquette);

@@ -7,7 +7,7 @@ import sys
 
 # What clean texts are full of, or what spelling and the writer's own taste decide.
 ETEINTES = ("apos", "nbsp", "num", "nf", "unit", "liga", "mapos", "ocr", "poncfin", "neg", "redon1",
-            "redon2", "mc", "idrule", "html", "latex", "md", "tab", "eepi", "minis", "chim")
+            "redon2", "mc", "idrule", "html", "latex", "md", "tab", "pleo", "eepi", "minis", "chim")
 GENRES = {
     "gn": "accord", "conj": "accord", "ppas": "accord", "infi": "accord", "eleu": "accord",
     "conf": "confusion", "loc": "confusion", "inte": "confusion", "imp": "confusion",
@@ -61,6 +61,8 @@ def fais_remarque(faute: dict, places: list[int]) -> dict:
     genre = GENRES.get(faute["sType"], "typographie")
     suggestions = [s for s in faute["aSuggestions"] if s]
     surete = SURETES[genre]
+    if faute["sType"] == "ppas": # where the verb is the wrong one, a participle made to agree with it is too
+        surete = 0.7
     if len(suggestions) != 1:
         surete = min(surete, 0.6 if suggestions else 0.5)
     return {
