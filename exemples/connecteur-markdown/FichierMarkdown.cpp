@@ -10,7 +10,7 @@
 namespace {
 
 std::optional<QByteArray> LisOctets(QString const& chemin) {
-    constexpr qint64 kTailleMax = 32 * 1024 * 1024;
+    constexpr qint64 kTailleMax = qint64{32} * 1024 * 1024;
     QFile fichier(chemin);
     if (!fichier.open(QIODevice::ReadOnly)) {
         return std::nullopt;
