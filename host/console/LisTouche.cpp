@@ -83,7 +83,7 @@ std::optional<QString> LisTouche(std::istream& entree, Sortie& sortie, std::stri
     if (sortie.EstRompue()) {
         return std::nullopt;
     }
-    auto const touche = LisAuTerminal();
+    auto touche = LisAuTerminal();
     bool const visible = touche && !touche->isEmpty() && touche->at(0).isPrint();
     sortie.Ecris((visible ? touche->toStdString() : std::string()) + '\n');
     return touche;

@@ -28,7 +28,7 @@ QString Remplis(QString texte, LieuxMoteur const& lieux) {
 
 QStringList LisListe(QJsonValue const& valeur, LieuxMoteur const& lieux) {
     QStringList liste;
-    for (QJsonValue const& element : valeur.toArray()) {
+    for (auto const& element : valeur.toArray()) {
         liste.append(Remplis(element.toString(), lieux));
     }
     return liste;

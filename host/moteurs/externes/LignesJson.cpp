@@ -39,7 +39,7 @@ GenreDeRemarque LisGenre(QString const& nom) {
 
 QStringList LisSuggestions(QJsonValue const& valeur) {
     QStringList suggestions;
-    for (QJsonValue const& element : valeur.toArray()) {
+    for (auto const& element : valeur.toArray()) {
         QString const suggestion = element.toString();
         bool const bonne = element.isString() && suggestion.size() <= kTexteMax &&
                            std::none_of(suggestion.begin(), suggestion.end(), [](QChar unite) {
@@ -108,7 +108,7 @@ std::optional<ReponseDeMoteur> LisReponse(std::string const& ligne) {
     if (!remarques.isArray() && reponse.erreur.isEmpty()) {
         return std::nullopt;
     }
-    for (QJsonValue const& remarque : remarques.toArray()) {
+    for (auto const& remarque : remarques.toArray()) {
         if (reponse.remarques.size() < kRemarquesMax && remarque.isObject()) {
             reponse.remarques.push_back(LisRemarque(remarque.toObject()));
         }

@@ -89,6 +89,7 @@ Processus::Processus(std::vector<std::string> const& commande) {
 void Processus::Lance(std::vector<std::string> const& commande, int entree, int sortie,
                       int erreur) {
     std::vector<char*> arguments;
+    arguments.reserve(commande.size() + 1);
     for (std::string const& argument : commande) {
         arguments.push_back(const_cast<char*>(argument.c_str())); // only read
     }

@@ -38,7 +38,7 @@ class Processus {
     /// The last line that it wrote to its standard error so far; may be empty.
     std::string DonneDerniereErreur() const;
 
-    static constexpr std::size_t kLigneMax = 8 * 1024 * 1024; ///< bytes
+    static constexpr std::size_t kLigneMax = std::size_t{8} * 1024 * 1024; ///< bytes
 
   private:
     void Lance(std::vector<std::string> const& commande, int entree, int sortie, int erreur);
