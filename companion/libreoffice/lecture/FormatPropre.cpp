@@ -84,17 +84,6 @@ void FormatPropre::Mets(uno::Reference<text::XTextRange> const& lettres) const {
     }
 }
 
-void FormatPropre::OteLeReste(uno::Reference<text::XTextRange> const& lettres) const {
-    uno::Reference<beans::XPropertyState> const format(lettres, uno::UNO_QUERY_THROW);
-    uno::Sequence<beans::PropertyState> const etatsLa = format->getPropertyStates(noms_);
-    for (sal_Int32 i = 0; i < noms_.getLength(); ++i) {
-        if (etats_[i] == beans::PropertyState_DEFAULT_VALUE &&
-            etatsLa[i] == beans::PropertyState_DIRECT_VALUE) {
-            format->setPropertyToDefault(noms_[i]);
-        }
-    }
-}
-
 bool AUnFormatPropre(uno::Reference<uno::XInterface> const& objet) {
     for (char const* debut : {"Char", "Para"}) {
         uno::Sequence<OUString> const noms = NomsDe(objet, debut);

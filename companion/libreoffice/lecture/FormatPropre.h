@@ -24,9 +24,6 @@ class FormatPropre {
     /// drawing engine takes nothing away again.
     void Mets(css::uno::Reference<css::text::XTextRange> const& lettres) const;
 
-    /// Takes from letters of a text of Writer's what they have of their own and this one has not.
-    void OteLeReste(css::uno::Reference<css::text::XTextRange> const& lettres) const;
-
   private:
     css::uno::Sequence<rtl::OUString> noms_;
     css::uno::Sequence<css::beans::PropertyState> etats_;

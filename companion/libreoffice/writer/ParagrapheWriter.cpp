@@ -148,7 +148,6 @@ void ParagrapheWriter::Insere(uno::Reference<text::XTextCursor> const& curseur,
             PlaceCurseur(contenant_->texte, paragraphe, 0);
         Avance(mises, CompteLesPas(lettres), true);
         format.Mets(mises.get());
-        format.OteLeReste(mises.get()); // of a format set there for what would be typed
     }
 }
 

@@ -272,17 +272,6 @@ class Survie(Cas):
                 ou = texte.index(" t") + 1
                 self.assertEqual(langues(), [(texte[:ou], "de"), (texte[ou:], "it")])
 
-    def test_a_format_set_for_what_would_be_typed_at_a_paragraphs_start_is_not_taken(self):
-        self.texte.setString("eau")
-        debut = self.e.plage(0, 0)
-        debut.CharLocale, debut.CharHeight = Locale("ru", "RU", ""), 30.0
-        self.client.CorrigeDansTexteur(self.client.zones()[0].nom, 0, 0, "mots ", False)
-        mis, la = self.e.plage(0, 5), self.e.plage(5, 8)
-        self.assertEqual((mis.String, mis.CharLocale.Language, mis.CharHeight),
-                         ("mots ", la.CharLocale.Language, la.CharHeight))
-        self.doc.UndoManager.undo()
-        self.assertEqual(self.texte.String, "eau")
-
     def saisie(self):
         """The input field's words, and all others."""
         portions = self.texte.createEnumeration().nextElement().createEnumeration()
