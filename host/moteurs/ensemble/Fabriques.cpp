@@ -25,7 +25,7 @@ QString DonneLangue(ParagrapheAExaminer const& paragraphe, int position) {
     return {};
 }
 
-EstRefusee FaisRefus(std::shared_ptr<ReglagesHote const> reglages, QString const& document) {
+EstRefusee FaisRefus(std::shared_ptr<ReglagesHote const> const& reglages, QString const& document) {
     return [reglages, document](Remarque const& remarque, ParagrapheAExaminer const& paragraphe) {
         if (reglages->EstRegleEteinte(remarque.moteur, remarque.regle)) {
             return true;
