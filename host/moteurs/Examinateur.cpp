@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MPL-2.0
 #include "Examinateur.h"
 
-#include <QMetaObject>
-
 namespace hote {
 
 /// Takes what the engines' threads say to the thread of the object.
@@ -35,11 +33,8 @@ class Examinateur::Relais : public Atelier::Abonne {
     }
 
   private:
-    template <class Fonction>
-    void Poste(Fonction fonction) {
-        // What is still posted when the object goes away goes with it.
-        QMetaObject::invokeMethod(&examinateur_, fonction, Qt::QueuedConnection);
-    }
+    // What is still posted when the object goes away goes with it.
+    void Poste(std::function<void()> const& travail) { Q_EMIT examinateur_.AFaire(travail); }
 
     Examinateur& examinateur_;
 };
@@ -50,6 +45,10 @@ Examinateur::Examinateur(Atelier::Reglage reglage, QObject* parent)
     , atelier_(std::make_unique<Atelier>(std::move(reglage), *relais_)) {
     qRegisterMetaType<std::vector<hote::Remarque>>("std::vector<hote::Remarque>");
     qRegisterMetaType<hote::EtatMoteur>("hote::EtatMoteur");
+    qRegisterMetaType<std::function<void()>>("std::function<void()>");
+    connect(
+        this, &Examinateur::AFaire, this, [](std::function<void()> const& travail) { travail(); },
+        Qt::QueuedConnection);
 }
 
 Examinateur::~Examinateur() = default;

@@ -6,6 +6,9 @@
 #include <QObject>
 #include <QSet>
 
+#include <functional>
+#include <memory>
+
 namespace hote {
 
 /// The workshop for those who live in an event loop: has paragraphs examined by the engines that
@@ -34,6 +37,8 @@ class Examinateur : public QObject {
     void ParagrapheExamine(quint64 jeton);
     /// Told when it changes; `message` says why an engine is missing or failed, else it is empty.
     void EtatDuMoteur(QString moteur, hote::EtatMoteur etat, QString message);
+    /// Its own: what the engines' threads leave for this thread.
+    void AFaire(std::function<void()> travail);
 
   private:
     class Relais;
