@@ -68,7 +68,7 @@ class Seance {
 
   private:
     static std::shared_ptr<ReglagesHote> DonneReglages() {
-        auto const reglages = std::make_shared<ReglagesHote>();
+        auto reglages = std::make_shared<ReglagesHote>();
         reglages->Charge();
         for (QString const& dossier : ReglagesHote::DonneDossiersDuBureau()) {
             reglages->LisDictionnairesDuBureau(dossier);

@@ -36,7 +36,7 @@ class Hote:
 
     def corrige(self, identifiant, langue="fr", statut=0):
         return json.loads(self.lance("corrige", identifiant, "--langue", langue, "--automatique",
-                                     "--sortie", "json", statut=statut))
+                                     "--tout", "--sortie", "json", statut=statut))
 
 
 class Pilote:

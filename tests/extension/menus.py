@@ -22,7 +22,7 @@ print("the host was here")
 
 # A terminal as real ones are: a command after -e, on a pseudo-terminal that ends with it.
 TERMINAL = """#!{python}
-import json, os, pathlib, pty, sys
+import json, os, pathlib, pty, sys, termios
 option, *commande = sys.argv[1:]
 a_part = os.getsid(0) == os.getpid()
 assert option == "-e", option
@@ -35,7 +35,8 @@ reponses = os.environ.get("VOCALYNE_ESSAI_REPONSES", "").split()
 while not any(invite.encode() in dit for invite in ("Entrée pour fermer", "Enter to close")):
     dit += os.read(maitre, 4096)
     while demandes < dit.count(b" > "):
-        os.write(maitre, reponses[demandes].encode() + b"\\n")
+        lignes = termios.tcgetattr(maitre)[3] & termios.ICANON
+        os.write(maitre, reponses[demandes].encode() + (b"\\n" if lignes else b""))
         demandes += 1
 reste_ouvert = os.waitpid(pid, os.WNOHANG) == (0, 0)
 os.write(maitre, b"\\n")
@@ -48,7 +49,8 @@ os.rename({notes!r} + ".neuf", {notes!r})
 
 class Outils:
     """A host and a terminal of the test's own, in a folder with a name that shells would trip over.
-    The terminal types the words of VOCALYNE_ESSAI_REPONSES, one at each question of a host."""
+    The terminal types the words of VOCALYNE_ESSAI_REPONSES, one at each question of a host, and Enter
+    where a line is waited for, not a key."""
 
     def __init__(self, nom):
         self.dossier = banc.DOSSIER / f"outils de l'essai; {nom}"

@@ -68,9 +68,9 @@ class DemoLibreOffice(Essai):
         # In the body, in bold, in a comment, in a footnote, in a table.
         for faute, juste in (("acceuil", "accueil"), ("bibliotèque", "bibliothèque"), ("soufert", "souffert"),
                              ("juilet", "juillet"), ("definately", "definitely"), ("acctually", "actually"),
-                             ("wellcome", "welcome"), ("libary", "library")):
+                             ("Wednesdey", "Wednesday"), ("libary", "library")):
             self.assertIn(f"[-{faute}-]{{+{juste}+}}", sortie)
-        for nom, mots in (("francais", "accueil souffert septembre"), ("english", "definitely welcome Wednesday")):
+        for nom, mots in (("francais", "accueil souffert septembre"), ("english", "definitely library Wednesday")):
             self.assertIn(f"images/{nom}.png", sortie)
             self.assertEqual((images / f"{nom}.png").read_bytes()[:8], b"\x89PNG\r\n\x1a\n")
             pages = subprocess.run(["pdftotext", images / f"{nom}.pdf", "-"], capture_output=True, text=True,
