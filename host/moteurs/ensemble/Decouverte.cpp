@@ -64,6 +64,7 @@ std::vector<DescriptionMoteur> DecouvreMoteurs(ReglagesHote const& reglages, QSt
         }
     }
     std::vector<DescriptionMoteur> descriptions;
+    descriptions.reserve(trouves.size());
     for (auto& trouve : trouves) {
         descriptions.push_back(std::move(trouve.second));
     }
