@@ -13,6 +13,7 @@ std::vector<std::string> Cherche(char const* utf8, char const* langue) {
     std::vector<Remarque> remarques;
     ChercheConfusions({texte, {{0, texte.size(), QLatin1String(langue)}}}, remarques);
     std::vector<std::string> trouvees;
+    trouvees.reserve(remarques.size());
     for (Remarque const& r : remarques) {
         trouvees.push_back(
             (texte.mid(r.debut, r.fin - r.debut) + QLatin1Char('|') + r.suggestions.first())

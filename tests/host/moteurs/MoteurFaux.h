@@ -26,7 +26,7 @@ class MoteurFaux : public hote::Moteur {
     Examen examen_;
 };
 
-inline hote::MoteurFabrique Fabrique(char const* nom, MoteurFaux::Examen examen) {
+inline hote::MoteurFabrique Fabrique(char const* nom, MoteurFaux::Examen const& examen) {
     return {QString::fromUtf8(nom), [examen] { return std::make_unique<MoteurFaux>(examen); }, 1};
 }
 

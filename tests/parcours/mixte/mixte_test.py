@@ -45,7 +45,7 @@ class Mixte(unittest.TestCase):
 
     def test_a_32_bit_host_corrects_a_document_of_a_64_bit_office(self):
         with bus_prive(self.env) as env, bureau(BUREAU_64, [self.document], env) as [identifiant]:
-            self.dans_la_racine(HOTE_32, "corrige", identifiant, "--langue", "fr", "--automatique", env=env)
+            self.dans_la_racine(HOTE_32, "corrige", identifiant, "--langue", "fr", "--tout", env=env)
         self.assertEqual(self.document.read_text(encoding="utf-8"), CORRIGE)
 
     def test_hosts_of_both_architectures_read_the_same_in_the_same_document(self):
