@@ -7,7 +7,7 @@
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QSocketNotifier>
-#include <QTimer>
+#include <QTimerEvent>
 
 #include <chrono>
 #include <cstdio>
@@ -30,10 +30,14 @@ QString Repondeur::SynchronisePositions(QString const& leId) {
 
 QString Repondeur::DonneTitreDocument(QDBusMessage const& appel) {
     appel.setDelayedReply(true);
-    QTimer::singleShot(kRetard, this, [appel] {
-        QDBusConnection::sessionBus().send(appel.createReply(QStringLiteral("titre")));
-    });
+    enAttente_ = appel;
+    startTimer(kRetard);
     return {};
+}
+
+void Repondeur::timerEvent(QTimerEvent* evenement) {
+    killTimer(evenement->timerId());
+    QDBusConnection::sessionBus().send(enAttente_.createReply(QStringLiteral("titre")));
 }
 
 int Reponds(QString const& instance) {

@@ -20,7 +20,11 @@ class Repondeur : public QObject {
     /// Answers after 100 ms, as an office does that has something else to do first.
     QString DonneTitreDocument(QDBusMessage const& appel);
 
+  protected:
+    void timerEvent(QTimerEvent* evenement) override;
+
   private:
+    QDBusMessage enAttente_; ///< what is answered late
     QString identifiant_;
     QString document_;
 };

@@ -84,7 +84,7 @@ std::optional<FichiersDictionnaire> LocaliseDictionnaire(std::string const& etiq
     std::string nom = etiquette;
     std::replace(nom.begin(), nom.end(), '-', '_');
     for (std::string const& dossier : dossiers) {
-        if (auto const fichiers = DonneFichiers(dossier + '/' + nom)) {
+        if (auto fichiers = DonneFichiers((fs::path(dossier) / nom).string())) {
             return fichiers;
         }
     }
@@ -98,7 +98,7 @@ std::vector<FichiersDictionnaire> LocaliseVariantes(std::string const& langue,
     std::set<std::string> vues; // French ones are often one file under many names
     for (std::string const& dossier : dossiers) {
         for (std::string const& nom : DonneNoms(langue, dossier)) {
-            auto const fichiers = DonneFichiers(dossier + '/' + nom);
+            auto const fichiers = DonneFichiers((fs::path(dossier) / nom).string());
             std::error_code erreur;
             if (fichiers && vues.insert(fs::canonical(fichiers->mots, erreur).string()).second) {
                 variantes.push_back(*fichiers);
