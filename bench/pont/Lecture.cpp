@@ -74,31 +74,22 @@ Courbe CourbeDeLecture(Ampleur ampleur) {
     return courbe;
 }
 
-LigneDeMesure MesureCroissance(Ampleur ampleur) {
-    constexpr int kRapport = 100;
-    auto const petit = ampleur.Taille(100);
-    auto const grand = petit * kRapport;
-    auto const petite = Reponse(FaisDocument(petit));
-    auto const grande = Reponse(FaisDocument(grand));
-    auto const medianes = Alterne(
-        ampleur.Tours(31), [&] { return Occupe([&] { LisEtLibere(grande, grand); }) / grand; },
+namespace {
+
+/// Microseconds a zone: of the long document, and of the short one read as often as the long one
+/// has its zones.
+Medianes ParZone(QString const& longue, int grand, QString const& courte, int petit, int tours) {
+    return Alterne(
+        tours, [&] { return Occupe([&] { LisEtLibere(longue, grand); }) / grand; },
         [&] {
             return Occupe([&] {
-                       for (int fois = 0; fois < kRapport; ++fois) {
-                           LisEtLibere(petite, petit);
+                       for (int lues = 0; lues < grand; lues += petit) {
+                           LisEtLibere(courte, petit);
                        }
                    }) /
                    grand;
         });
-    return {"a zone of a long document / of a short one",
-            medianes.mesure,
-            medianes.reference,
-            "us/zone",
-            1.4,
-            std::to_string(grand) + " / " + std::to_string(petit) + " zones"};
 }
-
-namespace {
 
 /// Zones of a word each, as in a large spreadsheet.
 QString ReponseDeMots(int nombre) {
@@ -112,22 +103,24 @@ QString ReponseDeMots(int nombre) {
 
 } // namespace
 
+LigneDeMesure MesureCroissance(Ampleur ampleur) {
+    auto const petit = ampleur.Taille(100);
+    auto const grand = petit * 100;
+    auto const medianes = ParZone(Reponse(FaisDocument(grand)), grand, Reponse(FaisDocument(petit)),
+                                  petit, ampleur.Tours(31));
+    return {"a zone of a long document / of a short one",
+            medianes.mesure,
+            medianes.reference,
+            "us/zone",
+            1.4,
+            std::to_string(grand) + " / " + std::to_string(petit) + " zones"};
+}
+
 LigneDeMesure MesureMillion(Ampleur ampleur) {
-    constexpr int kRapport = 1000;
     auto const petit = ampleur.Taille(1000);
-    auto const grand = petit * kRapport;
-    auto const petite = ReponseDeMots(petit);
-    auto const grande = ReponseDeMots(grand);
-    auto const medianes = Alterne(
-        ampleur.Tours(7), [&] { return Occupe([&] { LisEtLibere(grande, grand); }) / grand; },
-        [&] {
-            return Occupe([&] {
-                       for (int fois = 0; fois < kRapport; ++fois) {
-                           LisEtLibere(petite, petit);
-                       }
-                   }) /
-                   grand;
-        });
+    auto const grand = petit * 1000;
+    auto const medianes =
+        ParZone(ReponseDeMots(grand), grand, ReponseDeMots(petit), petit, ampleur.Tours(7));
     return {"a zone of a word among a million / among a thousand",
             medianes.mesure,
             medianes.reference,
